@@ -1,0 +1,35 @@
+# JUCE, compiled once into one static library with the modules that the product uses and no others.
+
+find_package(JUCE CONFIG REQUIRED)
+
+set(juceModules juce_core juce_events juce_data_structures juce_graphics juce_gui_basics juce_opengl)
+add_library(halcyra_juce STATIC)
+add_library(halcyra::juce ALIAS halcyra_juce)
+foreach(module IN LISTS juceModules)
+    target_sources(halcyra_juce PRIVATE "${CMAKE_SOURCE_DIR}/cmake/juce/${module}.cpp")
+endforeach()
+target_include_directories(halcyra_juce SYSTEM PUBLIC "${JUCE_MODULES_DIR}")
+target_compile_definitions(halcyra_juce PUBLIC
+    JUCE_GLOBAL_MODULE_SETTINGS_INCLUDED=1
+    JUCE_STANDALONE_APPLICATION=0
+    JUCE_DISPLAY_SPLASH_SCREEN=0
+    JUCE_USE_DARK_SPLASH_SCREEN=0
+    JUCE_REPORT_APP_USAGE=0
+    JUCE_WEB_BROWSER=0
+    JUCE_USE_CURL=0
+    JUCE_STRICT_REFCOUNTEDPOINTER=1
+    JUCE_MODAL_LOOPS_PERMITTED=0
+    JUCE_USE_XRANDR=0 JUCE_USE_XINERAMA=0 JUCE_USE_XCURSOR=0
+    JUCE_INCLUDE_ZLIB_CODE=0 JUCE_INCLUDE_PNGLIB_CODE=0 JUCE_INCLUDE_JPEGLIB_CODE=0
+    $<IF:$<CONFIG:Release,Sanitized>,NDEBUG=1,DEBUG=1>
+    $<IF:$<CONFIG:Release,Sanitized>,JUCE_DEBUG=0,JUCE_DEBUG=1>)
+foreach(module IN LISTS juceModules)
+    target_compile_definitions(halcyra_juce PUBLIC JUCE_MODULE_AVAILABLE_${module}=1)
+endforeach()
+target_compile_options(halcyra_juce PRIVATE -w)
+if(NOT WIN32)
+    find_package(PkgConfig REQUIRED)
+    pkg_check_modules(JUCE_LINUX REQUIRED IMPORTED_TARGET freetype2 libpng libjpeg zlib)
+    find_package(Threads REQUIRED)
+    target_link_libraries(halcyra_juce PUBLIC PkgConfig::JUCE_LINUX Threads::Threads ${CMAKE_DL_LIBS} rt)
+endif()

@@ -1,0 +1,1 @@
+#include <juce_core/juce_core.cpp>

@@ -1,0 +1,1 @@
+#include <juce_data_structures/juce_data_structures.cpp>

@@ -1,0 +1,1 @@
+#include <juce_events/juce_events.cpp>

@@ -1,0 +1,1 @@
+#include <juce_graphics/juce_graphics.cpp>

@@ -1,0 +1,1 @@
+#include <juce_opengl/juce_opengl.cpp>
