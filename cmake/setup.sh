@@ -1,0 +1,48 @@
+# Sourced by the commands at the root: gets the packages, configures and builds. Chatter goes to standard error.
+# Expects $root, the folder of the project.
+
+# need_packages run test ...: installs what is missing of these groups, or names it and ends.
+need_packages()
+{
+    local groups missing
+    groups=$(IFS='|'; echo "$*")
+    missing=$(sed -nE "s/^($groups)[[:space:]]+//p" "$root/cmake/packages" | while read -r package; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || echo "$package"
+    done)
+    [ -z "$missing" ] && return
+    # shellcheck disable=SC2086 # one word a package
+    set -- $missing
+    if [ "$(id -u)" = 0 ]; then
+        install_packages "$@"
+    elif command -v sudo >/dev/null 2>&1 && sudo -n true 2>/dev/null || { [ -t 0 ] && command -v sudo >/dev/null 2>&1; }; then
+        install_packages_by sudo "$@"
+    else
+        echo "These packages are missing: $*" >&2
+        echo "Install them with: apt-get install $*" >&2
+        exit 1
+    fi
+}
+
+install_packages() { install_packages_by env "$@"; }
+
+install_packages_by()
+{
+    local by=$1
+    shift
+    echo "Installing: $*" >&2
+    { "$by" apt-get update -q && "$by" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "$@"; } \
+        >"${TMPDIR:-/tmp}/halcyra-install.log" 2>&1 ||
+        { tail -n 20 "${TMPDIR:-/tmp}/halcyra-install.log" >&2; echo "The packages could not be installed." >&2; exit 1; }
+}
+
+# build PRESET [TARGET ...]: configures once, then brings the targets up to date.
+build()
+{
+    local preset=$1 tree=$root/build/$1
+    shift
+    if [ ! -f "$tree/build.ninja" ]; then
+        echo "Configuring $preset" >&2
+        (cd "$root" && cmake --preset "$preset") >&2 || exit 1
+    fi
+    cmake --build "$tree" ${1:+--target "$@"} >&2 || exit 1
+}
