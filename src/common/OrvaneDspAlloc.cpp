@@ -8,30 +8,30 @@
 namespace qel
 {
 
-void* allocate (std::size_t bytes)
+// The C library's storage has the alignment already, on every platform that the library is built for.
+static_assert (alignof (std::max_align_t) >= alignment);
+
+namespace
 {
-    const auto wanted = std::max<std::size_t> (bytes, 1);
-    if (wanted > SIZE_MAX - alignment)
-        throw Exception ("allocation overflow.", QEL_HERE);
-    void* const p = std::malloc (wanted);
+
+void* tested (void* p)
+{
     if (p == nullptr)
         throw Exception ("bad allocation", QEL_HERE);
     return p;
 }
 
-void* reallocate (void* p, std::size_t bytes)
-{
-    void* const moved = std::realloc (p, std::max<std::size_t> (bytes, 1));
-    if (moved == nullptr)
-        throw Exception ("bad allocation", QEL_HERE);
-    return moved;
 }
+
+void* allocate (std::size_t bytes) { return tested (std::malloc (std::max<std::size_t> (bytes, 1))); }
+
+void* reallocate (void* p, std::size_t bytes) { return tested (std::realloc (p, std::max<std::size_t> (bytes, 1))); }
 
 void free (void* p) noexcept { std::free (p); }
 
 std::size_t byteCount (std::size_t count, std::size_t size)
 {
-    if (count > SIZE_MAX / size)
+    if (size != 0 && count > SIZE_MAX / size)
         throw Exception ("allocation overflow.", QEL_HERE);
     return count * size;
 }

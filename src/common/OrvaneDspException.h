@@ -7,26 +7,40 @@
 namespace qel
 {
 
-/** Where an exception was raised: the source file's bare name and its line, 0 for not known. */
+/** A place in the sources as the compiler tells it: two words, so that carrying it costs nothing until it is told. */
+struct SourcePlace
+{
+    const char* file;
+    std::uint64_t line;
+};
+
+/** The place where it stands. */
+#define QEL_HERE (::qel::SourcePlace{ __FILE__, static_cast<std::uint64_t> (__LINE__) })
+
+/** Where an exception was raised: the source file's bare name, which may be empty, and its line, 0 for not known. */
 struct SourceLocation
 {
     SourceLocation() = default;
+    SourceLocation (const SourcePlace& place);
     /** Leading folders of the file are removed. */
     SourceLocation (const String& file, std::uint64_t line);
+
+    /** The file in double quotation marks, and " (line N)" for a known line. */
+    [[nodiscard]] String toText() const;
 
     String file;
     std::uint64_t line = 0;
 };
 
-/** The place where it stands, for an exception's location. */
-#define QEL_HERE ::qel::SourceLocation (__FILE__, static_cast<std::uint64_t> (__LINE__))
-
-/** The root of the library's failures. It tells itself on the error stream when it is constructed, caught or not. */
+/** The root of the library's failures. It tells itself when it is constructed, caught or not: on the error stream
+    and, where the platform has one, on the debug channel. Copies are silent. */
 class Exception : public std::exception
 {
 public:
-    explicit Exception (const String& message, const SourceLocation& where = {}, bool report = true,
+    explicit Exception (const String& text, const SourceLocation& where = {}, bool report = true,
                         bool exitAfterwards = false);
+    /** The message of another one, raised again from here. */
+    Exception (const Exception& other, const SourceLocation& where, bool report = true, bool exitAfterwards = false);
     explicit Exception (const std::exception& other, const SourceLocation& where = {}, bool report = true,
                         bool exitAfterwards = false);
 

@@ -1,11 +1,11 @@
 #pragma once
 #include "common/OrvaneDspAlloc.h"
-#include "common/OrvaneDspException.h"
+#include "common/OrvaneDspGuard.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <initializer_list>
-#include <new>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -17,6 +17,7 @@ namespace qel
 template <typename T>
 struct AlignedAllocator
 {
+    static_assert (alignof (T) <= alignment);
     using value_type = T;
 
     AlignedAllocator() = default;
@@ -42,24 +43,8 @@ struct AlignedAllocator
     }
 };
 
-/** Runs an operation that may grow storage, and turns what it raises into the library's own exceptions. */
-template <typename Operation>
-void guardedGrowth (const SourceLocation& where, Operation&& operation)
-{
-    try {
-        operation();
-    } catch (const Exception&) {
-        throw;
-    } catch (const std::bad_alloc&) {
-        throw Exception ("out of memory", where);
-    } catch (const std::exception& e) {
-        throw Exception (String ("exception ") + e.what() + " occurred", where);
-    } catch (...) {
-        throw exceptions::Unknown (where);
-    }
-}
-
-/** A dynamic array on aligned storage, whose growth is guarded. Elements are not bounds-tested. */
+/** A dynamic array on 16-byte aligned storage, whose growth is guarded (see guardedGrowth). Elements are not
+    bounds-tested. An operation that raises leaves the array as it was. */
 template <typename T>
 class Vector
 {
@@ -72,17 +57,26 @@ public:
     using const_iterator = typename Storage::const_iterator;
 
     Vector() = default;
+    /** Elements as their default constructor makes them, numbers 0. */
     explicit Vector (std::size_t size)
     {
-        guardedGrowth (QEL_HERE, [&] { items.resize (size); });
+        grow ([&] { items.resize (size); });
     }
     Vector (std::initializer_list<T> values)
     {
-        guardedGrowth (QEL_HERE, [&] { items.assign (values); });
+        grow ([&] { items.assign (values); });
     }
-    Vector (const Vector&) = default;
+    Vector (const Vector& other)
+    {
+        grow ([&] { items = other.items; });
+    }
     Vector (Vector&&) noexcept = default;
-    Vector& operator= (const Vector&) = default;
+    Vector& operator= (const Vector& other)
+    {
+        Vector copy (other);
+        items.swap (copy.items);
+        return *this;
+    }
     Vector& operator= (Vector&&) noexcept = default;
     virtual ~Vector() = default;
 
@@ -93,6 +87,8 @@ public:
     [[nodiscard]] const T* data() const noexcept { return items.data(); }
     [[nodiscard]] T& operator[] (std::size_t index) noexcept { return items[index]; }
     [[nodiscard]] const T& operator[] (std::size_t index) const noexcept { return items[index]; }
+    [[nodiscard]] T& front() noexcept { return items.front(); }
+    [[nodiscard]] const T& front() const noexcept { return items.front(); }
     [[nodiscard]] T& back() noexcept { return items.back(); }
     [[nodiscard]] const T& back() const noexcept { return items.back(); }
 
@@ -102,22 +98,40 @@ public:
     const_iterator end() const noexcept { return items.end(); }
 
     /** Does nothing, and so cannot raise, when the array has that size already. */
-    void resize (std::size_t size)
+    void resize (std::size_t newSize)
     {
-        if (size != items.size())
-            guardedGrowth (QEL_HERE, [&] {
-                growFor (size);
-                items.resize (size);
+        if (newSize != size())
+            grow ([&] {
+                reserveFor (newSize);
+                items.resize (newSize);
             });
     }
-    /** The value may lie inside this very array. */
-    void push_back (T value)
+
+    /** The value may lie inside this very array: its index is taken before the array moves. */
+    void push_back (const T& value)
     {
-        guardedGrowth (QEL_HERE, [&] {
-            growFor (items.size() + 1);
+        if (size() < capacity() || ! isInside (value)) {
+            grow ([&] {
+                reserveFor (size() + 1);
+                items.push_back (value);
+            });
+            return;
+        }
+        const auto index = static_cast<std::size_t> (&value - data());
+        grow ([&] {
+            reserveFor (size() + 1);
+            items.push_back (items[index]);
+        });
+    }
+    /** The value must not lie inside this array. */
+    void push_back (T&& value)
+    {
+        grow ([&] {
+            reserveFor (size() + 1);
             items.push_back (std::move (value));
         });
     }
+
     void erase (std::size_t index) { items.erase (items.begin() + static_cast<std::ptrdiff_t> (index)); }
     void clear() noexcept { items.clear(); }
 
@@ -125,10 +139,23 @@ public:
     friend bool operator!= (const Vector& a, const Vector& b) { return a.items != b.items; }
 
 private:
-    void growFor (std::size_t size)
+    template <typename Operation>
+    static void grow (Operation&& operation)
     {
-        if (size > items.capacity())
-            items.reserve (std::max (size, items.capacity() + items.capacity() / 2));
+        guardedGrowth (QEL_HERE, GuardText::whatOccurred, std::forward<Operation> (operation));
+    }
+
+    /** Grows by half, or to the size that is needed if that is more. */
+    void reserveFor (std::size_t needed)
+    {
+        if (needed > capacity())
+            items.reserve (std::max (needed, capacity() + capacity() / 2));
+    }
+
+    [[nodiscard]] bool isInside (const T& value) const noexcept
+    {
+        const std::less<const T*> before;
+        return ! before (&value, data()) && before (&value, data() + size());
     }
 
     Storage items;

@@ -1,0 +1,47 @@
+#pragma once
+#include "math/OrvaneDspVector.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace qel
+{
+
+/** Listeners, not owned: sorted by pointer, each once, null ignored. They are called from the last to the first, and
+    one that is called may remove itself or others. One thread. */
+template <typename Listener>
+class Listeners
+{
+public:
+    void add (Listener* listener)
+    {
+        if (listener == nullptr || contains (listener))
+            return;
+        list.push_back (listener);
+        std::sort (list.begin(), list.end(), std::less<Listener*>());
+    }
+    void remove (Listener* listener) noexcept
+    {
+        const auto place = std::find (list.begin(), list.end(), listener);
+        if (place != list.end())
+            list.erase (static_cast<std::size_t> (place - list.begin()));
+    }
+    [[nodiscard]] bool contains (const Listener* listener) const noexcept
+    {
+        return std::find (list.begin(), list.end(), listener) != list.end();
+    }
+    [[nodiscard]] std::size_t size() const noexcept { return list.size(); }
+
+    /** call ([&] (Listener& listener) { listener.somethingChanged(); }) */
+    template <typename Function>
+    void call (Function&& function)
+    {
+        for (std::size_t i = list.size(); i > 0; i = std::min (i - 1, list.size()))
+            function (*list[i - 1]);
+    }
+
+private:
+    Vector<Listener*> list;
+};
+
+}

@@ -1,0 +1,27 @@
+#pragma once
+#include "math/OrvaneDspVector.h"
+
+namespace qel
+{
+
+enum class SortMethod
+{
+    introsort = 0,
+    quicksort = 1,
+    heapsort = 2,
+    insertionSort = 3
+};
+
+/** Ascending, in place. Introsort and heapsort take n log n steps at the worst. */
+void sort (int* values, std::size_t count, SortMethod method = SortMethod::introsort);
+void sort (Vector<int>& values, SortMethod method = SortMethod::introsort);
+
+/** Whether a value stands more than once. An array that is not known to be sorted is looked at in a sorted copy. */
+[[nodiscard]] bool hasRepetitions (const int* values, std::size_t count, bool isSorted);
+[[nodiscard]] bool hasRepetitions (const Vector<int>& values, bool isSorted);
+
+/** 0 for an empty array. */
+[[nodiscard]] int maximum (const int* values, std::size_t count) noexcept;
+[[nodiscard]] int minimum (const int* values, std::size_t count) noexcept;
+
+}
