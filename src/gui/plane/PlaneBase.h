@@ -1,0 +1,146 @@
+#pragma once
+#include "gui/plane/ComponentWithOscInterface.h"
+#include "gui/plane/PlaneListener.h"
+#include "gui/plane/surface/Surface.h"
+#include "gui/plane/view/StaticCache.h"
+
+namespace lumo
+{
+
+/** The surface of the scene editor: view, zoom, grid, axes, legend, background, anchors and shoebox. Message thread.
+    Setters clamp in silence, refuse what is not finite, and repaint; most tell the listeners OptionsChanged. */
+class PlaneBase : public ComponentWithOscInterface
+{
+public:
+    explicit PlaneBase (const juce::String& name);
+
+    /** What the layers read. */
+    [[nodiscard]] const Plane::Surface& GetSurface() const noexcept { return surface; }
+    /** Copies the flags of the view, but for the selection of the listener. */
+    void GetOptions (PlaneOptions& copy) const;
+
+    /** Listeners are not owned, and are called in the order of adding. Null or a second add is ignored. */
+    void AddListener (PlaneListener* listener);
+    void RemoveListener (PlaneListener* listener);
+
+    /** The scene, as far as the surface knows of it: nothing at the origin. */
+    [[nodiscard]] virtual const qel::Point3& GetSourcePosition (std::size_t index) const;
+    [[nodiscard]] virtual const qel::Point3& GetSpeakerPosition (std::size_t index) const;
+    [[nodiscard]] virtual std::size_t GetNumSources() const { return 0; }
+    [[nodiscard]] virtual std::size_t GetNumSpeakers() const { return 0; }
+    [[nodiscard]] const qel::Point3& GetListenerPosition() const noexcept { return surface.listener.position; }
+
+    // The view. Offsets are pixels, positive to the right and up.
+    void SetViewerVisible (bool visible);
+    void SetTopView (bool on);
+    void SetFrontView (bool on);
+    /** "front" selects the front view, any other text the top view. */
+    void SetViewpoint (const qel::String& name);
+    void SetZoom (float zoom, bool repaintNow);
+    void SetZoomLock (bool locked) { surface.options.zoomLocked = locked; }
+    void SetRightClickLock (bool locked) { surface.options.rightClickLocked = locked; }
+    void SetXOffset (float pixels);
+    void SetYOffset (float pixels);
+    void SetZOffset (float pixels);
+    /** 0.001 to 1 of the width: the margin of the scene, and the size of anchors and label boxes. */
+    void SetMarkerProportion (float proportion);
+
+    // The background. The angle is in radians, the offsets proportions of the scaled image.
+    void SetBackgroundColour (float red, float green, float blue, float alpha);
+    void SetBackgroundColour (juce::Colour colour);
+    void SetBackgroundImageFile (const juce::File& file);
+    void ClearBackgroundImage();
+    void SetBackgroundImageOpacity (float opacity);
+    void SetBackgroundImageScale (float percent);
+    void SetBackgroundImageXOffset (float offset);
+    void SetBackgroundImageYOffset (float offset);
+    void SetBackgroundImageAngle (float radians);
+    void SetBackgroundImageQuality (int quality);
+    void SetBackgroundImageQuality (const qel::String& name);
+    void SetBackgroundImageVisible (bool visible);
+    [[nodiscard]] bool GetBackgroundImageVisible() const noexcept { return surface.backgroundImage.visible; }
+
+    // The grid. Lines up to 100, divisions up to 360, spacing 0.1 to 20 metres.
+    void SetGridMode (const qel::String& name);
+    void SetGridMode (const char* name) { SetGridMode (qel::String (name)); }
+    void SetGridMode (std::int32_t mode);
+    void SetGridSpacing (float metres);
+    void SetGridNumLines (std::uint32_t lines);
+    void SetGridNumAngularDivisions (std::uint32_t divisions);
+    void SetAngularDivisionsVisible (bool visible);
+    void SetGridDashed (bool dashed);
+    /** Tells GridColourChanged, and not OptionsChanged. */
+    void SetGridColour (float red, float green, float blue, float alpha, bool notify);
+    void SetGridColour (juce::Colour colour, bool notify);
+
+    void SetLegendVisible (bool visible);
+    [[nodiscard]] bool GetLegendVisible() const noexcept { return surface.legend.visible; }
+    void SetSpeakersLevelsVisible (bool visible);
+    void SetSourcesLevelsVisible (bool visible);
+
+    void SetNumAnchors (std::size_t number);
+    void SetAnchorPosition (std::size_t index, const qel::Point3& position);
+    void SetAnchorName (std::size_t index, const qel::String& name);
+    void SetAnchorsVisible (bool visible);
+    void SetAnchorsLabelVisible (bool visible);
+    [[nodiscard]] std::size_t GetNumAnchors() const noexcept { return surface.anchors.items.size(); }
+    [[nodiscard]] bool GetAnchorsVisible() const noexcept { return surface.anchors.anchorsVisible; }
+    [[nodiscard]] bool GetAnchorsLabelVisible() const noexcept { return surface.anchors.anchorsLabelVisible; }
+
+    void SetShoebox (const qel::Point3& corner1, const qel::Point3& corner2);
+    void SetShoeboxVisible (bool visible);
+    [[nodiscard]] bool GetShoeboxVisible() const noexcept { return surface.shoebox.visible; }
+
+    /** In mode 0 every setter repaints; in any other the setters that move objects leave that to the caller. */
+    void SetRepaintMode (std::int32_t mode) noexcept { repaintMode = mode; }
+    void SetImmediateRepaint (bool on) noexcept { repaintMode = on ? 0 : 1; }
+
+    bool processOscMessage (const qel::OSCMessage& message) override;
+    qel::OSCBundle getOscState() override;
+
+    void resized() override;
+
+protected:
+    /** Recomputes what the objects keep of the view. */
+    virtual void UpdateScreenPositions();
+
+    template <typename Call>
+    void Notify (Call&& call);
+    void NotifyOptionsChanged();
+    /** How most setters end. */
+    void OptionsChanged();
+    /** How the setters that move objects end. */
+    void RepaintUnlessGated();
+    void MarkStaticLayerDirty() noexcept { staticCache.MarkDirty(); }
+    /** Stores a clamped zoom; false if that changed nothing or the zoom is locked. */
+    bool StoreZoom (float zoom);
+
+    Plane::Surface surface;
+    Plane::StaticCache staticCache;
+
+private:
+    void UpdateTransform();
+    template <typename Value>
+    void SetOption (Value& stored, const Value& value);
+    void SetOffset (float& stored, float pixels);
+
+    std::vector<PlaneListener*> listeners;
+    std::int32_t repaintMode = 0;
+
+    JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (PlaneBase)
+};
+
+/** Safe against listeners that come and go during the walk. */
+template <typename Call>
+void PlaneBase::Notify (Call&& call)
+{
+    for (std::size_t next = 0; next < listeners.size();) {
+        auto* listener = listeners[next];
+        call (*listener);
+        const auto place = std::find (listeners.begin(), listeners.end(), listener);
+        if (place != listeners.end())
+            next = static_cast<std::size_t> (place - listeners.begin()) + 1;
+    }
+}
+
+}

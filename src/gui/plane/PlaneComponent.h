@@ -1,0 +1,174 @@
+#pragma once
+#include "geometry/OrvaneDspCoordinatesSnapshot.h"
+#include "gui/plane/PlaneBase.h"
+#include "gui/plane/objects/Scene.h"
+
+namespace lumo
+{
+
+/** The scene editor: sources, speakers, a listener, areas and anchors in the top or the front view. Message thread.
+
+    Objects are counted from 0; an index past the end is ignored, and so is a number that is not finite.
+    Angles are degrees, positions metres. With notify the PlaneListeners hear of the change.
+    The data stand in objects/, the drawing in painting/, mouse, keys and menu in interaction/. */
+class PlaneComponent : public PlaneBase
+{
+public:
+    /** A square of the given side, 100 to 1600 pixels; sources stand in a ring, speakers in the usual layout. */
+    PlaneComponent (std::size_t numSources, std::size_t numSpeakers, int size);
+    ~PlaneComponent() override;
+
+    /** What the layers read. */
+    [[nodiscard]] const Plane::Scene& GetScene() const noexcept { return scene; }
+
+    // ---- Sources. At most 256.
+    void SetNumSources (std::size_t number, bool notify);
+    [[nodiscard]] std::size_t GetNumSources() const override { return scene.sources.size(); }
+    [[nodiscard]] const qel::Point3& GetSourcePosition (std::size_t index) const override;
+    void SetSourcePosition (std::size_t index, const qel::Point3& position, bool notify);
+    void SetSourceDistance (std::size_t index, float metres, bool notify);
+    void SetSourceAzimuth (std::size_t index, float degrees, bool notify);
+    void SetSourceElevation (std::size_t index, float degrees, bool notify);
+    /** About the listener's position. */
+    void RotateSource (std::size_t index, float yaw, float pitch, float roll, bool notify);
+    void RotateAllSources (float yaw, float pitch, float roll, bool notify);
+
+    void SetSourceYaw (std::size_t index, float degrees, bool notify);
+    void SetSourceYawMode (std::size_t index, const qel::String& name);
+    void SetSourceYawMode (std::size_t index, Plane::Orientation::Mode mode);
+    void SetSourceLookAt (std::size_t index, const qel::Point3& target, bool notify);
+    /** 10 to 180. */
+    void SetSourceAperture (std::size_t index, float degrees, bool notify);
+    void SetSourceApertureVisible (std::size_t index, bool visible);
+    void SetSourceApertureColour (std::size_t index, juce::Colour colour);
+    void SetApertureVisible (bool visible);
+
+    void SetSourceLabel (std::size_t index, const qel::String& label, bool notify);
+    void SetAllSourcesLabel (const qel::String& label, bool notify);
+    void SetSourceLabelVisible (std::size_t index, bool visible);
+    void SetAllSourceLabelsVisible (bool visible);
+    void SetSourceLabelColour (std::size_t index, juce::Colour colour);
+    void SetSourceCoordinatesVisible (std::size_t index, bool visible);
+    void SetSourceColour (std::size_t index, float red, float green, float blue, float alpha, bool notify);
+    void SetSourceVisible (std::size_t index, bool visible, bool notify);
+    void SetAllSourcesVisible (bool visible, bool notify);
+    void SetSourceEditable (std::size_t index, bool editable, bool notify);
+    void SetSourcesEditable (bool editable, bool notify);
+    /** 0.001 to 1 of the width. */
+    void SetSourceProportion (std::size_t index, float proportion);
+    void SetAllSourcesProportion (float proportion);
+    void SetSourceRadius (std::size_t index, float metres, bool notify);
+    void SetAllSourcesRadius (float metres);
+    void SetRadiusVisible (bool visible);
+    /** -60 to 6 dB. Levels do not repaint: the host does, at its own rate. */
+    void SetSourceLevel (std::size_t index, float decibels);
+    void SetSourcesLevels (const qel::Vector<float>& decibels);
+
+    // ---- Speakers. At most 256.
+    void SetNumSpeakers (std::size_t number, bool notify);
+    [[nodiscard]] std::size_t GetNumSpeakers() const override { return scene.speakers.size(); }
+    [[nodiscard]] const qel::Point3& GetSpeakerPosition (std::size_t index) const override;
+    void SetSpeakerPosition (std::size_t index, const qel::Point3& position, bool notify);
+    /** Copies as many as there are speakers. */
+    void SetSpeakersPositions (const qel::Point3Array& positions, bool notify);
+
+    void SetSpeakerName (std::size_t index, const qel::String& name, bool notify);
+    void SetAllSpeakersName (const qel::String& name, bool notify);
+    void SetSpeakerNameVisible (std::size_t index, bool visible);
+    void SetAllSpeakerNamesVisible (bool visible);
+    void SetSpeakerColour (std::size_t index, float red, float green, float blue, float alpha, bool notify);
+    void SetSpeakerVisible (std::size_t index, bool visible, bool notify);
+    void SetAllSpeakersVisible (bool visible, bool notify);
+    /** Refused while the headphones are visible. */
+    void SetSpeakersVisible (bool visible);
+    void SetSpeakerEditable (std::size_t index, bool editable, bool notify);
+    void SetSpeakersEditable (bool editable, bool notify);
+    void SetSpeakerProportion (std::size_t index, float proportion);
+    void SetAllSpeakersProportion (float proportion);
+    void SetSpeakerLevel (std::size_t index, float decibels);
+    void SetSpeakersLevels (const qel::Vector<float>& decibels);
+    void SetHullVisible (bool visible);
+    void SetTriangulationVisible (bool visible);
+    void SetSpeakersRadiusVisible (bool visible);
+    void SetSpeakersProjectionVisible (bool visible);
+
+    // ---- The listener. While it is not enabled, its setters do nothing.
+    void SetListenerEnabled (bool enabled) noexcept { listenerEnabled = enabled; }
+    void SetListenerPosition (const qel::Point3& position, bool notify);
+    void SetListenerYaw (float degrees, bool notify);
+    void SetListenerPitch (float degrees, bool notify);
+    void SetListenerRoll (float degrees, bool notify);
+    void SetListenerOrientation (float yaw, float pitch, float roll, bool notify);
+    void SetListenerEditable (bool editable);
+    void SetListenerVisible (bool visible);
+    void SetHeadphonesVisible (bool visible);
+    void SetListenerProportion (float proportion);
+    [[nodiscard]] bool GetListenerEditable() const noexcept { return surface.listener.editable; }
+    [[nodiscard]] bool GetListenerVisible() const noexcept { return surface.listener.visible; }
+    [[nodiscard]] bool GetHeadphonesVisible() const noexcept { return surface.listener.headphonesVisible; }
+
+    // ---- Areas.
+    void SetNumAreas (std::size_t number);
+    void SetAreaPoints (std::size_t index, const qel::Point3Array& points);
+    void SetAreaLabel (std::size_t index, const qel::String& label);
+    void SetAreaColour (std::size_t index, juce::Colour colour);
+    void SetAreaVisible (std::size_t index, bool visible);
+    void ClearArea (std::size_t index);
+    void ClearAllAreas();
+    void SetAreasVisible (bool visible);
+    /** Reports which areas hold the listener, each speaker and each source, now and after every move. */
+    void SetAreasMonitoring (bool on);
+
+    // ---- Selection, constraints and the automatic zoom.
+    void SetSourceSelected (std::size_t index, bool selected, bool notify);
+    void SetSelection (const PlaneListener::Flags& flags, bool notify);
+    void GetSelection (PlaneListener::Flags& flags) const;
+    [[nodiscard]] bool IsSourceSelected (std::size_t index) const;
+    /** -1 if none is. */
+    [[nodiscard]] int GetSelectedSpeaker() const noexcept { return scene.selectedSpeaker; }
+    void SelectAllSources();
+    void SelectNextSource();
+    /** A drag turns about the origin. */
+    void SetCircularConstraint (bool on);
+    /** A move keeps a source's distance. */
+    void SetRadiusConstraint (bool on);
+    /** While requested, each frame fits the sources before it is drawn. */
+    void RequestAutoZoom (bool on);
+    void AutoZoom (bool repaintNow);
+
+    // ---- Snapshots of the source positions.
+    void StoreSnapshot (const qel::String& name);
+    void RecallSnapshot (const qel::String& name);
+    /** 0 gives the first, 1 the second. */
+    void RecallSnapshots (const qel::String& first, const qel::String& second, float amount);
+    void RemoveSnapshot (const qel::String& name);
+    void RemoveAllSnapshots();
+    [[nodiscard]] qel::Vector<qel::String> GetSnapshotNames() const;
+    /** The store itself, for its files. */
+    [[nodiscard]] qel::CoordinatesSnapshotStore& GetSnapshots() noexcept { return snapshots; }
+
+    void UpdateScreenPositions() override;
+    qel::OSCBundle getOscState() override;
+
+    void paint (juce::Graphics& g) override;
+    void mouseDown (const juce::MouseEvent& event) override;
+    void mouseDrag (const juce::MouseEvent& event) override;
+    void mouseUp (const juce::MouseEvent& event) override;
+    void mouseDoubleClick (const juce::MouseEvent& event) override;
+    void mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel) override;
+    bool keyPressed (const juce::KeyPress& key) override;
+    /** Does what a menu item says. The menu shows some of the ids it knows; 0 and unknown ones do nothing. */
+    void MenuItemChosen (int id);
+
+private:
+    class Drag;
+
+    Plane::Scene scene;
+    qel::CoordinatesSnapshotStore snapshots;
+    bool listenerEnabled = true;
+    bool autoZoomRequested = false;
+
+    JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (PlaneComponent)
+};
+
+}

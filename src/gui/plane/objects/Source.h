@@ -1,0 +1,66 @@
+#pragma once
+#include "gui/plane/objects/Orientation.h"
+
+#include <juce_gui_basics/juce_gui_basics.h>
+
+#include <memory>
+
+namespace lumo::Plane
+{
+
+/** A sound source of the scene: data, and the rules of its yaw and its looks. Angles in radians. */
+class Source
+{
+public:
+    explicit Source (int number);
+
+    /** Sets the yaw as the mode takes it, wrapped: two of the modes store nothing. */
+    void SetYaw (float degrees);
+    /** After a move: brings yaw and offset together again. Gives the degrees to report, where the mode reports. */
+    std::optional<float> UpdateYaw (const qel::Point3& listener);
+    [[nodiscard]] float YawDegrees() const noexcept;
+
+    /** Clamped to 10..180. */
+    void SetApertureDegrees (float degrees) noexcept;
+    [[nodiscard]] float ApertureDegrees() const noexcept;
+
+    /** Each builds the icon anew, and only if it looks different. */
+    void SetColour (juce::Colour newColour);
+    void SetEditable (bool canBeEdited);
+    void SetProportion (float value) noexcept;
+
+    [[nodiscard]] juce::Colour Colour() const noexcept { return colour; }
+    [[nodiscard]] bool Editable() const noexcept { return editable; }
+    [[nodiscard]] float Proportion() const noexcept { return proportion; }
+    [[nodiscard]] float ApertureProportion() const noexcept { return apertureProportion; }
+    [[nodiscard]] const juce::Drawable& Icon() const noexcept { return *image; }
+
+    juce::Point<float> screenPosition;
+    float aperture = 1.3962634f; // half opening of the fan
+    float yaw = 0;
+    float yawOffset = 0; // relative to the direction of the source
+    bool selected = false;
+    bool visible = true;
+    bool labelVisible = true;
+    bool apertureVisible = true;
+    bool coordinatesVisible = true;
+    juce::String label;
+    qel::Point3 position;
+    float level = -60; // dB
+    juce::Colour labelColour = juce::Colours::black;
+    Orientation::Mode yawMode = Orientation::yawConstraint;
+    float radius = 1.0f; // metres
+    juce::Colour apertureColour{ 0x9EFFFFFF };
+
+private:
+    [[nodiscard]] float Direction() const noexcept;
+    void BuildIcon();
+
+    juce::Colour colour;
+    bool editable = true;
+    float proportion = 0.07f;
+    float apertureProportion = 0.075f;
+    std::unique_ptr<juce::Drawable> image;
+};
+
+}

@@ -1,0 +1,31 @@
+#pragma once
+#include "gui/plane/PlaneOptions.h"
+#include "gui/plane/objects/Listener.h"
+#include "gui/plane/surface/Axis.h"
+#include "gui/plane/surface/BackgroundImage.h"
+#include "gui/plane/surface/Grid.h"
+#include "gui/plane/surface/Marks.h"
+#include "gui/plane/view/ViewTransform.h"
+
+namespace lumo::Plane
+{
+
+/** What belongs to the surface and not to a source, a speaker or an area. The layers read it through a const reference.
+    A flag that has a record of its own lives there; the options hold the others. */
+struct Surface
+{
+    bool viewerVisible = true;
+    BackgroundImage backgroundImage;
+    Grid grid;
+    Axis axis;
+    Anchors anchors;
+    Shoebox shoebox;
+    Legend legend;
+    Background background;
+    Listener listener;
+    ViewTransform viewTransform;
+    PlaneOptions options;
+    Lasso lasso;
+};
+
+}
