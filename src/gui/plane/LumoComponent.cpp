@@ -1,0 +1,145 @@
+#include "gui/plane/LumoComponent.h"
+
+namespace lumo
+{
+
+namespace
+{
+
+constexpr const char* openGLRendererName = "OpenGL Renderer";
+constexpr double smoothing = 0.1;
+
+double now() noexcept { return juce::Time::getMillisecondCounterHiRes(); }
+
+}
+
+Component::Component (const juce::String& name) : juce::Component (name) { applyLookAndFeel(); }
+
+Component::~Component()
+{
+    if (openGLContext != nullptr)
+        openGLContext->detach();
+    setLookAndFeel (nullptr);
+}
+
+void Component::SetLookAndFeelVersion (const juce::String& text)
+{
+    if (text == "v2" || text == "V2")
+        lookAndFeelHolder.version = 0;
+    else if (text == "v3" || text == "V3")
+        lookAndFeelHolder.version = 1;
+    applyLookAndFeel();
+}
+
+void Component::applyLookAndFeel()
+{
+    if (lookAndFeelHolder.version == 0)
+        setLookAndFeel (lookAndFeelHolder.v2);
+    else
+        setLookAndFeel (lookAndFeelHolder.v3);
+}
+
+void Component::SetOpenGLEnabled (bool enabled)
+{
+    if (openGLContext == nullptr) {
+        if (! enabled)
+            return;
+        openGLContext = std::make_unique<juce::OpenGLContext>();
+    }
+    openGLContext->detach();
+    if (enabled) {
+        openGLContext->setContinuousRepainting (true);
+        openGLContext->attachTo (*this);
+    }
+}
+
+bool Component::IsOpenGLEnabled() const noexcept
+{
+    return openGLContext != nullptr && openGLContext->getTargetComponent() != nullptr;
+}
+
+void Component::SetShowFps (bool show)
+{
+    if (showFps == show)
+        return;
+    showFps = show;
+    repaint();
+}
+
+void Component::BeginPaintTiming() noexcept
+{
+    if (showFps)
+        paintStartTime = now();
+}
+
+void Component::EndPaintTiming() noexcept
+{
+    if (! showFps)
+        return;
+    const double end = now();
+    const double sinceLast = end - lastPaintTime;
+    lastPaintTime = end;
+    renderTime += (end - paintStartTime - renderTime) * smoothing;
+    if (sinceLast > 0) // two paints within one tick of the clock have no rate
+        frameRate += (1000.0 / sinceLast - frameRate) * smoothing;
+}
+
+juce::StringArray Component::GetRendererNames() const
+{
+    juce::StringArray names;
+    if (auto* peer = getPeer())
+        names = peer->getAvailableRenderingEngines();
+    names.add (openGLRendererName);
+    return names;
+}
+
+juce::String Component::GetRendererName() const
+{
+    if (IsOpenGLEnabled())
+        return openGLRendererName;
+    if (auto* peer = getPeer())
+        return peer->getAvailableRenderingEngines()[peer->getCurrentRenderingEngine()];
+    return {};
+}
+
+juce::Font Component::MakeFont (const juce::String& face, const juce::String& style, float height)
+{
+    const auto words = juce::StringArray::fromTokens (style, false);
+    int flags = juce::Font::plain;
+    if (words.contains ("bold"))
+        flags |= juce::Font::bold;
+    if (words.contains ("italic"))
+        flags |= juce::Font::italic;
+    if (words.contains ("underlined"))
+        flags |= juce::Font::underlined;
+    return { face, height, flags };
+}
+
+juce::Font Component::MakeFont (float height) { return MakeFont ("Lucida Grande", "plain", height); }
+
+juce::Rectangle<int> Component::overlayArea() const
+{
+    const int width = getWidth() < 800 ? getWidth() / 4 : 200;
+    const int height = getHeight() < 400 ? getHeight() / 4 : 100;
+    return { getWidth() - width, 0, width, height };
+}
+
+void Component::paintOverChildren (juce::Graphics& g)
+{
+    const auto* parent = getParentComponent();
+    if (! showFps || (parent != nullptr && dynamic_cast<const juce::TopLevelWindow*> (parent) == nullptr))
+        return;
+    const auto area = overlayArea();
+    g.setColour (juce::Colours::white.withAlpha (0.5f));
+    g.fillRect (area);
+
+    const juce::StringArray lines{ juce::String (getWidth()) + " x " + juce::String (getHeight()),
+                                   "render time : " + juce::String (renderTime, 2) + " ms",
+                                   juce::String (frameRate, 1) + " fps", "renderer : " + GetRendererName() };
+    g.setColour (juce::Colours::black);
+    g.setFont (MakeFont ("Arial", "plain", 11.0f));
+    g.drawFittedText (lines.joinIntoString (juce::NewLine::getDefault()), area, juce::Justification::centred,
+                      lines.size());
+}
+
+}

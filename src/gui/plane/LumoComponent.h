@@ -1,0 +1,70 @@
+#pragma once
+#include "gui/plane/Ambrel4LookAndFeel.h"
+
+#include <juce_opengl/juce_opengl.h>
+
+#include <memory>
+
+namespace lumo
+{
+
+/** The base of all visual parts: a component with a choice of look, an optional OpenGL context, and an overlay of
+    frame statistics. Message thread. */
+class Component : public juce::Component
+{
+public:
+    explicit Component (const juce::String& name = {});
+    ~Component() override;
+
+    /** "v2" and "V2", "v3" and "V3" choose a look, any other text keeps the present one. Applies it. */
+    virtual void SetLookAndFeelVersion (const juce::String& text);
+
+    /** While on, JUCE renders this component through OpenGL, frame after frame. */
+    void SetOpenGLEnabled (bool enabled);
+    [[nodiscard]] bool IsOpenGLEnabled() const noexcept;
+
+    /** Shows the frame statistics; only a component with no parent, or right in a top-level window, draws them. */
+    void SetShowFps (bool show);
+    [[nodiscard]] bool GetShowFps() const noexcept { return showFps; }
+
+    /** A painter brackets its work with these two; they do nothing while the statistics are off. */
+    void BeginPaintTiming() noexcept;
+    void EndPaintTiming() noexcept;
+    /** Milliseconds that a paint takes, smoothed. */
+    [[nodiscard]] double GetRenderTime() const noexcept { return renderTime; }
+    /** Frames in a second, smoothed. */
+    [[nodiscard]] double GetFrameRate() const noexcept { return frameRate; }
+
+    /** The peer's renderers, and "OpenGL Renderer". */
+    [[nodiscard]] juce::StringArray GetRendererNames() const;
+    /** The renderer in use; empty with no window. */
+    [[nodiscard]] juce::String GetRendererName() const;
+
+    /** A font of that face; the words "bold", "italic" and "underlined" in the style are heeded. */
+    [[nodiscard]] static juce::Font MakeFont (const juce::String& face, const juce::String& style, float height);
+    /** The plain font of the interface. */
+    [[nodiscard]] static juce::Font MakeFont (float height);
+
+    void paintOverChildren (juce::Graphics& g) override;
+
+private:
+    /** One instance of each look serves all components of the process. */
+    struct LookAndFeelHolder
+    {
+        int version = 0;
+        juce::SharedResourcePointer<Ambrel4LookAndFeelV2> v2;
+        juce::SharedResourcePointer<Ambrel4LookAndFeelV3> v3;
+    };
+
+    [[nodiscard]] juce::Rectangle<int> overlayArea() const;
+    void applyLookAndFeel();
+
+    std::unique_ptr<juce::OpenGLContext> openGLContext;
+    LookAndFeelHolder lookAndFeelHolder;
+    bool showFps = false;
+    double paintStartTime = 0, renderTime = 0, frameRate = 0, lastPaintTime = 0;
+
+    JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (Component)
+};
+
+}

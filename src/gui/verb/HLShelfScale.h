@@ -1,0 +1,22 @@
+#pragma once
+
+namespace lumo
+{
+
+/** Where gains and frequencies lie on a response curve of a given size in pixels, and back. 20 to 20000 Hz from left to
+    right on a logarithmic scale, 30 to -30 dB from top to bottom. */
+struct HLShelfScale
+{
+    static constexpr double lowestFrequency = 20, highestFrequency = 20000;
+    static constexpr double lowestGain = -30, highestGain = 30;
+
+    double width = 0, height = 0;
+
+    [[nodiscard]] double x (double hz) const noexcept;
+    [[nodiscard]] double y (double dB) const noexcept;
+    /** Not limited to the scale. */
+    [[nodiscard]] double frequency (double x) const noexcept;
+    [[nodiscard]] double gain (double y) const noexcept;
+};
+
+}
