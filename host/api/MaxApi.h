@@ -1,0 +1,15 @@
+#pragma once
+
+/** The operations of Max that an external calls, with the binary interface of 64-bit Windows: plain C linkage
+    and declarations alone. In Max they come from the host's library, on the bench from host/bench. */
+#include "host/api/MaxAtoms.h"
+#include "host/api/MaxCommonSymbols.h"
+#include "host/api/MaxConstants.h"
+#include "host/api/MaxDictionaries.h"
+#include "host/api/MaxFiles.h"
+#include "host/api/MaxHelpers.h"
+#include "host/api/MaxLinkage.h"
+#include "host/api/MaxObjects.h"
+#include "host/api/MaxOutput.h"
+#include "host/api/MaxQueues.h"
+#include "host/api/MaxTypes.h"
