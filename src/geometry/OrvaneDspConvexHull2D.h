@@ -1,0 +1,38 @@
+#pragma once
+#include "geometry/OrvaneDspPoint3.h"
+
+#include <cstddef>
+
+namespace qel
+{
+
+/** The convex hull of points in the plane: only x and y count. */
+class ConvexHull2D
+{
+public:
+    ConvexHull2D() = default;
+    explicit ConvexHull2D (const Point3Array& points);
+
+    /** The corners, counterclockwise, from the lowest point (the leftmost of equals) on; no three of them in a line.
+        Empty for fewer than two points, the two ends for points in a line, one for points that all coincide.
+        Points that are not finite do not count. */
+    [[nodiscard]] const Point3Array& hull() const noexcept { return output; }
+
+private:
+    struct Point2D
+    {
+        float x, y;
+        std::size_t index; ///< in the input, from 1
+        bool deleted;
+    };
+
+    void collect();
+    void sortAroundPivot();
+    void scan();
+
+    Point3Array input;
+    Point3Array output;
+    Vector<Point2D> points;
+};
+
+}
