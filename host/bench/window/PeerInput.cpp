@@ -1,0 +1,126 @@
+#include "host/bench/window/PeerInput.h"
+
+#include "max/window/OffscreenDesktop.h"
+
+namespace
+{
+
+// Presses further apart than this never join into a double click.
+constexpr int apart = 1000;
+
+/** The one clock of all events: milliseconds, never behind the real time at which it was first asked. */
+juce::int64& eventTime()
+{
+    static juce::int64 now = juce::Time::currentTimeMillis();
+    return now;
+}
+
+juce::ModifierKeys buttonOf (juce::ModifierKeys keys)
+{
+    return keys.isRightButtonDown() ? juce::ModifierKeys::rightButtonModifier : juce::ModifierKeys::leftButtonModifier;
+}
+
+}
+
+PeerInput::PeerInput (juce::Component& componentToWorkOn) : component (&componentToWorkOn) {}
+
+bool PeerInput::move (juce::Point<float> position, juce::ModifierKeys keys)
+{
+    passTime (apart);
+    return deliver (position, keys.withoutMouseButtons());
+}
+
+bool PeerInput::press (juce::Point<float> position, juce::ModifierKeys keys)
+{
+    passTime (apart);
+    if (! deliver (position, keys.withoutMouseButtons()))
+        return false;
+    heldButton = buttonOf (keys);
+    return drag (position, keys);
+}
+
+bool PeerInput::drag (juce::Point<float> position, juce::ModifierKeys keys)
+{
+    passTime (10);
+    return deliver (position, keys.withoutMouseButtons().withFlags (heldButton.getRawFlags()));
+}
+
+bool PeerInput::release (juce::Point<float> position, juce::ModifierKeys keys)
+{
+    passTime (50);
+    heldButton = {};
+    return deliver (position, keys.withoutMouseButtons());
+}
+
+bool PeerInput::click (juce::Point<float> position, juce::ModifierKeys keys)
+{
+    return press (position, keys) && release (position, keys);
+}
+
+bool PeerInput::doubleClick (juce::Point<float> position, juce::ModifierKeys keys)
+{
+    if (! click (position, keys))
+        return false;
+    passTime (100);
+    heldButton = buttonOf (keys);
+    return drag (position, keys) && release (position, keys);
+}
+
+bool PeerInput::wheel (juce::Point<float> position, float delta, juce::ModifierKeys keys)
+{
+    if (! move (position, keys))
+        return false;
+
+    auto* const target = peer();
+    if (target == nullptr)
+        return false;
+    juce::MouseWheelDetails turn;
+    turn.deltaX = 0.0F;
+    turn.deltaY = delta;
+    turn.isReversed = turn.isSmooth = turn.isInertial = false;
+    juce::ModifierKeys::currentModifiers = keys.withoutMouseButtons();
+    target->handleMouseWheel (juce::MouseInputSource::InputSourceType::mouse,
+                              target->getComponent().getLocalPoint (component.get(), position), eventTime(), turn);
+    juce::ModifierKeys::currentModifiers = {};
+    return true;
+}
+
+bool PeerInput::key (const juce::KeyPress& press)
+{
+    auto* const target = peer();
+    if (target == nullptr)
+        return false;
+
+    target->grabFocus();
+    juce::ModifierKeys::currentModifiers = press.getModifiers();
+    target->handleModifierKeysChange();
+    target->handleKeyPress (press);
+    juce::ModifierKeys::currentModifiers = {};
+    if (juce::ComponentPeer::isValidPeer (target))
+        target->handleModifierKeysChange();
+    return true;
+}
+
+juce::ComponentPeer* PeerInput::peer() const
+{
+    return component != nullptr && component->isShowing() ? component->getPeer() : nullptr;
+}
+
+void PeerInput::passTime (int milliseconds) { eventTime() += milliseconds; }
+
+bool PeerInput::deliver (juce::Point<float> position, juce::ModifierKeys keys)
+{
+    auto* const target = peer();
+    if (target == nullptr)
+        return false;
+
+    const auto inPeer = target->getComponent().getLocalPoint (component.get(), position);
+    OffscreenDesktop::setPointer (target->localToGlobal (inPeer).roundToInt());
+    // JUCE takes only the buttons from the event; shift, ctrl and alt are the process's.
+    juce::ModifierKeys::currentModifiers = keys;
+    target->handleMouseEvent (juce::MouseInputSource::InputSourceType::mouse, inPeer, keys,
+                              juce::MouseInputSource::defaultPressure, juce::MouseInputSource::defaultOrientation,
+                              eventTime());
+    juce::ModifierKeys::currentModifiers = keys.withOnlyMouseButtons();
+    return true;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "max/window/NativeWindow.h"
+
+/** A window that JUCE makes, with the attached component as its content. The window takes the content's size;
+    its decoration is the desktop's own. What the peer is, on a display or in memory, is the subclass's choice. */
+class JuceWindow : public NativeWindow
+{
+public:
+    JuceWindow();
+    ~JuceWindow() override;
+
+    bool create (const juce::String& title, juce::Rectangle<int> frame) override;
+    void show() override;
+    void hide() override;
+    void destroy() override;
+    void setTitle (const juce::String& title) override;
+    void attach (juce::Component* component) override;
+    [[nodiscard]] bool exists() const override { return shell != nullptr; }
+    [[nodiscard]] bool isOccupied() const override;
+
+protected:
+    /** The JUCE window around the content. Its close button is handed on; focus that it gets goes to the content. */
+    class Shell : public juce::DocumentWindow
+    {
+    public:
+        Shell (JuceWindow& window, const juce::String& title);
+
+        void closeButtonPressed() override;
+        void focusGained (FocusChangeType cause) override;
+
+    private:
+        JuceWindow& window;
+    };
+
+    virtual std::unique_ptr<Shell> makeShell (const juce::String& title) = 0;
+
+private:
+    std::unique_ptr<Shell> shell;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <juce_gui_basics/juce_gui_basics.h>
+
+/** A desktop in memory: what JUCE asks of a display, answered without one. */
+namespace OffscreenDesktop
+{
+
+/** Starts JUCE on the calling thread, away from any real display, with one screen of 1400 by 900 pixels at
+    96 dpi, as the application in front. Call it before anything else of JUCE's GUI; later calls do nothing. */
+void start();
+
+/** Where the pointer of this desktop stands, in pixels of the screen. */
+void setPointer (juce::Point<int> position);
+
+/** The property of a top-level component whose menus open inside it, since it has no display to open them on. */
+extern const juce::Identifier menusOpenInside;
+
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "max/window/JuceWindow.h"
+
+/** A window held in memory: no display, but the same component, events and pixels.
+    OffscreenDesktop::start() comes first. Menus open inside the window. */
+class OffscreenWindow : public JuceWindow
+{
+private:
+    std::unique_ptr<Shell> makeShell (const juce::String& title) override;
+};

@@ -1,0 +1,77 @@
+#define JUCE_GUI_BASICS_INCLUDE_XHEADERS 1
+#include "max/window/X11Window.h"
+
+namespace
+{
+
+/** A connection to the display of the environment, of our own. */
+class Connection
+{
+public:
+    Connection() : display (XOpenDisplay (nullptr)) {}
+    ~Connection()
+    {
+        if (display != nullptr)
+            XCloseDisplay (display);
+    }
+
+    Connection (const Connection&) = delete;
+    Connection& operator= (const Connection&) = delete;
+
+    [[nodiscard]] bool isOpen() const { return display != nullptr; }
+
+    /** Makes the atoms exist that JUCE takes for granted: a window manager would have made them, and without
+        one the first window would end the process with a protocol error. */
+    void internWindowManagerAtoms()
+    {
+        const char* const names[] = { "WM_PROTOCOLS",
+                                      "WM_TAKE_FOCUS",
+                                      "WM_DELETE_WINDOW",
+                                      "WM_STATE",
+                                      "WM_CHANGE_STATE",
+                                      "_NET_WM_STATE",
+                                      "_NET_WM_STATE_HIDDEN",
+                                      "_NET_WM_WINDOW_TYPE",
+                                      "_NET_WM_WINDOW_TYPE_NORMAL",
+                                      "_NET_FRAME_EXTENTS" };
+        for (const auto* name : names)
+            XInternAtom (display, name, False);
+        XSync (display, False);
+    }
+
+private:
+    ::Display* display;
+};
+
+}
+
+std::unique_ptr<NativeWindow> makePlatformWindow() { return std::make_unique<X11Window>(); }
+
+void startJuceInHost()
+{
+    if (juce::MessageManager::getInstanceWithoutCreating() == nullptr)
+        juce::MessageManager::getInstance();
+
+    // Atoms live as long as the server has clients: the connection stays open until JUCE has its own.
+    Connection connection;
+    if (connection.isOpen())
+        connection.internWindowManagerAtoms();
+    juce::Desktop::getInstance();
+    juce::XWindowSystem::getInstance();
+}
+
+bool X11Window::isDisplayAvailable() { return Connection().isOpen(); }
+
+void X11Window::setTitle (const juce::String& title)
+{
+    JuceWindow::setTitle (title);
+
+    // JUCE leaves the new name in the connection's buffer until something else is sent.
+    if (auto* display = juce::XWindowSystem::getInstance()->getDisplay())
+        juce::X11Symbols::getInstance()->xFlush (display);
+}
+
+std::unique_ptr<JuceWindow::Shell> X11Window::makeShell (const juce::String& title)
+{
+    return std::make_unique<Shell> (*this, title);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "max/window/JuceWindow.h"
+
+/** A window of the X11 display, with or without a window manager. */
+class X11Window : public JuceWindow
+{
+public:
+    void setTitle (const juce::String& title) override;
+
+    /** Whether the display named in the environment can be opened. */
+    static bool isDisplayAvailable();
+
+private:
+    std::unique_ptr<Shell> makeShell (const juce::String& title) override;
+};

@@ -1,0 +1,18 @@
+#include "host/bench/window/GuiPump.h"
+#include "max/window/OffscreenDesktop.h"
+
+#include <gmock/gmock.h>
+#include <juce_gui_basics/juce_gui_basics.h>
+
+/** The main of every test program that needs JUCE: brings it up once, without a display. */
+int main (int argc, char** argv)
+{
+    testing::InitGoogleMock (&argc, argv);
+
+    OffscreenDesktop::start();
+    const juce::ScopedJuceInitialiser_GUI juceEndsWithMain;
+    const auto result = RUN_ALL_TESTS();
+    juce::PopupMenu::dismissAllActiveMenus();
+    pumpGui();
+    return result;
+}
