@@ -1,0 +1,60 @@
+#pragma once
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace bench
+{
+
+/** A pointer or wheel event at a pixel of an object's whole component. */
+struct PointerEvent
+{
+    enum class Action
+    {
+        down,
+        drag,
+        up,
+        move,
+        doubleClick,
+        wheel
+    };
+
+    Action action = Action::move;
+    float x = 0;
+    float y = 0;
+    float wheelDelta = 0; // wheel only; positive is away from the user
+    bool shift = false;
+    bool ctrl = false;
+    bool alt = false;
+    bool right = false; // the right button instead of the left one
+};
+
+/** The windows of the objects on the bench, seen from outside: what a user's hands and eyes are.
+    The bench knows an object by its pointer alone; the program that joins the bench and a GUI brings the driver.
+    Main thread. The commands give an empty text when done, else the complaint that is shown to the user. */
+class WindowDriver
+{
+public:
+    /** Gets what a window did, as the bench's language writes it behind "NAME window ":
+        "created LEFT TOP WIDTH HEIGHT TITLE", "shown", "hidden", "title TEXT", "front", "destroyed". */
+    using Sink = std::function<void (void* object, const std::string& what)>;
+
+    virtual ~WindowDriver() = default;
+
+    /** Set before the first object is made; an empty one is set before the receiver goes. */
+    virtual void setSink (Sink sink) = 0;
+
+    /** Delivers the GUI's pending messages and repaints. True if there was anything to deliver. */
+    virtual bool pump() = 0;
+
+    virtual std::string turnPage (void* object, int page) = 0;
+    virtual std::string pointer (void* object, const PointerEvent& event) = 0;
+    virtual std::string key (void* object, const std::string& description) = 0;
+    virtual std::string writePicture (void* object, const std::string& file) = 0;
+};
+
+/** The driver of this process, or null: what every Bench pumps and listens to. Not owned. */
+WindowDriver* windowDriver();
+void setWindowDriver (WindowDriver* driver);
+
+}
