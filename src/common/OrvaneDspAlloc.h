@@ -5,7 +5,7 @@
 namespace qel
 {
 
-inline constexpr std::size_t alignment = 16;
+inline constexpr std::size_t arrayAlignment = 16;
 
 /** Aligned bytes, not cleared; at least one byte is always had. Raises "bad allocation". */
 [[nodiscard]] void* allocate (std::size_t bytes);

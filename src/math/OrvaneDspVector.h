@@ -17,7 +17,7 @@ namespace qel
 template <typename T>
 struct AlignedAllocator
 {
-    static_assert (alignof (T) <= alignment);
+    static_assert (alignof (T) <= arrayAlignment);
     using value_type = T;
 
     AlignedAllocator() = default;

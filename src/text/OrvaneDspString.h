@@ -32,6 +32,7 @@ public:
         `decimals` significant digits (6 for 0), with an exponent where it is shorter. */
     String (double value, int decimals);
     explicit String (bool) = delete;
+    explicit String (char) = delete;
 
     /** "true" for exactly 1, else "false". */
     [[nodiscard]] static String fromBool (int value);
