@@ -26,6 +26,7 @@ private:
         bool deleted;
     };
 
+    static int turn (const Point2D& a, const Point2D& b, const Point2D& c) noexcept;
     void collect();
     void sortAroundPivot();
     void scan();

@@ -16,7 +16,7 @@ public:
     static constexpr std::uint32_t maxNumDelays = 64;
     static constexpr float defaultDistr = 0.5f;
 
-    /** The distribution starts at its default, whatever is given. */
+    /** The distribution is ignored: it starts at its default. */
     Delgen (std::uint32_t numDelays, float minimum, float maximum, float distribution);
 
     /** In ms, ascending. */
@@ -37,22 +37,27 @@ public:
     qel::OSCBundle getOscState() override;
 
 private:
+    struct Range
+    {
+        float min, max; ///< ms
+        float distr;
+    };
+
     void makeTemplate();
-    void makeTableTemplate();
-    void makeRandomTemplate();
+    float makeTableTemplate();
+    float makeRandomTemplate();
     void computeDelays();
-    bool change (float newMin, float newMax, float newDistr);
-    bool changeMinMax (float newMin, float newMax, float newDistr);
-    bool changeMinSum (float newMin, float wishedSum, float newDistr);
+    /** False, and all as it was, if the result is not finite. */
+    bool change (const Range& wanted);
+    bool changeMinMax (const Range& wanted);
+    bool changeMinSum (float minimum, float wishedSum, float distribution);
 
     std::uint32_t numdelays;
-    float sum = 0;
-    float min = 1; ///< ms
-    float max = 1; ///< ms
-    float distr = defaultDistr;
+    float sum = 0; ///< ms, of the delays before they are limited
+    Range range{ 1, 1, defaultDistr };
     qel::Vector<float> delays;        ///< ms
-    qel::Vector<float> positions;     ///< the template: 0 to 1
-    qel::Vector<std::uint32_t> order; ///< the rank of each position
+    qel::Vector<float> positions;     ///< the template, 0 to 1; those of ranks past numdelays may exceed 1
+    qel::Vector<std::uint32_t> order; ///< the rank of each position; empty when all are in use
     float mean = 0;                   ///< of the positions in use
 };
 
