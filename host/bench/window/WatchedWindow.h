@@ -1,0 +1,32 @@
+#pragma once
+
+#include "max/window/NativeWindow.h"
+
+#include <functional>
+#include <string>
+
+/** A window that tells what happens to it, in the words of the bench's language, and leaves the doing to another. */
+class WatchedWindow : public NativeWindow
+{
+public:
+    using Tell = std::function<void (const std::string& what)>;
+
+    /** The second function is called when this object goes. */
+    WatchedWindow (std::unique_ptr<NativeWindow> window, Tell tell, std::function<void()> onEnd);
+    ~WatchedWindow() override;
+
+    bool create (const juce::String& title, juce::Rectangle<int> frame) override;
+    void show() override;
+    void hide() override;
+    void destroy() override;
+    void setTitle (const juce::String& title) override;
+    void attach (juce::Component* component) override { window->attach (component); }
+    [[nodiscard]] bool exists() const override { return window->exists(); }
+    [[nodiscard]] bool isOccupied() const override { return window->isOccupied(); }
+
+private:
+    std::unique_ptr<NativeWindow> window;
+    Tell tell;
+    std::function<void()> onEnd;
+    bool shown = false;
+};

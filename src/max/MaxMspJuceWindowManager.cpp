@@ -1,0 +1,188 @@
+#include "max/MaxMspJuceWindowManager.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+// What the decoration of a window takes beside the component. The client area of a Windows window still comes out
+// a few pixels smaller than the component.
+constexpr int decorationWidth = 5;
+constexpr int decorationHeight = 22;
+
+/** Truncates towards zero; what no integer can hold ends at the nearest, and not-a-number at 0. */
+int pixels (float value)
+{
+    using Limits = std::numeric_limits<int>;
+    if (std::isnan (value))
+        return 0;
+    return static_cast<int> (std::clamp<double> (value, Limits::min(), Limits::max()));
+}
+
+/** The manager that a deferred call carries as its first atom; an error in the Max window if there is none. */
+MaxMspJuceWindowManager* managerIn (t_object* owner, short argc, t_atom* argv)
+{
+    auto* manager = argc > 0 && argv != nullptr ? static_cast<MaxMspJuceWindowManager*> (atom_getobj (argv)) : nullptr;
+    if (manager == nullptr)
+        object_error (owner, "No MaxMspJuceWindowManager");
+    return manager;
+}
+
+}
+
+MaxMspJuceWindowManager::MaxMspJuceWindowManager (t_object* ownerToUse, juce::Component* componentToShow, bool)
+    : window (makeNativeWindow (ownerToUse, componentToShow)),
+      owner (ownerToUse),
+      component (componentToShow),
+      title (gensym ("window"))
+{
+    window->onCloseButton = [this] { close(); };
+}
+
+MaxMspJuceWindowManager::~MaxMspJuceWindowManager()
+{
+    if (! window->exists())
+        return;
+
+    refreshPosition();
+    hide();
+    const juce::MessageManagerLock lock;
+    window->attach (nullptr);
+    window->destroy();
+}
+
+void MaxMspJuceWindowManager::setTopLeft (int newTop, int newLeft)
+{
+    if (! moveable) {
+        if (newTop != top || newLeft != left)
+            object_warn (owner, "this window is not moveable");
+        return;
+    }
+
+    top = newTop;
+    left = newLeft;
+    t_atom self;
+    atom_setobj (&self, this);
+    defer (owner, max_method (changeWindowTopLeftPoint_deferred), nullptr, 1, &self);
+}
+
+void MaxMspJuceWindowManager::setTopLeft (const float (&topLeft)[2])
+{
+    setTopLeft (pixels (topLeft[0]), pixels (topLeft[1]));
+}
+
+void MaxMspJuceWindowManager::setMoveable (bool isMoveable) noexcept { moveable = isMoveable; }
+
+void MaxMspJuceWindowManager::setTitle (const char* text)
+{
+    title = gensym (text);
+    if (window->exists())
+        window->setTitle (juce::String::fromUTF8 (title->s_name));
+}
+
+void MaxMspJuceWindowManager::open (bool show)
+{
+    if (component == nullptr || owner == nullptr)
+        return;
+    if (window->exists())
+        refreshPosition();
+
+    t_atom arguments[2];
+    atom_setobj (&arguments[0], this);
+    atom_setlong (&arguments[1], show ? 1 : 0);
+    defer (owner, max_method (open_deferred), nullptr, 2, arguments);
+}
+
+void MaxMspJuceWindowManager::close()
+{
+    if (window->exists())
+        refreshPosition();
+
+    t_atom self;
+    atom_setobj (&self, this);
+    defer (owner, max_method (close_deferred), nullptr, 1, &self);
+}
+
+void MaxMspJuceWindowManager::changeWindowTopLeftPoint_deferred (t_object* owner, t_symbol*, short argc, t_atom* argv)
+{
+    if (argc != 1 || argv == nullptr) {
+        object_bug (owner, "invalid number of arguments in changeWindowTopLeftPoint_deferred : %d", argc);
+        return;
+    }
+    // A position takes effect when the next window is made: the one on the screen is never moved.
+    managerIn (owner, argc, argv);
+}
+
+void MaxMspJuceWindowManager::open_deferred (t_object* owner, t_symbol*, short argc, t_atom* argv)
+{
+    auto* const manager = managerIn (owner, argc, argv);
+    if (manager == nullptr || manager->component == nullptr)
+        return;
+
+    const bool show = argc > 1 && atom_getfloat (argv + 1) != 0.0;
+    if (manager->window->exists() && manager->window->isOccupied())
+        manager->bringBack (show);
+    else
+        manager->build (show);
+}
+
+void MaxMspJuceWindowManager::close_deferred (t_object* owner, t_symbol*, short argc, t_atom* argv)
+{
+    if (auto* const manager = managerIn (owner, argc, argv))
+        manager->hide();
+}
+
+void MaxMspJuceWindowManager::refreshPosition() noexcept
+{
+    // The platform does not tell where its window stands, so a later window starts in the corner.
+    top = 0;
+    left = 0;
+}
+
+void MaxMspJuceWindowManager::bringBack (bool show)
+{
+    if (component->getPeer() == nullptr)
+        window->attach (component);
+    window->show();
+    component->setVisible (show);
+    component->toFront (true);
+}
+
+void MaxMspJuceWindowManager::build (bool show)
+{
+    const juce::MessageManagerLock lock;
+    component->removeFromDesktop();
+    component->setVisible (false);
+    const auto area = juce::Rectangle<int> (component->getWidth(), component->getHeight());
+
+    const juce::Rectangle<int> frame (left, top, area.getWidth() + decorationWidth,
+                                      area.getHeight() + decorationHeight);
+    if (! window->create (juce::String::fromUTF8 (title->s_name), frame)) {
+        object_error (owner, "couldnt create native window !");
+        return;
+    }
+
+    window->show();
+    component->setBounds (area);
+    window->attach (component);
+    component->setVisible (show);
+    component->toFront (true);
+
+    // Once more, so that a heavyweight peer takes the size of the client area.
+    window->attach (nullptr);
+    component->setVisible (false);
+    component->setSize (area.getWidth(), area.getHeight());
+    window->attach (component);
+    component->setBounds (area);
+    component->setVisible (show);
+}
+
+void MaxMspJuceWindowManager::hide()
+{
+    if (! window->isOccupied())
+        return;
+    window->hide();
+    component->setVisible (false);
+}
