@@ -10,8 +10,10 @@ namespace qel::filesystem
 
 #ifdef _WIN32
 inline constexpr char separator = '\\';
+inline constexpr std::size_t longestPath = 32767;
 #else
 inline constexpr char separator = '/';
+inline constexpr std::size_t longestPath = 4095;
 #endif
 
 enum class Kind
