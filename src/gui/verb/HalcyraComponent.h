@@ -13,13 +13,11 @@
 #include <cstdint>
 #include <memory>
 
-class HalcyraAmbrelTabComponent;
 class HalcyraFiltersTabComponent;
 class HalcyraTimeStructureTabComponent;
 
 namespace lumo
 {
-class HLShelfComponent;
 class PlaneComponent;
 }
 
@@ -123,6 +121,7 @@ public:
 
     void resized() override;
     void paint (juce::Graphics& g) override;
+    void paintOverChildren (juce::Graphics& g) override;
     bool keyPressed (const juce::KeyPress& key) override;
 
 private:
@@ -136,10 +135,8 @@ private:
     juce::SharedResourcePointer<widgets::TooltipWindow> tooltipWindow;
     const std::uint32_t numsources, numspeakers, numinternals;
     HalcyraTimeStructureTabComponent* timeStructureTab = nullptr;
-    HalcyraAmbrelTabComponent* viewerTab = nullptr;
     HalcyraFiltersTabComponent* filtersTab = nullptr;
     lumo::PlaneComponent* plane = nullptr;
-    std::array<lumo::HLShelfComponent*, 4> shelves{};
     std::array<lumo::HLShelfFrequencyResponseComponent*, 4> responses{};
     HalcyraTimeStructure parameters;
     halcyra::SortedListeners<Listener> listeners;

@@ -92,7 +92,6 @@ struct ParameterRow
     [[nodiscard]] constexpr bool isSwitch() const noexcept { return flag != nullptr; }
 };
 
-
 // clang-format off
 /** All reverb parameters, in the order of their numbers.
     The air frequency's double click goes by the default of the air switch, 1, so its slider falls to its low end.

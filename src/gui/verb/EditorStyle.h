@@ -1,0 +1,21 @@
+#pragma once
+#include <juce_gui_basics/juce_gui_basics.h>
+
+/** What the pages of the window share. Message thread. */
+namespace editors
+{
+
+/** Behind the controls of each page. */
+inline const juce::Colour pageColour{ 0xFFDBDBDB };
+
+/** A slider with no text box of its own, grey on the page. */
+inline void styleSlider (juce::Slider& slider, juce::Slider::SliderStyle style, int textBoxWidth)
+{
+    slider.setSliderStyle (style);
+    slider.setTextBoxStyle (juce::Slider::NoTextBox, false, textBoxWidth, 20);
+    slider.setColour (juce::Slider::thumbColourId, juce::Colour (0xFF545454));
+    slider.setColour (juce::Slider::textBoxBackgroundColourId, pageColour);
+    slider.setColour (juce::Slider::textBoxOutlineColourId, pageColour);
+}
+
+}

@@ -1,0 +1,22 @@
+#pragma once
+#include "gui/verb/HLShelfComponent.h"
+
+/** The page of the four filters: direct, room, early, cluster, side by side. Message thread. */
+class HalcyraFiltersTabComponent : public juce::Component
+{
+public:
+    explicit HalcyraFiltersTabComponent (const juce::String& name);
+
+    [[nodiscard]] lumo::HLShelfComponent& getShelf (HalcyraFilter filter)
+    {
+        return shelves[static_cast<std::size_t> (filter)];
+    }
+
+    void resized() override;
+    void paint (juce::Graphics& g) override;
+
+private:
+    std::array<lumo::HLShelfComponent, 4> shelves;
+
+    JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HalcyraFiltersTabComponent)
+};

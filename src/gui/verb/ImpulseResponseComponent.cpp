@@ -1,0 +1,204 @@
+#include "gui/verb/ImpulseResponseComponent.h"
+
+#include "gui/verb/EarlyGains.h"
+
+namespace lumo
+{
+
+namespace
+{
+
+constexpr float tickDistance = 20; // ms
+constexpr float tickFontHeight = 12;
+
+const juce::Colour backgroundColour{ 0xFFB5B5B5 };
+const juce::Colour tickColour{ 0xFF808080 };
+const juce::Colour directColour = juce::Colours::black.withAlpha (0.5f);
+const juce::Colour earlyColour = juce::Colour (0xFF008000).withAlpha (0.5f);
+const juce::Colour clusterColour = juce::Colour (0xFF0000FF).withAlpha (0.5f);
+
+/** A band's decay as it was drawn by hand: it falls from the top left to the end of a foot. */
+juce::Path decayShape (float controlX, float endX)
+{
+    constexpr float left = 203, top = 58, bottom = 107;
+    juce::Path path;
+    path.startNewSubPath (left, top);
+    path.quadraticTo (controlX, 105, endX, bottom);
+    path.lineTo (left, bottom);
+    path.closeSubPath();
+    return path;
+}
+
+void drawTap (juce::Graphics& g, const ImpulseResponseScale& scale, float ms, float gain)
+{
+    const float x = scale.x (ms), top = scale.top (gain);
+    if (x < scale.width + 1)
+        g.fillRect (juce::Rectangle<float> (x - 0.5f, top, 1, scale.height - top));
+}
+
+}
+
+ImpulseResponseComponent::ImpulseResponseComponent (std::uint32_t numinternals)
+    : juce::Component ("ImpulseResponseComponent"),
+      early (numinternals, 20, 40, 0.5f),
+      cluster (numinternals, 20, 40, 0.5f),
+      gains (early.getDelays().size())
+{
+    setOpaque (true);
+    setSize (500, 200);
+}
+
+void ImpulseResponseComponent::store (float& field, float value, unsigned makesStale)
+{
+    if (field == value)
+        return;
+    field = value;
+    stale |= makesStale;
+    repaint();
+}
+
+void ImpulseResponseComponent::setTr0 (float seconds) { store (tr0, seconds, decay); }
+void ImpulseResponseComponent::setTrl (float ratio) { store (trl, ratio, decay); }
+void ImpulseResponseComponent::setTrm (float ratio) { store (trm, ratio, decay); }
+void ImpulseResponseComponent::setTrh (float ratio) { store (trh, ratio, decay); }
+void ImpulseResponseComponent::setReverbStart (float ms) { store (reverbStart, ms, decay); }
+
+void ImpulseResponseComponent::setEarlyStart (float ms)
+{
+    store (earlyStart, std::min (ms, earlyEnd), earlyDelays | earlyGains);
+}
+
+void ImpulseResponseComponent::setEarlyEnd (float ms)
+{
+    store (earlyEnd, std::max (ms, earlyStart), earlyDelays | earlyGains);
+}
+
+void ImpulseResponseComponent::setEarlyDistr (float distribution)
+{
+    store (earlyDistr, distribution, earlyDelays | earlyGains);
+}
+
+void ImpulseResponseComponent::setEarlyShape (float shape)
+{
+    store (earlyShape, std::clamp (shape, 0.0f, 1.0f), earlyGains);
+}
+
+void ImpulseResponseComponent::setClusterStart (float ms)
+{
+    store (clusterStart, std::max (1.0f, ms - earlyStart), clusterDelays);
+}
+
+void ImpulseResponseComponent::setClusterEnd (float ms)
+{
+    store (clusterEnd, std::max (1.0f, ms - earlyEnd), clusterDelays);
+}
+
+void ImpulseResponseComponent::setClusterDistr (float distribution)
+{
+    store (clusterDistr, distribution, clusterDelays);
+}
+
+ImpulseResponseScale ImpulseResponseComponent::scale() const noexcept
+{
+    return { static_cast<float> (getWidth()), static_cast<float> (getHeight()), zoom };
+}
+
+void ImpulseResponseComponent::bringUpToDate()
+{
+    if ((stale & earlyDelays) != 0)
+        early.setMinMax (earlyStart, earlyEnd, earlyDistr);
+    if ((stale & clusterDelays) != 0)
+        cluster.setMinMax (clusterStart, clusterEnd, clusterDistr);
+    if ((stale & earlyGains) != 0)
+        halcyra::earlyGains (gains, earlyShape, std::abs (earlyEnd - earlyStart), false);
+    if ((stale & decay) != 0)
+        buildDecay();
+    if ((stale & ticks) != 0)
+        buildTicks();
+    stale = 0;
+}
+
+void ImpulseResponseComponent::buildDecay()
+{
+    const auto s = scale();
+    const juce::Point<float> corner{ s.x (reverbStart), s.top (1) };
+    // Seconds are held against ms here, and pictures rely on it: it bites only where the reverb starts within 30 ms.
+    const float seconds = std::clamp (tr0, 0.0f, reverbStart);
+    const auto fit = [&] (juce::Path& path, float ratio, float controlX, float endX) {
+        path = decayShape (controlX, endX);
+        path.scaleToFit (corner.x, corner.y, s.x (seconds * ratio * 1000), s.height - corner.y, false);
+    };
+    fit (low, trl, 270, 396);
+    fit (mid, trm, 245, 337);
+    fit (high, trh, 240, 287);
+}
+
+void ImpulseResponseComponent::buildTicks()
+{
+    const auto s = scale();
+    tickTexts.clear();
+    for (float t = tickDistance; t < s.span(); t += tickDistance)
+        tickTexts.addFittedText ({ tickFontHeight }, juce::String (t), s.x (t), 0,
+                                 static_cast<float> (static_cast<int> (0.1f * s.width)), tickFontHeight,
+                                 juce::Justification::top, 1, 0);
+}
+
+void ImpulseResponseComponent::paint (juce::Graphics& g)
+{
+    if (! isVisible())
+        return;
+    bringUpToDate();
+    g.fillAll (backgroundColour);
+    g.setColour (juce::Colours::black);
+    g.drawRect (getLocalBounds().toFloat().expanded (0.5f), 1); // centred on the edge: half of it shows
+    paintDecay (g);
+    paintTicks (g);
+    paintTaps (g);
+}
+
+void ImpulseResponseComponent::paintDecay (juce::Graphics& g) const
+{
+    g.setColour (juce::Colour (0x80FF0000));
+    g.fillPath (low);
+    g.setColour (juce::Colour (0x80AEFF00));
+    g.fillPath (mid);
+    g.setColour (juce::Colour (0x800057FF));
+    g.fillPath (high);
+}
+
+void ImpulseResponseComponent::paintTicks (juce::Graphics& g) const
+{
+    const auto s = scale();
+    g.setColour (tickColour.withAlpha (0.2f));
+    for (float t = tickDistance; t < s.span(); t += tickDistance)
+        g.fillRect (juce::Rectangle<float> (s.x (t) - 0.5f, 0, 1, s.height));
+    g.setColour (tickColour.withAlpha (0.6f));
+    tickTexts.draw (g);
+}
+
+void ImpulseResponseComponent::paintTaps (juce::Graphics& g) const
+{
+    const auto s = scale();
+    g.setColour (directColour);
+    drawTap (g, s, 0, 1);
+
+    const auto& earlyMs = early.getDelays();
+    g.setColour (earlyColour);
+    for (std::size_t i = 0; i < earlyMs.size(); ++i)
+        drawTap (g, s, earlyMs[i], gains[i]);
+
+    g.setColour (clusterColour);
+    for (const float clusterMs : cluster.getDelays())
+        for (const float ms : earlyMs)
+            drawTap (g, s, clusterMs + ms, 1);
+}
+
+void ImpulseResponseComponent::resized() { stale |= decay | ticks; }
+
+void ImpulseResponseComponent::mouseWheelMove (const juce::MouseEvent&, const juce::MouseWheelDetails& wheel)
+{
+    if (std::isfinite (wheel.deltaY))
+        store (zoom, ImpulseResponseScale::zoomed (zoom, wheel.deltaY), decay | ticks);
+}
+
+}

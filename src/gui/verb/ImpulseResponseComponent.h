@@ -1,0 +1,77 @@
+#pragma once
+#include "gui/verb/Delgen.h"
+#include "gui/verb/ImpulseResponseScale.h"
+
+#include <juce_gui_basics/juce_gui_basics.h>
+
+#include <cstdint>
+
+namespace lumo
+{
+
+/** A schematic impulse response: a line for the direct sound, one for each early tap, one for each cluster delay on each
+    early tap, and the decay of three bands behind them. The wheel zooms the time axis; the values come through the
+    setters, times in ms. What the picture derives from them is worked out when it is next drawn. Message thread. */
+class ImpulseResponseComponent : public juce::Component
+{
+public:
+    explicit ImpulseResponseComponent (std::uint32_t numinternals);
+
+    void setTr0 (float seconds);
+    void setTrl (float ratio);
+    void setTrm (float ratio);
+    void setTrh (float ratio);
+    void setReverbStart (float ms);
+    /** Never past the early end. */
+    void setEarlyStart (float ms);
+    /** Never before the early start. */
+    void setEarlyEnd (float ms);
+    void setEarlyDistr (float distribution);
+    void setEarlyShape (float shape);
+    /** The cluster is held relative to the early stage as it stands at the call, and lasts 1 ms at least. */
+    void setClusterStart (float ms);
+    void setClusterEnd (float ms);
+    void setClusterDistr (float distribution);
+
+    [[nodiscard]] float getZoom() const noexcept { return zoom; }
+
+    void paint (juce::Graphics& g) override;
+    void resized() override;
+    void mouseWheelMove (const juce::MouseEvent& e, const juce::MouseWheelDetails& wheel) override;
+
+private:
+    /** What a value that changed makes stale. */
+    enum Stale : unsigned
+    {
+        decay = 1,
+        earlyDelays = 2,
+        earlyGains = 4,
+        clusterDelays = 8,
+        ticks = 16
+    };
+
+    void store (float& field, float value, unsigned makesStale);
+    [[nodiscard]] ImpulseResponseScale scale() const noexcept;
+    void bringUpToDate();
+    void buildDecay();
+    void buildTicks();
+    void paintDecay (juce::Graphics& g) const;
+    void paintTicks (juce::Graphics& g) const;
+    void paintTaps (juce::Graphics& g) const;
+
+    float tr0 = 1.995f, trl = 1, trm = 1, trh = 0.5f;
+    float reverbStart = 95.37f;
+    float earlyStart = 22.22f, earlyEnd = 39.71f, earlyDistr = 0.5f, earlyShape = 0.5f;
+    float clusterStart = 42.47f, clusterEnd = 105.64f, clusterDistr = 0.5f;
+    float zoom = ImpulseResponseScale::defaultZoom;
+
+    Ambrel::Delgen early, cluster;
+    qel::Vector<float> gains; // of the early taps
+    juce::Path low, mid, high;
+    juce::GlyphArrangement tickTexts;
+    unsigned stale = decay | earlyDelays | earlyGains | clusterDelays | ticks;
+
+    JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (ImpulseResponseComponent)
+};
+
+}

@@ -1,0 +1,28 @@
+#pragma once
+#include <algorithm>
+#include <cmath>
+
+namespace lumo
+{
+
+/** Where times and levels lie on the picture of an impulse response of a given size in pixels. */
+struct ImpulseResponseScale
+{
+    static constexpr float defaultZoom = 0.5f, leastZoom = 0.25f, greatestZoom = 2.0f;
+
+    float width = 0, height = 0;
+    float zoom = defaultZoom;
+
+    /** Of the time axis, in ms. */
+    [[nodiscard]] float span() const noexcept { return 200.0f / zoom; }
+    [[nodiscard]] float x (float ms) const noexcept { return width * ms / span(); }
+    /** The top of a line; a gain of 1 reaches half the height, whatever its sign. */
+    [[nodiscard]] float top (float gain) const noexcept { return height - 0.5f * height * std::abs (gain); }
+    /** The zoom after a turn of the wheel. */
+    [[nodiscard]] static float zoomed (float zoom, float wheelDelta) noexcept
+    {
+        return std::clamp (zoom * std::pow (2.0f, 0.15f * wheelDelta), leastZoom, greatestZoom);
+    }
+};
+
+}
