@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace qel
 {
@@ -56,11 +55,10 @@ Point3 pointOf (const XmlElement& source, const String& name)
 {
     Point3 point;
     for (const auto& axis : axes) {
-        const auto value = source.doubleAttribute (axis.name, 0.0);
-        const bool isHeld = std::abs (value) <= double{ std::numeric_limits<float>::max() }; // false for no number
-        if (! source.hasAttribute (axis.name) || ! isHeld)
+        const auto value = static_cast<float> (source.doubleAttribute (axis.name, 0.0));
+        if (! source.hasAttribute (axis.name) || ! std::isfinite (value))
             throw Exception ("invalid x y or z in snapshot " + name, QEL_HERE);
-        point.*axis.value = static_cast<float> (value);
+        point.*axis.value = value;
     }
     return point;
 }

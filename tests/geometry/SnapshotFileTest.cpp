@@ -1,0 +1,215 @@
+#include "common/OrvaneDspException.h"
+#include "geometry/OrvaneDspCoordinatesSnapshot.h"
+#include "support/files/ScratchFolder.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <random>
+
+namespace
+{
+
+using qel::CoordinatesSnapshotStore;
+using qel::Point3Array;
+using testing::HasSubstr;
+
+class SnapshotFile : public testing::Test
+{
+protected:
+    qel::File write (const std::string& children)
+    {
+        return scratch.write ("given.xml", "<ambrel.viewer>" + children + "</ambrel.viewer>");
+    }
+
+    template <typename Operation>
+    std::string complaintOf (Operation&& operation)
+    {
+        try {
+            operation();
+        } catch (const qel::Exception& e) {
+            return e.what();
+        }
+        return "";
+    }
+
+    std::string complaintOfReading (const qel::File& file)
+    {
+        return complaintOf ([&] { store.read (file); });
+    }
+
+    ScratchFolder scratch;
+    CoordinatesSnapshotStore store;
+};
+
+std::string source (const std::string& index, const std::string& rest = "x='1' y='2' z='3'")
+{
+    return "<source index='" + index + "' " + rest + "/>";
+}
+
+std::string snapshot (const std::string& sources) { return "<snapshot name='s 1'>" + sources + "</snapshot>"; }
+
+TEST_F (SnapshotFile, NamesTheFaultAndKeepsWhatWasReadBeforeIt)
+{
+    const std::string range = "invalid index range in snapshot s 1", place = "invalid x y or z in snapshot s 1";
+    const std::pair<std::string, std::string> rows[] = {
+        { "<state name='s 1'/>", "invalid snapshot" },
+        { "words", "invalid snapshot" },
+        { "<snapshot>" + source ("1") + "</snapshot>", "invalid name" },
+        { snapshot ("<source x='1' y='2' z='3'/>"), "invalid index in snapshot s 1" },
+        { snapshot (source ("1") + source ("2") + source ("1")), "index repetitions in snapshot s 1" },
+        { snapshot (source ("0") + source ("0")), "index repetitions in snapshot s 1" },
+        { snapshot (""), range },
+        { snapshot ("<speaker index='1'/>"), range },
+        { snapshot (source ("1") + source ("2") + source ("4")), range },
+        { snapshot (source ("0") + source ("1")), range },
+        { snapshot (source ("-1")), range },
+        { snapshot (source ("4294967297")), range },
+        { snapshot (source ("one")), range },
+        { snapshot (source ("1", "x='1' y='2'")), place },
+        { snapshot (source ("1", "x='1' z='3'")), place },
+        { snapshot (source ("1", "X='1' y='2' z='3'")), place },
+        { snapshot (source ("1", "x='nan' y='2' z='3'")), place },
+        { snapshot (source ("1", "x='1' y='-inf' z='3'")), place },
+        { snapshot (source ("1", "x='1' y='2' z='1e999'")), place },
+        { snapshot (source ("1", "x='1' y='2' z='-3.5e38'")), place },
+    };
+    const auto good = "<snapshot name='good'>" + source ("1") + "</snapshot>";
+    for (const auto& [document, complaint] : rows) {
+        store.removeAll();
+        EXPECT_EQ (complaintOfReading (write (good + document + "<snapshot name='late'/>")), complaint) << document;
+        EXPECT_EQ (store.size(), 1U) << document;
+        EXPECT_EQ (store.points ("good"), (Point3Array{ { 1, 2, 3 } })) << document;
+    }
+}
+
+TEST_F (SnapshotFile, FaultyFilesLeaveTheStoreAsItIs)
+{
+    store.store ("mine", { { 1, 2, 3 } });
+    const auto binary = scratch.write ("binary.xml", std::string ("\x7f"
+                                                                  "ELF\0\0",
+                                                                  6));
+    const auto torn = scratch.write ("torn.xml", "<ambrel.viewer>" + snapshot (source ("1")));
+    const auto parsing = [] (const qel::File& file) { return "error parsing file " + file.path().quoted().str(); };
+    for (const auto& file : { binary, torn, scratch.file ("."), scratch.write ("empty.xml", "") })
+        EXPECT_EQ (complaintOfReading (file), parsing (file));
+    EXPECT_EQ (complaintOfReading (scratch.file ("none.xml")),
+               "Could not find file \"" + scratch.file ("none.xml").path().str() + "\"");
+    EXPECT_TRUE (store.read (write ("")) && store.read (write (" <!-- none --> ")));
+    EXPECT_EQ (store.size(), 1U);
+}
+
+TEST_F (SnapshotFile, ReadsSourcesInTheOrderOfTheirIndices)
+{
+    store.store ("first", { { 9, 9, 9 } });
+    store.store ("s 1", { { 9, 9, 9 } });
+    EXPECT_TRUE (store.read (write ("<snapshot name='new'>" + source ("1") + "</snapshot>" +
+                                    snapshot (source ("2", "x='-.5' y='1e1' z='north'") + "<area/>" + source ("1")))));
+    EXPECT_EQ (store.points ("s 1"), (Point3Array{ { 1, 2, 3 }, { -0.5F, 10, 0 } }));
+    EXPECT_EQ (store.findIndex ("s 1"), 1) << "its place is kept";
+    EXPECT_EQ (store.findIndex ("new"), 2);
+}
+
+TEST_F (SnapshotFile, TheRootsNameAndVersionCountForNothing)
+{
+    EXPECT_TRUE (
+        store.read (scratch.write ("other.xml", "<other version='none'>" + snapshot (source ("1")) + "</other>")));
+    EXPECT_EQ (store.size(), 1U);
+}
+
+TEST_F (SnapshotFile, IsWrittenInItsFixedForm)
+{
+    const auto file = scratch.file ("new folder/written.xml");
+    store.store ("a", { { 0.1F, -2, 3.5F }, { 0, 1e-5F, 0 } });
+    store.store ("nothing", {});
+    store.store ("b", { { 123.456001F, -123.456001F, 123.456001F } });
+    ASSERT_TRUE (store.write (file, "4.9.2", false));
+    EXPECT_THAT (file.readAll().str(),
+                 testing::EndsWith (" -->\r\n\r\n"
+                                    "<ambrel.viewer version=\"4.9.2\">\r\n"
+                                    "  <snapshot name=\"a\">\r\n"
+                                    "    <source index=\"1\" x=\"0.1\" y=\"-2\" z=\"3.5\"/>\r\n"
+                                    "    <source index=\"2\" x=\"0\" y=\"0.00001\" z=\"0\"/>\r\n"
+                                    "  </snapshot>\r\n"
+                                    "  <snapshot name=\"b\">\r\n"
+                                    "    <source index=\"1\" x=\"123.456\" y=\"-123.456\" z=\"123.456\"/>\r\n"
+                                    "  </snapshot>\r\n"
+                                    "</ambrel.viewer>\r\n"));
+    ASSERT_TRUE (store.write (file, "", true));
+    EXPECT_THAT (file.readAll().str(), HasSubstr ("<ambrel.viewer>\r\n"));
+}
+
+TEST_F (SnapshotFile, RefusesToWriteNothingOrOverAFile)
+{
+    const auto file = scratch.write ("there.xml", "old");
+    EXPECT_EQ (complaintOf ([&] { store.write (file, "", true); }), "no snapshot");
+    store.store ("a", { { 1, 2, 3 } });
+    EXPECT_EQ (complaintOf ([&] { store.write (file, "", false); }),
+               "file " + file.path().quoted().str() + " already exists");
+    EXPECT_FALSE (store.write (scratch.file ("."), "", true)) << "a folder";
+    EXPECT_FALSE (store.write (qel::File ("/proc/snapshots.xml"), "", true)) << "nobody may write there";
+    EXPECT_EQ (file.readAll().str(), "old");
+    EXPECT_EQ (scratch.names(), std::set<std::string>{ "there.xml" });
+}
+
+/** Floats of all sizes, those at the limits among them. */
+std::vector<float> manyFloats (std::size_t count)
+{
+    using Limits = std::numeric_limits<float>;
+    std::vector<float> values{
+        0.0F, -0.0F, Limits::max(), Limits::lowest(), Limits::min(), Limits::denorm_min(), 7.038531e-26F
+    };
+    std::mt19937 random (3);
+    while (values.size() < count) {
+        const auto bits = static_cast<std::uint32_t> (random());
+        float value = 0;
+        std::memcpy (&value, &bits, sizeof value);
+        if (std::isfinite (value))
+            values.push_back (value);
+    }
+    return values;
+}
+
+bool sameBits (const Point3Array& a, const Point3Array& b)
+{
+    return a.size() == b.size() && std::memcmp (a.data(), b.data(), a.size() * sizeof (qel::Point3)) == 0;
+}
+
+TEST_F (SnapshotFile, ReadsBackBitForBit)
+{
+    constexpr std::size_t snapshots = 100, sources = 64;
+    const auto values = manyFloats (snapshots * sources * 3);
+    auto value = values.begin();
+    for (std::size_t i = 0; i < snapshots; ++i) {
+        Point3Array points (sources);
+        for (auto& point : points)
+            point = { *value++, *value++, *value++ };
+        store.store ("name \xc3\xa9 <&>\"'\n" + qel::String (static_cast<int> (i)), points);
+    }
+    const auto file = scratch.file ("written.xml");
+    ASSERT_TRUE (store.write (file, "4.9.2", false));
+
+    CoordinatesSnapshotStore back;
+    ASSERT_TRUE (back.read (file));
+    qel::Vector<qel::String> names, namesBack;
+    store.listNames (names);
+    back.listNames (namesBack);
+    ASSERT_EQ (namesBack, names);
+    for (const auto& name : names)
+        EXPECT_TRUE (sameBits (back.points (name), store.points (name))) << name.c_str();
+}
+
+TEST_F (SnapshotFile, IsWellFormed)
+{
+    if (std::system ("xmllint --version >/dev/null 2>&1") != 0)
+        GTEST_SKIP() << "there is no xmllint";
+    store.store ("a <&>\"' b\n", { { 0.1F, -2, 3.5F } });
+    store.store ("", { { 1e-30F, 1e30F, 0 } });
+    const auto file = scratch.file ("written.xml");
+    ASSERT_TRUE (store.write (file, "4.9.2", false));
+    EXPECT_EQ (std::system (("xmllint --noout '" + file.path().str() + "'").c_str()), 0);
+}
+
+}

@@ -1,0 +1,42 @@
+#pragma once
+#include "files/OrvaneDspFile.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <string>
+
+/** A folder of a test's own, which goes with it. */
+class ScratchFolder
+{
+public:
+    ScratchFolder()
+    {
+        auto name = (std::filesystem::temp_directory_path() / "halcyra XXXXXX").string();
+        path = mkdtemp (name.data());
+    }
+    ScratchFolder (const ScratchFolder&) = delete;
+    ScratchFolder& operator= (const ScratchFolder&) = delete;
+    ~ScratchFolder() { std::filesystem::remove_all (path); }
+
+    [[nodiscard]] qel::File file (const std::string& name) const { return qel::File ((path / name).string()); }
+
+    [[nodiscard]] qel::File write (const std::string& name, const std::string& bytes) const
+    {
+        std::ofstream (path / name, std::ios::binary) << bytes;
+        return file (name);
+    }
+
+    /** What lies in it. */
+    [[nodiscard]] std::set<std::string> names() const
+    {
+        std::set<std::string> found;
+        for (const auto& entry : std::filesystem::directory_iterator (path))
+            found.insert (entry.path().filename().string());
+        return found;
+    }
+
+private:
+    std::filesystem::path path;
+};
