@@ -37,5 +37,6 @@ endif()
 add_library(halcyra_warnings INTERFACE)
 add_library(halcyra::warnings ALIAS halcyra_warnings)
 target_compile_options(halcyra_warnings INTERFACE
-    -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wno-sign-conversion -Wdouble-promotion
+    -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wno-sign-conversion
+    $<$<CXX_COMPILER_ID:GNU>:-Wdouble-promotion> # clang complains of deliberate ones too
     -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wundef)

@@ -32,12 +32,12 @@ std::string_view shortest (std::array<char, 64>& buffer, Number value)
 String numberText (double value)
 {
     std::array<char, 64> buffer{};
-    if (std::abs (value) <= double{ std::numeric_limits<float>::max() }) {
+    if (std::abs (value) <= static_cast<double> (std::numeric_limits<float>::max())) {
         const auto single = static_cast<float> (value);
         const auto text = shortest (buffer, single);
         double readBack = 0;
         std::from_chars (text.data(), text.data() + text.size(), readBack);
-        if (double{ single } == value && static_cast<float> (readBack) == single)
+        if (static_cast<double> (single) == value && static_cast<float> (readBack) == single)
             return String (text);
     }
     return String (shortest (buffer, value));
