@@ -2,6 +2,7 @@
 #include "geometry/OrvaneDspPoint3.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace qel
 {
@@ -16,7 +17,8 @@ public:
     /** The corners, counterclockwise, from the lowest point (the leftmost of equals) on; no three of them in a line.
         Empty for fewer than two points, the two ends for points in a line, one for points that all coincide.
         Points that are not finite do not count. */
-    [[nodiscard]] const Point3Array& hull() const noexcept { return output; }
+    [[nodiscard]] const Point3Array& hull() const& noexcept { return output; }
+    [[nodiscard]] Point3Array hull() && noexcept { return std::move (output); }
 
 private:
     struct Point2D
