@@ -1,0 +1,33 @@
+#pragma once
+#include "max/Atoms.h"
+
+namespace orvanemax
+{
+
+/** The atoms that an attribute of an object, or a property of an attribute, holds at the moment of construction. */
+class AttributeValue
+{
+public:
+    AttributeValue (void* owner, t_symbol* name) noexcept
+        : failure (object_attr_getvalueof (owner, name, &count, &storage))
+    {}
+    ~AttributeValue()
+    {
+        if (storage != nullptr)
+            sysmem_freeptr (storage);
+    }
+    AttributeValue (const AttributeValue&) = delete;
+    AttributeValue& operator= (const AttributeValue&) = delete;
+
+    [[nodiscard]] t_max_err error() const noexcept { return failure; }
+    [[nodiscard]] Atoms atoms() const noexcept { return { count, storage }; }
+    [[nodiscard]] t_atom* data() const noexcept { return storage; }
+    [[nodiscard]] t_clong size() const noexcept { return count; }
+
+private:
+    t_clong count = 0;
+    t_atom* storage = nullptr;
+    t_max_err failure; // last: the call that gives it fills the two above
+};
+
+}

@@ -1,0 +1,56 @@
+#pragma once
+#include "host/api/MaxApi.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace orvanemax
+{
+
+/** The host counts the atoms of a deferred call in 16 bits; a longer list loses its end. */
+[[nodiscard]] inline short deferrable (t_clong argc) noexcept
+{
+    return static_cast<short> (std::clamp<t_clong> (argc, 0, std::numeric_limits<short>::max()));
+}
+
+/** Runs a deferred function on the main thread with a copy of the atoms: from the main thread by defer_medium, which
+    may run it at once or later. From any other it goes to the end of the queue; there defer_medium does the same only
+    for the scheduler's thread, so threads of other owners need defer_low. */
+inline void runOnMainThread (void* object, method function, t_symbol* selector, t_clong argc, const t_atom* argv)
+{
+    auto* atoms = const_cast<t_atom*> (argv); // the host copies them
+    if (systhread_ismainthread())
+        defer_medium (object, function, selector, deferrable (argc), atoms);
+    else
+        defer_low (object, function, selector, deferrable (argc), atoms);
+}
+
+/** A message's handler, called on the main thread alone. */
+using Handler = void (*) (void* object, t_symbol* selector, t_clong argc, t_atom* argv);
+
+/** What is registered for a handler that touches the component, an outlet or a dialog: a message from another thread
+    posts itself to the main thread, where one that came from there runs at once. */
+template <Handler handler>
+void mainThreadEntry (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
+{
+    using Deferred = void (*) (void*, t_symbol*, short, t_atom*);
+    constexpr Deferred deferred = [] (void* x, t_symbol* s, short ac, t_atom* av) { handler (x, s, ac, av); };
+    if (systhread_ismainthread())
+        handler (object, selector, argc, argv);
+    else
+        defer_low (object, max_method (deferred), selector, deferrable (argc), argv);
+}
+
+/** The same for a message that takes no arguments. */
+template <void (*handler) (void* object)>
+void mainThreadEntry (void* object)
+{
+    using Deferred = void (*) (void*, t_symbol*, short, t_atom*);
+    constexpr Deferred deferred = [] (void* x, t_symbol*, short, t_atom*) { handler (x); };
+    if (systhread_ismainthread())
+        handler (object);
+    else
+        defer_low (object, max_method (deferred), nullptr, 0, nullptr);
+}
+
+}

@@ -1,0 +1,148 @@
+#include "max/PattrState.h"
+
+#include "max/AttributeList.h"
+#include "max/AttributeValue.h"
+#include "max/Guarded.h"
+#include "max/MainThread.h"
+#include "max/MaxErrorText.h"
+#include "max/OrvanemaxSymbols.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace orvanemax
+{
+namespace
+{
+
+bool isKnownType (const t_atom& atom) noexcept
+{
+    const auto type = atom_gettype (&atom);
+    return type == A_LONG || type == A_FLOAT || type == A_SYM;
+}
+
+/** The values of the attributes one behind the other. */
+std::vector<t_atom> collect (void* object, const AttributeNames& names)
+{
+    std::vector<t_atom> values;
+    for (auto* name : names) {
+        const AttributeValue value (object, name);
+        if (value.error() != MAX_ERR_NONE)
+            tellBug (object, std::string ("orvanemax_getvalueof : ") + errorText (value.error()) +
+                                 " in object_attr_getvalueof (" + name->s_name + ")");
+        else if (value.size() < 0)
+            tellBug (object, std::string ("orvanemax_getvalueof : error in object_attr_getvalueof ") + name->s_name +
+                                 " (tmpac=" + std::to_string (value.size()) + ")");
+        for (const auto& atom : value.atoms()) {
+            if (isKnownType (atom))
+                values.push_back (atom);
+            else
+                tellError (object, "orvanemax_getvalueof : unknown atom type");
+        }
+    }
+    return values;
+}
+
+/** Hands the values over in new memory, or in the caller's, whose size nobody knows. */
+bool handOver (void* object, const std::vector<t_atom>& values, t_clong* ac, t_atom** av)
+{
+    const auto bytes = values.size() * sizeof (t_atom);
+    if (*ac > 0 && *av != nullptr)
+        tellWarning (object, "orvanemax_getvalueof : memory passed in");
+    else
+        *av = reinterpret_cast<t_atom*> (sysmem_newptr (std::max<t_ptr_size> (bytes, sizeof (t_atom))));
+    if (*av == nullptr)
+        return false;
+    sysmem_copyptr (values.data(), *av, bytes);
+    *ac = static_cast<t_clong> (values.size());
+    return true;
+}
+
+void setOne (void* object, t_symbol* name, const t_atom* first, t_clong count)
+{
+    std::vector<t_atom> values (first, first + count);
+    for (const auto& atom : values)
+        if (! isKnownType (atom))
+            tellWarning (object, "unknown atom type in orvanemax_setvalueof");
+    const auto error = object_attr_setvalueof (object, name, count, values.data());
+    if (error != MAX_ERR_NONE)
+        tellError (object, std::string (errorText (error)) + " in object_attr_setvalueof " + name->s_name);
+}
+
+/** An attribute's size is asked when its turn comes: those before it may have changed it. */
+void setAll (void* object, const AttributeNames& names, const t_atom* values, t_clong count)
+{
+    t_clong read = 0;
+    for (auto* name : names) {
+        const auto needed = GetNumberOfAtomsNeededToStoreAttribute (object, name);
+        if (needed > count - read)
+            return tellError (object, "error reading atoms in orvanemax_setvalueof");
+        if (needed > 0)
+            setOne (object, name, values + read, needed);
+        read += needed;
+    }
+}
+
+}
+}
+
+using namespace orvanemax;
+
+t_max_err orvanemax_getvalueof (void* x, t_clong* ac, t_atom** av)
+{
+    t_max_err result = MAX_ERR_GENERIC;
+    guarded (x, [&] {
+        if (ac == nullptr || av == nullptr)
+            return tellBug (x, "orvanemax_getvalueof : there is a problem");
+        const auto names = visibleAttributes (x);
+        const auto expected = numberOfAtoms (x, names);
+        const auto values = collect (x, names);
+        if (static_cast<t_clong> (values.size()) != expected)
+            tellError (x, std::to_string (expected) + " atoms allocated but " + std::to_string (values.size()) +
+                              " atoms stored by the pattrstorage");
+        if (handOver (x, values, ac, av))
+            result = MAX_ERR_NONE;
+    });
+    return result;
+}
+
+t_max_err orvanemax_setvalueof (void* x, t_clong ac, t_atom* av)
+{
+    guarded (x, [=] {
+        if (ac <= 0 || av == nullptr)
+            return;
+        const auto names = visibleAttributes (x);
+        const auto expected = numberOfAtoms (x, names);
+        if (ac != expected)
+            return tellError (x, "setvalueof error (received " + std::to_string (ac) + " atoms. " +
+                                     std::to_string (expected) + " atoms were expected)");
+        setAll (x, names, av, ac);
+    });
+    return MAX_ERR_NONE;
+}
+
+void orvanemax_preset (void* x)
+{
+    guarded (x, [=] {
+        auto* binbuf = gensym ("_preset")->s_thing;
+        if (binbuf == nullptr)
+            return;
+        const auto expected = static_cast<std::size_t> (numberOfAtoms (x, visibleAttributes (x)));
+        t_clong count = 0;
+        t_atom* values = nullptr;
+        const auto error = orvanemax_getvalueof (x, &count, &values);
+        if (error != MAX_ERR_NONE || static_cast<std::size_t> (count) != expected)
+            tellError (x, "error in orvanemax_preset");
+        else {
+            std::vector<t_atom> message (3);
+            atom_setobj (&message[0], x);
+            atom_setsym (&message[1], object_classname (x));
+            atom_setsym (&message[2], symbols().recallpreset);
+            message.insert (message.end(), values, values + count);
+            binbuf_insert (binbuf, nullptr, deferrable (static_cast<t_clong> (message.size())), message.data());
+        }
+        sysmem_freeptr (values);
+    });
+}
+
+void orvanemax_recallpreset (void* x, t_symbol*, t_clong argc, t_atom* argv) { orvanemax_setvalueof (x, argc, argv); }
