@@ -32,7 +32,7 @@ std::optional<Atoms> stateOf (const Box& box);
 bool setState (const Box& box, const Atoms& atoms);
 
 /** What the box writes when a preset saves, without the closing semicolon. */
-Atoms presetOf (Bench& bench, Box& box);
+Atoms presetOf (const Box& box);
 
 /** The outlets of a box, leftmost first. */
 int numberOfOutlets (const Box& box);

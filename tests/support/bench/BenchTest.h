@@ -13,7 +13,7 @@ class BenchTest;
 class TestBox
 {
 public:
-    TestBox (BenchTest& test, bench::Box* box) : test (&test), box (box) {}
+    TestBox (BenchTest& owner, bench::Box* made) : test (&owner), box (made) {}
 
     /** False if the creation gave no object. */
     explicit operator bool() const { return box != nullptr; }

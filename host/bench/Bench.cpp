@@ -1,0 +1,231 @@
+#include "host/bench/Bench.h"
+#include "host/bench/AttributeArguments.h"
+#include "host/bench/Console.h"
+#include "host/bench/Files.h"
+#include "host/bench/HostCalls.h"
+#include "host/bench/MainQueue.h"
+#include "host/bench/Outlets.h"
+#include "host/bench/Scheduler.h"
+#include "host/bench/Symbols.h"
+#include "host/bench/WindowDriver.h"
+#include <algorithm>
+#include <chrono>
+#include <unordered_set>
+
+namespace bench
+{
+
+namespace
+{
+/** A box with what only the host needs to know of it. */
+struct PlacedBox
+{
+    Box box;
+    BoxRecord* record = nullptr;
+};
+
+void tellWindow (void* object, const std::string& what)
+{
+    // A window may outlive its object by the moment in which it is torn down.
+    tell (Event::Kind::window, object, what);
+}
+
+/** Calls `new`: with the attribute dictionary where the class asks for it, else with all the words as atoms. */
+t_object* instantiate (t_class* c, const std::vector<Word>& words)
+{
+    if ((c->c_flags & CLASS_FLAG_NEWDICTIONARY) == 0)
+        return static_cast<t_object*> (callNew (c->c_newmess, c->c_sym, atomsOf (words)));
+    const auto arguments = splitArguments (words);
+    auto* d = makeAttributeDictionary (*recordOf (c), arguments);
+    auto atoms = arguments.plain;
+    atoms.emplace_back();
+    atom_setobj (&atoms.back(), d);
+    auto* object = static_cast<t_object*> (callNew (c->c_newmess, c->c_sym, atoms));
+    object_free (d);
+    return object;
+}
+}
+
+struct Bench::Patch
+{
+    std::vector<std::unique_ptr<PlacedBox>> boxes;
+    bool held = false;
+
+    t_object* create (t_class* c, BoxRecord& record, const std::vector<Word>& words)
+    {
+        Creation creation (c, record);
+        auto* object = instantiate (c, words);
+        auto* head = headOf (object);
+        if (head == nullptr) {
+            creation.abandon();
+            return nullptr;
+        }
+        head->box = &record;
+        return object;
+    }
+};
+
+Bench::Bench (DeferMedium deferMedium) : patch (std::make_unique<Patch>())
+{
+    MainQueue::thisIsTheMainThread();
+    MainQueue::instance().setDeferMedium (deferMedium);
+    Scheduler::instance().start();
+    if (auto* driver = windowDriver())
+        driver->setSink (tellWindow);
+}
+
+Bench::~Bench()
+{
+    while (! patch->boxes.empty())
+        free (&patch->boxes.back()->box);
+    release();
+    if (auto* driver = windowDriver())
+        driver->setSink ({});
+    Scheduler::instance().stop();
+    MainQueue::instance().clear();
+    forgetDialogAnswers();
+    clearTranslations();
+    setRecordListener ({});
+    takeRecorded();
+}
+
+void Bench::load (Entry entry)
+{
+    static auto& loaded = *new std::unordered_set<Entry>;
+    if (loaded.insert (entry).second)
+        entry (nullptr);
+}
+
+Box* Bench::make (const std::string& name, const std::string& text)
+{
+    auto words = wordsOf (text);
+    const auto className = words.empty() ? std::string() : words.front().text;
+    if (! words.empty())
+        words.erase (words.begin());
+    auto* c = class_findbyname (CLASS_BOX, gensym (className.c_str()));
+    auto placed = std::make_unique<PlacedBox>();
+    if (c != nullptr && find (name) == nullptr) {
+        placed->record = makeBoxRecord (name);
+        placed->box = { name, patch->create (c, *placed->record, words) };
+    }
+    if (placed->box.object != nullptr)
+        return &patch->boxes.emplace_back (std::move (placed))->box;
+
+    object_free (placed->record);
+    Event event;
+    event.box = name;
+    if (c == nullptr) {
+        event.kind = Event::Kind::error;
+        event.text = className + ": No such object";
+        record (event);
+    }
+    event.kind = Event::Kind::newFailed;
+    record (event);
+    return nullptr;
+}
+
+void Bench::free (Box* box)
+{
+    const auto found = std::find_if (patch->boxes.begin(), patch->boxes.end(),
+                                     [=] (const auto& placed) { return &placed->box == box; });
+    if (found == patch->boxes.end())
+        return;
+    for (const auto& other : patch->boxes)
+        for (int i = 0; auto* outlet = outletAt (other->box.object, i); ++i)
+            removeCord (*outlet, box->object);
+    auto* record = (*found)->record;
+    object_free (box->object);
+    object_free (record);
+    patch->boxes.erase (found);
+}
+
+Box* Bench::find (const std::string& name) const
+{
+    for (const auto& placed : patch->boxes)
+        if (placed->box.name == name)
+            return &placed->box;
+    return nullptr;
+}
+
+std::vector<std::string> Bench::names() const
+{
+    std::vector<std::string> all;
+    for (const auto& placed : patch->boxes)
+        all.push_back (placed->box.name);
+    return all;
+}
+
+void Bench::send (Box& box, const std::string& message, Thread thread)
+{
+    const auto parsed = messageOf (wordsOf (message));
+    send (box, parsed.selector, parsed.atoms, thread);
+}
+
+void Bench::send (Box& box, t_symbol* selector, const Atoms& atoms, Thread thread)
+{
+    if (thread == Thread::main)
+        deliver (box.object, selector, atoms);
+    else
+        runOnScheduler ([&] { deliver (box.object, selector, atoms); });
+}
+
+bool Bench::connect (Box& from, int outlet, Box& to)
+{
+    auto* found = outletAt (from.object, outlet);
+    if (found != nullptr)
+        addCord (*found, to.object);
+    return found != nullptr;
+}
+
+bool Bench::disconnect (Box& from, int outlet, Box& to)
+{
+    auto* found = outletAt (from.object, outlet);
+    return found != nullptr && removeCord (*found, to.object);
+}
+
+void Bench::settle()
+{
+    // Queue and scheduler end by themselves; a GUI that always has something to do must not keep us for ever.
+    constexpr int mostRounds = 10000;
+    bool busy = ! patch->held;
+    for (int round = 0; busy && round < mostRounds; ++round) {
+        busy = false;
+        while (MainQueue::instance().runOne())
+            busy = true;
+        busy = Scheduler::instance().settle() || busy;
+        if (auto* driver = windowDriver(); driver != nullptr && ! busy)
+            busy = driver->pump();
+    }
+}
+
+void Bench::hold() { patch->held = true; }
+
+void Bench::release()
+{
+    patch->held = false;
+    settle();
+}
+
+void Bench::wait (int milliseconds)
+{
+    using Clock = std::chrono::steady_clock;
+    constexpr int slice = 5;
+    const auto end = Clock::now() + std::chrono::milliseconds (milliseconds);
+    for (int passed = 0; passed < milliseconds;) {
+        const auto step = std::min (slice, milliseconds - passed);
+        passed += step;
+        std::this_thread::sleep_until (end - std::chrono::milliseconds (milliseconds - passed));
+        Scheduler::instance().advance (step);
+        settle();
+    }
+}
+
+void Bench::runOnScheduler (const std::function<void()>& task) { Scheduler::instance().run (task); }
+void Bench::postToScheduler (std::function<void()> task) { Scheduler::instance().post (std::move (task)); }
+std::vector<Event> Bench::takeEvents() { return takeRecorded(); }
+void Bench::setListener (std::function<void (const Event&)> listener) { setRecordListener (std::move (listener)); }
+void Bench::answerDialog (std::optional<std::string> path) { addDialogAnswer (std::move (path)); }
+
+void Bench::translate (const std::string& text, const std::string& translation) { setTranslation (text, translation); }
+
+}

@@ -1,0 +1,12 @@
+#pragma once
+#include <optional>
+#include <string>
+
+namespace bench
+{
+
+/** The answer of the next dialog that has none yet; nothing is "cancel". Unanswered dialogs are cancelled. */
+void addDialogAnswer (std::optional<std::string> path);
+void forgetDialogAnswers();
+
+}

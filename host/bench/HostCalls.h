@@ -1,0 +1,28 @@
+#pragma once
+#include "host/api/MaxApi.h"
+#include "host/bench/Classes.h"
+#include <array>
+
+/** The calls from the host into an external. Where the interface has a 32-bit count, the upper half of the
+    register is filled with rubbish on purpose, as a real host may leave it: a function that declares its count too
+    wide then fails here and not on stage. */
+namespace bench
+{
+
+void callFree (method function, void* x);
+void* callNew (method function, t_symbol* name, const std::vector<t_atom>& atoms);
+void* callUntyped (method function, void* x, const std::array<void*, 8>& arguments);
+void callDeferred (method function, void* ob, t_symbol* sym, std::vector<t_atom>& atoms);
+void callQelem (method function, void* ob);
+t_max_err callGetter (method function, void* x, void* attribute, t_clong* ac, t_atom** av);
+t_max_err callSetter (method function, void* x, void* attribute, std::vector<t_atom>& atoms);
+t_max_err callNotify (method function, void* x, t_symbol* name, t_symbol* message, void* sender, void* data);
+t_max_err callGetValueOf (method function, void* x, t_clong* ac, t_atom** av);
+t_max_err callSetValueOf (method function, void* x, std::vector<t_atom>& atoms);
+void callAssist (method function, void* x, void* box, t_clong io, t_clong index, char* text);
+
+/** Calls a method with the atoms of a message. An empty text when it ran; else what is wrong with them, in the words
+    of the Max window: "missing", "extra" or "bad". */
+const char* callWithAtoms (const Method& called, void* x, t_symbol* selector, std::vector<t_atom>& atoms);
+
+}
