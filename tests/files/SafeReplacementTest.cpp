@@ -3,13 +3,12 @@
 #include "support/files/ScratchFolder.h"
 #include "text/OrvaneDspXmlElement.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
-#include <regex>
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -167,7 +166,7 @@ TEST_F (SafeReplacement, TheTemporaryFileLiesBesideTheTargetAndGoesWithItsObject
     {
         const qel::TemporaryFile temporary (target);
         file = temporary.file();
-        EXPECT_TRUE (std::regex_match (file.fileName().str(), std::regex ("state_temp[0-9a-f]{1,8}\\.xml")));
+        EXPECT_THAT (file.fileName().str(), testing::MatchesRegex ("state_temp[0-9a-f]{1,8}\\.xml"));
         EXPECT_EQ (file.parent(), target.parent());
         EXPECT_FALSE (temporary.replaceTarget()) << "it was never written";
 
