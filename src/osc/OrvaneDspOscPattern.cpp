@@ -15,35 +15,45 @@ namespace
 using Characters = std::u32string;
 using Range = std::pair<char32_t, char32_t>;
 
-/** The length of the well-formed UTF-8 sequence at a place, by its first byte and the bytes behind it; 0 for none. */
-std::size_t sequenceLength (const std::string& bytes, std::size_t at)
+struct Decoded
 {
-    const auto lead = static_cast<unsigned char> (bytes[at]);
-    const std::size_t length = lead < 0x80                   ? 1
-                               : lead >= 0xc2 && lead < 0xe0 ? 2
-                               : lead >= 0xe0 && lead < 0xf0 ? 3
-                               : lead >= 0xf0 && lead < 0xf5 ? 4
-                                                             : 0;
-    if (length > bytes.size() - at)
-        return 0;
-    const auto isContinuation = [] (char c) { return (static_cast<unsigned char> (c) & 0xc0) == 0x80; };
-    const auto* const first = bytes.data() + at;
-    return std::all_of (first + (length > 0 ? 1 : 0), first + length, isContinuation) ? length : 0;
+    char32_t character;
+    std::size_t length; ///< in bytes
+};
+
+/** The character at a place. A byte that begins no well-formed sequence gives one that no text holds otherwise. */
+Decoded decodeAt (const std::string& bytes, std::size_t at)
+{
+    struct Form
+    {
+        unsigned char mask, lead;
+        char32_t least;
+    };
+    constexpr Form forms[] = { { 0x80, 0, 0 }, { 0xe0, 0xc0, 0x80 }, { 0xf0, 0xe0, 0x800 }, { 0xf8, 0xf0, 0x10000 } };
+    const auto byte = [&] (std::size_t i) { return static_cast<unsigned char> (bytes[at + i]); };
+    const auto isSurrogate = [] (char32_t c) { return c >= 0xd800 && c < 0xe000; };
+
+    for (std::size_t length = 1; length <= std::min<std::size_t> (4, bytes.size() - at); ++length) {
+        const auto& form = forms[length - 1];
+        if ((byte (0) & form.mask) != form.lead)
+            continue;
+        auto character = static_cast<char32_t> (byte (0) & ~form.mask);
+        std::size_t taken = 1;
+        for (; taken < length && (byte (taken) & 0xc0) == 0x80; ++taken)
+            character = (character << 6) | (byte (taken) & 0x3f);
+        if (taken == length && character >= form.least && character <= 0x10ffff && ! isSurrogate (character))
+            return { character, length };
+    }
+    return { 0xdc00u + byte (0), 1 };
 }
 
 Characters decode (const std::string& bytes)
 {
-    constexpr char32_t strayByte = 0xdc00; // a range that no character uses
-    constexpr unsigned char leadMask[] = { 0, 0x7f, 0x1f, 0x0f, 0x07 };
     Characters characters;
     for (std::size_t at = 0; at < bytes.size();) {
-        const auto lead = static_cast<unsigned char> (bytes[at]);
-        const auto length = sequenceLength (bytes, at);
-        char32_t character = length == 0 ? strayByte + lead : char32_t (lead & leadMask[length]);
-        for (std::size_t i = 1; i < length; ++i)
-            character = (character << 6) | (static_cast<unsigned char> (bytes[at + i]) & 0x3f);
+        const auto [character, length] = decodeAt (bytes, at);
         characters += character;
-        at += std::max<std::size_t> (length, 1);
+        at += length;
     }
     return characters;
 }

@@ -44,8 +44,10 @@ constexpr MatchRow matchRows[] = {
     { "a?", "a", false },
     { "??", "\xc3\xa9\xe2\x82\xac", true }, // é€: two characters of two and three bytes
     { "?", "\xf0\x9f\x8e\xb9", true },
-    { "??", "\xff\xfe", true }, // bytes that are no UTF-8 stand for themselves
-    { "?", "\xe2\x82", false }, // a cut character counts by its bytes
+    { "??", "\xff\xfe", true },        // bytes that are no UTF-8 stand for themselves
+    { "?", "\xe2\x82", false },        // a cut character counts by its bytes
+    { "\x80", "\xed\xb2\x80", false }, // a surrogate's three bytes are no character either
+    { "A", "\xe0\x81\x81", false },    // nor is a longer way to write one
     // classes
     { "a[bc]d", "abd", true },
     { "a[bc]d", "aed", false },
