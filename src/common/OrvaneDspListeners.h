@@ -36,8 +36,12 @@ public:
     template <typename Function>
     void call (Function&& function)
     {
-        for (std::size_t i = list.size(); i > 0; i = std::min (i - 1, list.size()))
-            function (*list[i - 1]);
+        for (auto next = list.end(); next != list.begin();) {
+            Listener* const called = *--next;
+            function (*called);
+            next =
+                std::lower_bound (list.begin(), list.end(), called, std::less<Listener*>()); // the list may differ now
+        }
     }
 
 private:
