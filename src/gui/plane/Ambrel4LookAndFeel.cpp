@@ -27,7 +27,7 @@ bool isHot (juce::Slider& slider) { return slider.isEnabled() && slider.isMouseO
 void addCorner (juce::Path& path, juce::Point<float> corner, juce::Point<float> inward, float size, bool round,
                 float startAngle)
 {
-    if (! round)
+    if (! round || size <= 0) // an arc of no size adds no point
         return path.lineTo (corner);
     const auto centre = corner + inward * size;
     path.addCentredArc (centre.x, centre.y, size, size, 0, startAngle, startAngle + juce::MathConstants<float>::halfPi);
@@ -137,6 +137,8 @@ void drawBarSlider (juce::Graphics& g, juce::Rectangle<float> area, float positi
     auto base = slider.findColour (juce::Slider::thumbColourId).withMultipliedSaturation (enabled ? 1.0f : 0.5f);
     if (isHot (slider))
         base = base.brighter (slider.isMouseButtonDown() ? 0.2f : 0.1f);
+    g.setColour (juce::Colours::black.withAlpha (0.25f)); // so that an empty bar is seen too
+    g.drawRect (area, 1);
     const auto bar = vertical ? area.withTop (position) : area.withRight (position);
     if (! bar.isEmpty())
         drawShadedShape (g, roundedPath (bar.reduced (0.5f), 0), base, enabled ? 0.9f : 0.3f);

@@ -40,6 +40,8 @@ HLShelfComponent::Field::Field (const halcyra::ShelfRow& row)
         slider.setSkewFactorFromMidPoint (row.midPoint);
     styleLabel (label, 11, juce::Justification::centred);
     styleLabel (value, 11, juce::Justification::centred);
+    label.setBorderSize ({ 0, 0, 0, 0 });
+    value.setBorderSize ({ 0, 1, 0, 1 });
 }
 
 HLShelfComponent::HLShelfComponent (const juce::String& name) : Component (name), curve (name)

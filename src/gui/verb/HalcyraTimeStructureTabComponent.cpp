@@ -153,6 +153,7 @@ void HalcyraTimeStructureTabComponent::place (NumberControl& control, juce::Rect
     addAndMakeVisible (control.slider);
 
     lumo::styleLabel (control.value, 12, juce::Justification::centredLeft);
+    control.value.setBorderSize ({ 1, 5, 1, 0 });
     control.value.setBounds (valueBox);
     addAndMakeVisible (control.value);
 }

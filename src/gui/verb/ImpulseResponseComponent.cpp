@@ -136,11 +136,14 @@ void ImpulseResponseComponent::buildDecay()
 void ImpulseResponseComponent::buildTicks()
 {
     const auto s = scale();
+    const juce::Font font (tickFontHeight);
     tickTexts.clear();
-    for (float t = tickDistance; t < s.span(); t += tickDistance)
-        tickTexts.addFittedText ({ tickFontHeight }, juce::String (t), s.x (t), 0,
-                                 static_cast<float> (static_cast<int> (0.1f * s.width)), tickFontHeight,
-                                 juce::Justification::top, 1, 0);
+    for (float t = tickDistance; t < s.span(); t += tickDistance) {
+        const juce::String text (t);
+        if (s.x (t) + font.getStringWidthFloat (text) <= s.width) // none that the edge would cut
+            tickTexts.addFittedText (font, text, s.x (t), 0, static_cast<float> (static_cast<int> (0.1f * s.width)),
+                                     tickFontHeight, juce::Justification::top, 1, 0);
+    }
 }
 
 void ImpulseResponseComponent::paint (juce::Graphics& g)

@@ -1,9 +1,14 @@
 #include "gui/verb/ValueLabel.h"
 
+#include <utility>
+
 namespace lumo
 {
 
-ValueLabel::ValueLabel (Format numberToText) : format (std::move (numberToText)) {}
+ValueLabel::ValueLabel (Format numberToText) : format (std::move (numberToText))
+{
+    setMinimumHorizontalScale (0.5f); // narrow labels squeeze a long number rather than end it in dots
+}
 
 void ValueLabel::show (float number)
 {

@@ -1,0 +1,209 @@
+#include "gui/verb/HalcyraFiltersTabComponent.h"
+#include "support/Stage.h"
+
+#include <gmock/gmock.h>
+
+#include <limits>
+
+namespace
+{
+
+using Curve = lumo::HLShelfFrequencyResponseComponent;
+using testing::ElementsAre;
+
+/** The page on a stage, and the filters that it tells of. */
+class Filters : public testing::Test, protected Curve::Listener
+{
+protected:
+    Filters()
+    {
+        for (int filter = 0; filter < 4; ++filter)
+            page.getShelf (filter).getResponse().addListener (this);
+    }
+
+    void filterChanged (Curve* response) override
+    {
+        for (int filter = 0; filter < 4; ++filter)
+            if (response == &page.getShelf (filter).getResponse())
+                heard.push_back (filter);
+    }
+    void filterClose() override { ++closes; }
+
+    [[nodiscard]] const HLShelfParameters& filter() { return curve.getParameters(); }
+    [[nodiscard]] juce::Point<int> handle (double hz, double dB) const
+    {
+        const lumo::HLShelfScale s{ 192, 150 };
+        return stage.at (curve, { juce::roundToInt (s.x (hz)), juce::roundToInt (s.y (dB)) });
+    }
+    [[nodiscard]] juce::Point<int> slider (int field) const
+    {
+        constexpr int left[] = { 15, 44, 76, 108, 148, 180 };
+        return stage.at (column, { left[field] + 15, 204 + 55 });
+    }
+
+    HalcyraFiltersTabComponent page{ "filters" };
+    Stage stage{ page };
+    lumo::HLShelfComponent& column = page.getShelf (1);
+    Curve& curve = column.getResponse();
+    std::vector<int> heard;
+    int closes = 0;
+};
+
+constexpr double lowCentre = 70.71; // the middle of 20 and 250 Hz on the scale
+constexpr double midCentre = 1000;
+constexpr double highCentre = 8944.3;
+
+struct HandleRow
+{
+    float HLShelfParameters::*field;
+    double hz;
+};
+
+TEST_F (Filters, GainHandlesAreDraggedToBothEnds)
+{
+    for (const auto& row : { HandleRow{ &HLShelfParameters::Gl, lowCentre },
+                             { &HLShelfParameters::Gm, midCentre },
+                             { &HLShelfParameters::Gh, highCentre } }) {
+        curve.reset();
+        heard.clear();
+        stage.dragFromTo (handle (row.hz, 0), handle (row.hz, 29.8));
+        EXPECT_NEAR (filter().*row.field, 30, 0.5f);
+        stage.dragFromTo (handle (row.hz, 29.6), handle (row.hz, -29.6));
+        EXPECT_NEAR (filter().*row.field, -29.6f, 0.5f);
+        EXPECT_THAT (heard, testing::AllOf (testing::Not (testing::IsEmpty()), testing::Each (1)));
+        HLShelfParameters others = filter();
+        others.*row.field = 0;
+        EXPECT_EQ (others, HLShelfParameters{}) << "no other field moves";
+    }
+}
+
+TEST_F (Filters, FrequencyHandlesAreTakenAtAnyHeightAndMayCross)
+{
+    stage.dragFromTo (handle (250, 20), handle (12000, 20));
+    EXPECT_NEAR (filter().fl, 12000, 600);
+    EXPECT_EQ (filter().fh, 4000);
+    stage.dragFromTo (handle (4000, -20), handle (20, -20));
+    EXPECT_NEAR (filter().fh, 20, 1);
+}
+
+TEST_F (Filters, AClickBesideAllHandlesChangesNothing)
+{
+    stage.click (handle (midCentre, 20));
+    EXPECT_EQ (curve.getSelectedHandle(), -1);
+    EXPECT_EQ (filter(), HLShelfParameters{});
+    EXPECT_TRUE (heard.empty());
+}
+
+TEST_F (Filters, AClickOnAHandleMovesItToThePointer)
+{
+    stage.press (handle (midCentre, 1));
+    EXPECT_EQ (curve.getSelectedHandle(), 1);
+    EXPECT_NEAR (filter().Gm, 1, 0.5f);
+    stage.release (handle (midCentre, 1));
+    EXPECT_EQ (curve.getSelectedHandle(), 1) << "the selection outlives the press";
+    stage.move ({ 2, 2 });
+    EXPECT_EQ (curve.getSelectedHandle(), -1) << "and ends when the pointer leaves";
+}
+
+TEST_F (Filters, TheGlobalGainMovesTheHandlesOfTheBands)
+{
+    curve.setGlobalGain (-10);
+    stage.dragFromTo (handle (midCentre, -10), handle (midCentre, 0));
+    EXPECT_NEAR (filter().Gm, 10, 0.5f);
+}
+
+TEST_F (Filters, TheWheelTurnsTheSelectedHandleAndTellsWithNoneToo)
+{
+    stage.click (handle (midCentre, 0));
+    curve.setMidGain (0);
+    stage.wheel (handle (midCentre, 0), 0.5f);
+    EXPECT_FLOAT_EQ (filter().Gm, 4.5f);
+    stage.wheel (handle (midCentre, 0), 100);
+    EXPECT_EQ (filter().Gm, 30);
+    stage.click (handle (4000, 20));
+    curve.setHighFrequency (4000);
+    stage.wheel (handle (4000, 20), -1);
+    EXPECT_FLOAT_EQ (filter().fh, 2000);
+
+    stage.click (handle (midCentre, -25));
+    heard.clear();
+    stage.wheel (handle (midCentre, -25), 0.5f);
+    EXPECT_THAT (heard, ElementsAre (1));
+}
+
+TEST_F (Filters, SlidersMoveTheirFieldToBothEnds)
+{
+    constexpr float low[] = { -60, -30, -30, -30, 20, 20 }, high[] = { 10, 30, 30, 30, 20000, 20000 };
+    for (int field = 0; field < 6; ++field) {
+        const auto& row = halcyra::shelfTable[static_cast<std::size_t> (field)];
+        const auto centre = slider (field);
+        stage.dragFromTo (centre, centre.translated (0, 90));
+        EXPECT_NEAR (filter().*row.value, low[field], 1e-3f) << row.name;
+        stage.dragFromTo (centre, centre.translated (0, -90));
+        EXPECT_NEAR (filter().*row.value, high[field], 1e-3f) << row.name;
+        stage.doubleClick (centre);
+        EXPECT_NEAR (filter().*row.value, row.doubleClick, 1e-3) << row.name;
+    }
+    EXPECT_THAT (heard, testing::Each (1));
+}
+
+TEST_F (Filters, ResetTouchesItsColumnAlone)
+{
+    page.getShelf (2).setParameters ({ 1, 2, 3, 4, 500, 600 }, false, false);
+    column.setParameters ({ 1, 2, 3, 4, 500, 600 }, false, false);
+    EXPECT_TRUE (heard.empty()) << "silent settings";
+    stage.click (stage.at (column, { 36, 360 }));
+    EXPECT_THAT (heard, ElementsAre (1));
+    EXPECT_EQ (filter(), HLShelfParameters{});
+    EXPECT_EQ (page.getShelf (2).getResponse().getParameters().G0, 1);
+}
+
+TEST_F (Filters, AnEqualFilterTellsOnlyWhenForcedAndABadOneNever)
+{
+    const HLShelfParameters p{ -100, 2, 3, 4, 500, 600 };
+    column.setParameters (p, true, false);
+    column.setParameters (p, true, false);
+    EXPECT_THAT (heard, ElementsAre (1));
+    column.setParameters (p, true, true);
+    EXPECT_THAT (heard, ElementsAre (1, 1));
+    HLShelfParameters bad = p;
+    bad.Gm = std::numeric_limits<float>::quiet_NaN();
+    column.setParameters (bad, true, true);
+    curve.setLowFrequency (std::numeric_limits<float>::infinity());
+    EXPECT_EQ (filter(), p) << "its global gain lies beyond the slider, and stays";
+    EXPECT_EQ (heard.size(), 2u);
+}
+
+TEST_F (Filters, TheCloseKeyIsToldAndTravelsOn)
+{
+    EXPECT_FALSE (column.keyPressed (juce::KeyPress ('w', juce::ModifierKeys::ctrlModifier, 0)));
+    EXPECT_EQ (closes, 1);
+    EXPECT_FALSE (column.keyPressed (juce::KeyPress ('w')));
+    EXPECT_EQ (closes, 1);
+}
+
+TEST_F (Filters, TheHandlesShowOnlyUnderThePointer)
+{
+    const auto corner = stage.at (curve, {});
+    const auto before = stage.picture().getPixelAt (corner.x + 115, corner.y + 20);
+    stage.move (handle (midCentre, 20));
+    const auto line = handle (4000, 22);
+    const auto shown = stage.picture().getPixelAt (line.x, line.y);
+    stage.move ({ 2, 2 });
+    EXPECT_NE (stage.picture().getPixelAt (line.x, line.y), shown);
+    EXPECT_EQ (stage.picture().getPixelAt (corner.x + 115, corner.y + 20), before);
+}
+
+TEST_F (Filters, TheCurveIsFilledUpToItsGain)
+{
+    stage.move ({ 2, 2 });
+    curve.setGlobalGain (10);
+    const auto picture = stage.picture();
+    const auto under = stage.at (curve, { 60, 80 }), above = stage.at (curve, { 60, 40 });
+    const auto fill = picture.getPixelAt (under.x, under.y);
+    EXPECT_GT (fill.getBlue(), fill.getRed() + 40);
+    const auto free = picture.getPixelAt (above.x, above.y);
+    EXPECT_NEAR (free.getBlue(), free.getRed(), 2);
+}
+
+}

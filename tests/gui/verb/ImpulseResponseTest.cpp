@@ -1,0 +1,128 @@
+#include "gui/verb/ImpulseResponseComponent.h"
+#include "support/Stage.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using lumo::ImpulseResponseScale;
+
+TEST (ImpulseResponseScale, CoversTimesFromTheLeftEdgeToTheSpan)
+{
+    const ImpulseResponseScale s{ 904, 144, 0.5f };
+    EXPECT_EQ (s.span(), 400);
+    EXPECT_EQ (s.x (0), 0);
+    EXPECT_EQ (s.x (100), 226);
+    EXPECT_EQ (s.x (400), 904);
+    EXPECT_EQ (s.top (0), 144);
+    EXPECT_EQ (s.top (-1), 72);
+    EXPECT_EQ (s.top (2), 0);
+}
+
+TEST (ImpulseResponseScale, ZoomsBetweenAHundredAndEightHundredMs)
+{
+    float zoom = ImpulseResponseScale::defaultZoom;
+    EXPECT_FLOAT_EQ (ImpulseResponseScale::zoomed (zoom, 1), 0.5f * std::pow (2.0f, 0.15f));
+    EXPECT_EQ (ImpulseResponseScale::zoomed (zoom, 1000), 2);
+    EXPECT_EQ (ImpulseResponseScale::zoomed (zoom, -1000), 0.25f);
+}
+
+/** A display of the size that it has on its page. */
+class ImpulseResponse : public testing::Test
+{
+protected:
+    explicit ImpulseResponse (std::uint32_t numinternals = 2) : display (numinternals) { display.setSize (904, 144); }
+
+    [[nodiscard]] juce::Colour at (float ms, int y) const
+    {
+        const ImpulseResponseScale s{ 904, 144, display.getZoom() };
+        return stage.picture().getPixelAt (static_cast<int> (s.x (ms)), y);
+    }
+    [[nodiscard]] static bool isGreenish (juce::Colour c)
+    {
+        return c.getGreen() > c.getRed() + 20 && c.getGreen() > c.getBlue() + 20;
+    }
+    [[nodiscard]] static bool isBluish (juce::Colour c)
+    {
+        return c.getBlue() > c.getRed() + 40 && c.getBlue() > c.getGreen() + 40;
+    }
+
+    lumo::ImpulseResponseComponent display;
+    Stage stage{ display };
+};
+
+TEST_F (ImpulseResponse, DrawsTapsAtTheirTimesAndTheDecayBehindThem)
+{
+    display.setReverbStart (300);
+    display.setEarlyEnd (82.5f);
+    display.setEarlyStart (42.5f);
+    display.setClusterEnd (242.5f);
+    display.setClusterStart (122.5f); // taps of the cluster at 80 and 160 on top of the early ones
+    const juce::Colour grey{ 0xFFB5B5B5 };
+    for (const float ms : { 42.5f, 82.5f })
+        EXPECT_TRUE (isGreenish (at (ms, 140))) << ms;
+    for (const float ms : { 122.5f, 162.5f, 202.5f, 242.5f })
+        EXPECT_TRUE (isBluish (at (ms, 140))) << ms;
+    for (const float ms : { 30.0f, 62.0f, 103.0f, 143.0f, 225.0f })
+        EXPECT_EQ (at (ms, 130), grey) << ms << ", where nothing stands";
+    EXPECT_EQ (at (290, 130), grey);
+    EXPECT_NE (at (310, 130), grey) << "the decay";
+    EXPECT_EQ (at (122.5f, 60), grey) << "a gain of one reaches half the height";
+}
+
+TEST_F (ImpulseResponse, TheShapeTiltsTheEarlyTaps)
+{
+    display.setEarlyEnd (82.5f);
+    display.setEarlyStart (42.5f);
+    display.setEarlyShape (0);
+    EXPECT_TRUE (isGreenish (at (42.5f, 20))) << "all of the energy";
+    EXPECT_FALSE (isGreenish (at (82.5f, 130)));
+    display.setEarlyShape (1);
+    EXPECT_FALSE (isGreenish (at (42.5f, 130)));
+    EXPECT_TRUE (isGreenish (at (82.5f, 20)));
+}
+
+TEST_F (ImpulseResponse, TheWheelZoomsAboutTheLeftEdge)
+{
+    display.setReverbStart (300);
+    display.setEarlyEnd (82.5f);
+    display.setEarlyStart (42.5f);
+    stage.wheel ({ 400, 70 }, 100);
+    EXPECT_EQ (display.getZoom(), 2);
+    EXPECT_TRUE (isGreenish (at (82.5f, 140)));
+    stage.wheel ({ 400, 70 }, -100);
+    EXPECT_EQ (display.getZoom(), 0.25f);
+    EXPECT_TRUE (isGreenish (at (42.5f, 140)));
+}
+
+TEST_F (ImpulseResponse, AnEqualValueKeepsThePicture)
+{
+    const auto before = stage.picture().createCopy();
+    display.setTr0 (1.995f);
+    display.setReverbStart (95.37f);
+    const auto same = stage.picture();
+    for (int x = 0; x < 904; ++x)
+        ASSERT_EQ (before.getPixelAt (x, 100), same.getPixelAt (x, 100)) << x;
+    display.setReverbStart (200);
+    const auto after = stage.picture();
+    EXPECT_NE (before.getPixelAt (300, 130), after.getPixelAt (300, 130));
+}
+
+TEST_F (ImpulseResponse, DrawsAnyNumberOfTapsInAnySize)
+{
+    for (const std::uint32_t taps : { 1u, 8u, 9u, 16u, 17u, 64u }) {
+        lumo::ImpulseResponseComponent other (taps);
+        for (const auto size : { juce::Point<int> (904, 144), { 1, 1 }, { 0, 0 } }) {
+            other.setVisible (true);
+            other.setSize (size.x, size.y);
+            juce::Image image (juce::Image::RGB, 904, 144, true);
+            juce::Graphics g (image);
+            g.reduceClipRegion (other.getLocalBounds());
+            other.paint (g);
+            EXPECT_EQ (image.getPixelAt (900, 40) == juce::Colour (0xFFB5B5B5), size.x == 904) << taps;
+        }
+    }
+}
+
+}

@@ -1,0 +1,259 @@
+#include "gui/plane/Ambrel4LookAndFeel.h"
+#include "gui/verb/HalcyraTimeStructureLayout.h"
+#include "gui/verb/HalcyraTimeStructureTabComponent.h"
+#include "support/Stage.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+namespace parameter = halcyra::parameter;
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+juce::Rectangle<int> boxOf (HalcyraReverbParameter number)
+{
+    for (const auto& place : halcyra::timeStructurePlaces)
+        if (place.number == number)
+            return place.control.rectangle();
+    return {};
+}
+
+/** A page on a stage, and the parameters that it tells of. */
+class TimeStructure : public testing::Test, protected lumo::HalcyraTimeStructureListener
+{
+protected:
+    TimeStructure()
+    {
+        tab.setLookAndFeel (look);
+        pumpGui();
+        tab.setDefaults(); // the first one found the controls at their low ends
+        pumpGui();
+        tab.addListener (this);
+    }
+
+    ~TimeStructure() override { tab.setLookAndFeel (nullptr); }
+
+    void timeStructureChanged (HalcyraTimeStructureTabComponent* source, const int& number) override
+    {
+        EXPECT_EQ (source, &tab);
+        heard.push_back (number);
+        if (leaveWhenTold)
+            tab.removeListener (this);
+    }
+
+    [[nodiscard]] float value (HalcyraReverbParameter number) const
+    {
+        HalcyraTimeStructure record;
+        tab.updateTimeStructureField (record, number);
+        return halcyra::valueOf (record, *halcyra::parameterRow (number));
+    }
+
+    void set (HalcyraReverbParameter number, float wish)
+    {
+        tab.setParameter (number, wish, 1);
+        pumpGui();
+    }
+
+    juce::SharedResourcePointer<Ambrel4LookAndFeelV2> look;
+    HalcyraTimeStructureTabComponent tab{ "page", 8 };
+    Stage stage{ tab };
+    std::vector<int> heard;
+    bool leaveWhenTold = false;
+};
+
+TEST_F (TimeStructure, StartsWithTheDefaultsOnItsSliders)
+{
+    for (const auto& row : halcyra::parameterTable) {
+        const float expected =
+            row.number == parameter::tr0 ? 2.0f : halcyra::valueOf ({}, row); // tr0 lies between two steps
+        EXPECT_NEAR (value (row.number), expected, 1e-4f) << row.key;
+    }
+}
+
+struct Ends
+{
+    HalcyraReverbParameter number;
+    float low, high;
+};
+
+class Sliders : public TimeStructure, public testing::WithParamInterface<Ends>
+{};
+
+TEST_P (Sliders, AreDraggedToTheEndsThatTheirNeighboursLeaveAndTellOfNothingElse)
+{
+    const auto box = boxOf (GetParam().number);
+    stage.dragFromTo (box.getCentre(), { box.getX() - 40, box.getCentreY() });
+    EXPECT_NEAR (value (GetParam().number), GetParam().low, 1e-3f);
+    EXPECT_THAT (heard, testing::AllOf (testing::Not (IsEmpty()), Each (GetParam().number)));
+    tab.setDefaults();
+    pumpGui();
+    heard.clear();
+    stage.dragFromTo (box.getCentre(), { box.getRight() + 40, box.getCentreY() });
+    EXPECT_NEAR (value (GetParam().number), GetParam().high, 1e-3f);
+    EXPECT_THAT (heard, testing::AllOf (testing::Not (IsEmpty()), Each (GetParam().number)));
+}
+
+INSTANTIATE_TEST_SUITE_P (
+    Rows, Sliders,
+    testing::Values (Ends{ parameter::gain, -30, 30 }, Ends{ parameter::tr0, 0.1f, 30 },
+                     Ends{ parameter::trl, 0.1f, 10 }, Ends{ parameter::trm, 0.1f, 10 },
+                     Ends{ parameter::trh, 0.1f, 1 }, Ends{ parameter::fl, 20, 20000 },
+                     Ends{ parameter::fh, 20, 20000 }, Ends{ parameter::earlyStart, 1, 39.71f },
+                     Ends{ parameter::earlyEnd, 22.22f, 105.64f }, Ends{ parameter::earlyDistr, 0.1f, 0.9f },
+                     Ends{ parameter::earlyShape, 0, 1 }, Ends{ parameter::earlyWidth, 10, 180 },
+                     Ends{ parameter::clusterStart, 22.22f, 105.64f }, Ends{ parameter::clusterEnd, 42.47f, 300 },
+                     Ends{ parameter::clusterDistr, 0.1f, 0.9f }, Ends{ parameter::reverbStart, 42.47f, 500 },
+                     Ends{ parameter::modalDensity, 0.2f, 4 }, Ends{ parameter::airFrequency, 20, 20000 }));
+
+TEST_F (TimeStructure, ADoubleClickReturnsASliderAndTheAirFrequencyFallsToItsLowEnd)
+{
+    for (const auto& row : halcyra::parameterTable) {
+        if (row.isSwitch())
+            continue;
+        const auto box = boxOf (row.number);
+        stage.doubleClick (box.getCentre());
+        const double expected = row.number == parameter::airFrequency ? 20
+                                : row.number == parameter::tr0        ? 2
+                                                                      : row.doubleClick;
+        EXPECT_NEAR (static_cast<double> (value (row.number)), expected, 1e-4) << row.key;
+        tab.setDefaults();
+        pumpGui();
+    }
+}
+
+TEST_F (TimeStructure, AnAltClickReturnsASliderToo)
+{
+    const juce::ModifierKeys alt (juce::ModifierKeys::altModifier);
+    stage.click (boxOf (parameter::airFrequency).getCentre(), alt);
+    EXPECT_EQ (value (parameter::airFrequency), 20);
+    set (parameter::gain, 12);
+    stage.click (boxOf (parameter::gain).getCentre(), alt);
+    EXPECT_EQ (value (parameter::gain), 0);
+}
+
+TEST_F (TimeStructure, TheWheelMovesTheSliderUnderThePointer)
+{
+    stage.wheel (boxOf (parameter::gain).getCentre(), 0.5f);
+    EXPECT_GT (value (parameter::gain), 0);
+    EXPECT_THAT (heard, testing::AllOf (testing::Not (IsEmpty()), Each (+parameter::gain)));
+}
+
+TEST_F (TimeStructure, TheTogglesTellAtOnce)
+{
+    for (const HalcyraReverbParameter number : { parameter::air, parameter::infinite }) {
+        const float before = value (number);
+        stage.click (boxOf (number).getCentre());
+        EXPECT_EQ (value (number), 1 - before);
+        tab.setParameter (number, before, 1);
+        EXPECT_EQ (value (number), before);
+        tab.setParameter (number, before, 1); // no change, nothing told
+    }
+    EXPECT_THAT (heard, ElementsAre (parameter::air, parameter::air, parameter::infinite, parameter::infinite));
+}
+
+TEST_F (TimeStructure, ASilentSetterTellsNothingAndANotifyingOneOnlyOfAChange)
+{
+    tab.setParameter (parameter::gain, 5, 0);
+    tab.setParameter (parameter::tr0, 7, 2);
+    tab.setParameter (parameter::air, 0, 0);
+    pumpGui();
+    EXPECT_THAT (heard, IsEmpty());
+    set (parameter::gain, 5);
+    EXPECT_THAT (heard, IsEmpty());
+    set (parameter::gain, 6);
+    EXPECT_THAT (heard, ElementsAre (parameter::gain));
+}
+
+TEST_F (TimeStructure, WhatIsNotFiniteOrNoParameterIsIgnored)
+{
+    for (const float bad : { std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(),
+                             -std::numeric_limits<float>::infinity() }) {
+        for (int number = -1; number <= parameter::count; ++number)
+            set (number, bad);
+        tab.setRoomSize (bad, 1);
+    }
+    set (99, 1);
+    pumpGui();
+    EXPECT_THAT (heard, IsEmpty());
+    EXPECT_NEAR (value (parameter::earlyStart), 22.22f, 1e-4f);
+}
+
+TEST_F (TimeStructure, TheEarlyEndStopsAtTheClusterEnd)
+{
+    set (parameter::clusterEnd, 50);
+    set (parameter::earlyEnd, 119);
+    EXPECT_EQ (value (parameter::earlyEnd), 50);
+}
+
+TEST_F (TimeStructure, AMessageMaySetTrhBeyondItsSlider)
+{
+    set (parameter::trh, 5);
+    EXPECT_EQ (value (parameter::trh), 1) << "the slider stands at its end";
+}
+
+TEST_F (TimeStructure, TheRoomSizeTellsOfEightParametersInOrder)
+{
+    tab.setRoomSize (15000, 1);
+    pumpGui();
+    EXPECT_THAT (heard, ElementsAre (7, 8, 9, 12, 13, 14, 15, 16));
+    EXPECT_NEAR (value (parameter::reverbStart), 349.36f, 0.01f);
+    EXPECT_EQ (value (parameter::clusterEnd), 300);
+}
+
+TEST_F (TimeStructure, TheRoomSizeIsDraggedAndDoubleClicked)
+{
+    const auto box = halcyra::roomSliderBox.rectangle();
+    stage.dragFromTo (box.getCentre(), { box.getRight() + 20, box.getCentreY() });
+    EXPECT_NEAR (value (parameter::earlyEnd), 97.98f, 0.01f);
+    stage.doubleClick (box.getCentre());
+    EXPECT_NEAR (value (parameter::earlyEnd), 35.78f, 0.01f) << "0.8 sqrt (2000)";
+}
+
+TEST_F (TimeStructure, ResetReturnsWhatWasMovedAndTellsOfThatAlone)
+{
+    set (parameter::gain, 12);
+    set (parameter::fl, 1000);
+    tab.setParameter (parameter::infinite, 1, 1);
+    heard.clear();
+    stage.click (halcyra::resetBox.rectangle().getCentre());
+    EXPECT_EQ (value (parameter::gain), 0);
+    EXPECT_EQ (value (parameter::fl), 250);
+    EXPECT_EQ (value (parameter::infinite), 0);
+    EXPECT_THAT (heard, testing::IsSupersetOf ({ +parameter::infinite, +parameter::gain, +parameter::fl }));
+    EXPECT_THAT (heard, testing::Not (testing::Contains (+parameter::tr0)));
+    EXPECT_EQ (heard.front(), parameter::infinite) << "switches tell before sliders do";
+}
+
+TEST_F (TimeStructure, AListenerMayLeaveWhileItIsTold)
+{
+    leaveWhenTold = true;
+    set (parameter::gain, 3);
+    set (parameter::gain, 4);
+    EXPECT_THAT (heard, ElementsAre (parameter::gain));
+}
+
+TEST_F (TimeStructure, ASettingRepaintsItsValueAndLeavesTheRestOfThePage)
+{
+    const auto before = stage.picture().createCopy();
+    set (parameter::gain, 12);
+    const auto after = stage.picture();
+    const auto differ = [&] (juce::Rectangle<int> area) {
+        for (int y = area.getY(); y < area.getBottom(); ++y)
+            for (int x = area.getX(); x < area.getRight(); ++x)
+                if (before.getPixelAt (x, y) != after.getPixelAt (x, y))
+                    return true;
+        return false;
+    };
+    EXPECT_TRUE (differ (boxOf (parameter::gain)));
+    EXPECT_TRUE (differ ({ 816, 200, 56, 10 })) << "its value";
+    EXPECT_FALSE (differ ({ 0, 0, 600, 400 }));
+    EXPECT_FALSE (differ ({ 608, 215, 300, 180 }));
+}
+
+}
