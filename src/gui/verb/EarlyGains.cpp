@@ -1,8 +1,9 @@
 #include "gui/verb/EarlyGains.h"
 
+#include "math/OrvaneDspRandom.h"
+
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
 namespace halcyra
 {
@@ -38,7 +39,7 @@ struct Ramp
 /** Uniform from 0.95 to 1.05. */
 float randomFactor() noexcept
 {
-    const auto draw = static_cast<float> (std::rand() & 0x7fff);
+    const auto draw = static_cast<float> (qel::rand());
     return 0.09999996423721313f * draw * 3.0517578125e-05f + 0.949999988079071f;
 }
 

@@ -1,4 +1,5 @@
 #pragma once
+#include "common/OrvaneDspListeners.h"
 #include "geometry/OrvaneDspPoint3.h"
 #include "gui/plane/LumoComponent.h"
 #include "gui/plane/PlaneListener.h"
@@ -6,7 +7,6 @@
 #include "gui/verb/HalcyraComponentListener.h"
 #include "gui/verb/HalcyraParameters.h"
 #include "gui/verb/HalcyraTimeStructureListener.h"
-#include "gui/verb/SortedListeners.h"
 #include "gui/verb/TooltipWindow.h"
 
 #include <array>
@@ -139,7 +139,7 @@ private:
     lumo::PlaneComponent* plane = nullptr;
     std::array<lumo::HLShelfFrequencyResponseComponent*, 4> responses{};
     HalcyraTimeStructure parameters;
-    halcyra::SortedListeners<Listener> listeners;
+    qel::Listeners<Listener> listeners;
     std::unique_ptr<juce::TabbedComponent> tabs;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HalcyraComponent)

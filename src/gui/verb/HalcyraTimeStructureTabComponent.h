@@ -1,8 +1,8 @@
 #pragma once
+#include "common/OrvaneDspListeners.h"
 #include "gui/verb/HalcyraLimits.h"
 #include "gui/verb/HalcyraTimeStructureListener.h"
 #include "gui/verb/ImpulseResponseComponent.h"
-#include "gui/verb/SortedListeners.h"
 #include "gui/verb/ValueLabel.h"
 
 #include <array>
@@ -67,7 +67,7 @@ private:
     [[nodiscard]] juce::ToggleButton* toggleOf (HalcyraReverbParameter number);
 
     const int numinternals;
-    halcyra::SortedListeners<lumo::HalcyraTimeStructureListener> listeners;
+    qel::Listeners<lumo::HalcyraTimeStructureListener> listeners;
 
     std::vector<std::unique_ptr<juce::GroupComponent>> groups;
     std::vector<std::unique_ptr<juce::Label>> labels;

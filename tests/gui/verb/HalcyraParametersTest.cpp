@@ -1,8 +1,7 @@
 #include "gui/verb/HalcyraParameters.h"
 #include "gui/verb/HalcyraLimits.h"
-#include "gui/verb/SortedListeners.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <limits>
 #include <set>
@@ -87,43 +86,6 @@ TEST (HalcyraLimits, TheLastWordOfARuleWinsWhereItsLimitsCross)
     EXPECT_EQ (halcyra::limited (clusterEnd, 10, { 1, 2, 310, 300 }), 310) << "the cluster's start beats 300";
     const auto& earlyStart = *halcyra::parameterRow (parameter::earlyStart);
     EXPECT_EQ (halcyra::limited (earlyStart, 10, { 1, 0.5f, 50, 60 }), 0.5f) << "the early end beats 1";
-}
-
-struct Ear
-{
-    std::vector<int>* heard;
-    int number;
-};
-
-TEST (SortedListeners, AreWalkedFromTheLastPointerToTheFirst)
-{
-    std::vector<int> heard;
-    Ear ears[3]{ { &heard, 0 }, { &heard, 1 }, { &heard, 2 } };
-    halcyra::SortedListeners<Ear> listeners;
-    for (const int i : { 1, 2, 0, 1 }) // one of them twice
-        listeners.add (&ears[i]);
-    listeners.add (nullptr);
-    listeners.call ([] (Ear& ear) { ear.heard->push_back (ear.number); });
-    EXPECT_THAT (heard, testing::ElementsAre (2, 1, 0));
-}
-
-TEST (SortedListeners, MayLeaveDuringAWalk)
-{
-    std::vector<int> heard;
-    Ear ears[4]{ { &heard, 0 }, { &heard, 1 }, { &heard, 2 }, { &heard, 3 } };
-    halcyra::SortedListeners<Ear> listeners;
-    for (auto& ear : ears)
-        listeners.add (&ear);
-    listeners.remove (nullptr);
-    listeners.call ([&] (Ear& ear) {
-        ear.heard->push_back (ear.number);
-        if (ear.number == 2)
-            listeners.remove (&ear);
-        if (ear.number == 1)
-            for (auto& each : ears)
-                listeners.remove (&each);
-    });
-    EXPECT_THAT (heard, testing::ElementsAre (3, 2, 1));
 }
 
 }
