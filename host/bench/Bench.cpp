@@ -96,9 +96,10 @@ void Bench::load (Entry entry)
         entry (nullptr);
 }
 
-Box* Bench::make (const std::string& name, const std::string& text)
+Box* Bench::make (const std::string& name, const std::string& text) { return make (name, wordsOf (text)); }
+
+Box* Bench::make (const std::string& name, std::vector<Word> words)
 {
-    auto words = wordsOf (text);
     const auto className = words.empty() ? std::string() : words.front().text;
     if (! words.empty())
         words.erase (words.begin());

@@ -1,6 +1,7 @@
 #pragma once
 #include "host/api/MaxApi.h"
 #include "host/bench/Event.h"
+#include "host/bench/Words.h"
 #include <functional>
 #include <memory>
 #include <optional>
@@ -53,6 +54,7 @@ public:
     /** Makes a box out of its text, "CLASS ARG ... @attribute value ...". Null, told by an event, if the class is
         unknown or gave no object, or if the name is taken. */
     Box* make (const std::string& name, const std::string& text);
+    Box* make (const std::string& name, std::vector<Word> words);
     void free (Box* box);
     [[nodiscard]] Box* find (const std::string& name) const;
     [[nodiscard]] std::vector<std::string> names() const;

@@ -1,0 +1,12 @@
+# Scripts of the bench with their expected output beside them, one CTest entry each.
+
+# halcyra_add_transcripts(PREFIX transcripts PROGRAM patchbench): every *.patch of the current folder.
+function(halcyra_add_transcripts)
+    cmake_parse_arguments(ARG "" "PREFIX;PROGRAM" "" ${ARGN})
+    file(GLOB scripts CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.patch")
+    foreach(script IN LISTS scripts)
+        cmake_path(GET script STEM name)
+        add_test(NAME "${ARG_PREFIX}.${name}"
+            COMMAND "${CMAKE_SOURCE_DIR}/tests/transcripts/play" $<TARGET_FILE:${ARG_PROGRAM}> "${script}")
+    endforeach()
+endfunction()

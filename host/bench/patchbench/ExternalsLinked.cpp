@@ -1,0 +1,8 @@
+#include "host/bench/patchbench/Externals.h"
+
+MAX_EXPORT void ext_main (void*);
+
+bench::Entry findExternal (const std::string& className)
+{
+    return className == "halcyra~.control" ? ext_main : nullptr;
+}

@@ -1,0 +1,102 @@
+#include "host/bench/patchbench/Commands.h"
+
+namespace patchbench
+{
+
+namespace
+{
+using Words = std::vector<bench::Word>;
+
+void newBox (Session& session, const Words& words)
+{
+    const auto& name = words[1].text;
+    if (session.bench.find (name) != nullptr)
+        throw CommandError ("there is an object \"" + name + "\" already");
+    const bool known = session.load (words[2].text);
+    session.bench.make (name, Words (words.begin() + 2, words.end()));
+    if (! known)
+        throw CommandError ("no class \"" + words[2].text + "\"");
+}
+
+void freeBox (Session& session, const Words& words) { session.bench.free (&session.box (words[1].text)); }
+
+void send (Session& session, const Words& words)
+{
+    const auto message = bench::messageOf (words, 2);
+    session.bench.send (session.box (words[1].text), message.selector, message.atoms, session.thread);
+}
+
+void connect (Session& session, const Words& words)
+{
+    auto& from = session.box (words[1].text);
+    const auto outlet = static_cast<int> (wholeNumber (words[2], "the outlet"));
+    if (! session.bench.connect (from, outlet, session.box (words[3].text)))
+        throw CommandError ("\"" + words[1].text + "\" has no outlet " + words[2].text);
+}
+
+void disconnect (Session& session, const Words& words)
+{
+    auto& from = session.box (words[1].text);
+    const auto outlet = static_cast<int> (wholeNumber (words[2], "the outlet"));
+    if (! session.bench.disconnect (from, outlet, session.box (words[3].text)))
+        throw CommandError ("there is no such cord");
+}
+
+void chooseThread (Session& session, const Words& words)
+{
+    if (words[1].text == "main")
+        session.thread = bench::Thread::main;
+    else if (words[1].text == "scheduler")
+        session.thread = bench::Thread::scheduler;
+    else
+        throw CommandError ("unknown thread \"" + words[1].text + "\"");
+}
+
+void answerDialog (Session& session, const Words& words)
+{
+    if (words[1].text == "cancel" && ! words[1].quoted)
+        session.bench.answerDialog (std::nullopt);
+    else
+        session.bench.answerDialog (words[1].text);
+}
+
+void wait (Session& session, const Words& words)
+{
+    constexpr long long aDay = 24LL * 60 * 60 * 1000;
+    const auto time = wholeNumber (words[1], "the time");
+    if (time < 0 || time > aDay)
+        throw CommandError ("the time is out of range: " + words[1].text);
+    session.bench.wait (static_cast<int> (time));
+}
+
+void hold (Session& session, const Words&) { session.bench.hold(); }
+void release (Session& session, const Words&) { session.bench.release(); }
+void quit (Session& session, const Words&) { session.quit(); }
+
+void help (Session&, const Words&)
+{
+    for (const auto& command : allCommands())
+        Session::print (std::string ("# ") + command.usage);
+}
+}
+
+const std::vector<Command>& patchCommands()
+{
+    static const std::vector<Command> table = {
+        { "new", 2, anyNumber, "new NAME CLASS [ARG ...] [@ATTRIBUTE VALUE ...]", newBox },
+        { "send", 2, anyNumber, "send NAME MESSAGE [ATOM ...]", send },
+        { "free", 1, 1, "free NAME", freeBox },
+        { "connect", 3, 3, "connect NAME OUTLET NAME2", connect },
+        { "disconnect", 3, 3, "disconnect NAME OUTLET NAME2", disconnect },
+        { "dialog", 1, 1, "dialog PATH|cancel", answerDialog },
+        { "thread", 1, 1, "thread main|scheduler", chooseThread },
+        { "hold", 0, 0, "hold", hold },
+        { "release", 0, 0, "release", release },
+        { "wait", 1, 1, "wait MS", wait },
+        { "help", 0, 0, "help", help },
+        { "quit", 0, 0, "quit", quit },
+    };
+    return table;
+}
+
+}

@@ -1,0 +1,11 @@
+#include "host/bench/patchbench/Display.h"
+#include "host/bench/patchbench/Windows.h"
+#include "host/bench/window/JuceWindowDriver.h"
+
+std::unique_ptr<bench::WindowDriver> makeWindows (patchbench::WindowPlace place)
+{
+    using patchbench::WindowPlace;
+    const bool onDisplay = place == WindowPlace::native || (place == WindowPlace::automatic && canOpenDisplay());
+    return std::make_unique<JuceWindowDriver> (onDisplay ? JuceWindowDriver::Place::display
+                                                         : JuceWindowDriver::Place::memory);
+}

@@ -1,0 +1,11 @@
+#include "ExampleClass.h"
+#include "host/bench/patchbench/Program.h"
+
+/** patchbench with the example class in place of the product, and without windows. */
+int main (int argc, char** argv)
+{
+    const auto find = [] (const std::string& name) -> bench::Entry {
+        return name == "bench.example" ? example_main : nullptr;
+    };
+    return patchbench::run (argc, argv, { find, {} });
+}
