@@ -33,7 +33,7 @@ struct Saved
 void WriteSnapshots (benchmark::State& state)
 {
     const Saved saved (state.range (0));
-    for (auto _ : state)
+    while (state.KeepRunning())
         if (! saved.store.write (saved.file, "", true))
             state.SkipWithError ("not written");
 }
@@ -43,7 +43,7 @@ void ReadSnapshots (benchmark::State& state)
     const Saved saved (state.range (0));
     if (! saved.store.write (saved.file, "", true))
         state.SkipWithError ("not written");
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         qel::CoordinatesSnapshotStore store;
         store.read (saved.file);
         benchmark::DoNotOptimize (store);

@@ -151,7 +151,7 @@ TEST (File, FindsTheHomeFolderByTheEnvironment)
         { nullptr, nullptr, "/three", "/four", File ("/three/four") },
         { nullptr, nullptr, "/three", nullptr, File::currentFolder() },
     };
-    const std::string home = getenv ("HOME") == nullptr ? "" : getenv ("HOME");
+    const auto home = qel::filesystem::environment ("HOME");
     for (const auto& row : rows) {
         const std::pair<const char*, const char*> values[] = {
             { "HOME", row.upper }, { "home", row.lower }, { "HOMEDRIVE", row.drive }, { "HOMEPATH", row.path }
