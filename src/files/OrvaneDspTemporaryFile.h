@@ -8,13 +8,12 @@ namespace qel
 class TemporaryFile
 {
 public:
-    explicit TemporaryFile (const File& target);
+    explicit TemporaryFile (const File& targetFile);
     TemporaryFile (const TemporaryFile&) = delete;
     TemporaryFile& operator= (const TemporaryFile&) = delete;
     ~TemporaryFile();
 
     [[nodiscard]] const File& file() const noexcept { return temporary; }
-    [[nodiscard]] const File& targetFile() const noexcept { return target; }
 
     /** Moves the file onto the target, with up to five tries 100 ms apart. False if it was never written, if the
         target is a folder, or if the system refuses: then the target is as it was. */

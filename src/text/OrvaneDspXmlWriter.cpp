@@ -79,10 +79,8 @@ void XmlWriter::header()
         output << ' ';
         return;
     }
-    Time::Parts parts;
-    parts.date = parts.time = parts.seconds = true;
-    output << lineEnd << lineEnd << "<!-- created from " << versionText (false) << " - " << Time::now().toText (parts)
-           << " -->" << lineEnd << lineEnd;
+    output << lineEnd << lineEnd << "<!-- created from " << versionText (false) << " - "
+           << Time::now().toText (Time::Parts()) << " -->" << lineEnd << lineEnd;
 }
 
 void XmlWriter::newLine (std::size_t indentation)
