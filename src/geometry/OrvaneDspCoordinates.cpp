@@ -18,7 +18,7 @@ using Writer = void (*) (const Point3& p, float* v);
 
 struct Format
 {
-    const char* name;
+    std::string_view name; ///< of a literal, so that a zero stands behind it
     std::size_t count;
     Reader read;  ///< null: no messages in this form
     Writer write; ///< null: no positions are told in this form
@@ -93,7 +93,7 @@ bool areFinite (Values values, std::size_t count) noexcept
 const char* nameOfCoordinateType (CoordinateType type) noexcept
 {
     const Format* const format = formatOf (type);
-    return format == nullptr ? "" : format->name;
+    return format == nullptr ? "" : format->name.data();
 }
 
 bool findCoordinateType (std::string_view name, CoordinateType& type) noexcept
