@@ -108,7 +108,10 @@ protected:
     void Notify (Call&& call);
     void NotifyOptionsChanged();
     /** How most setters end. */
-    void OptionsChanged();
+    void SettingChanged();
+    /** Compares and stores; ends as most setters do if that changed something. */
+    template <typename Value>
+    void SetOption (Value& stored, const Value& value);
     /** How the setters that move objects end. */
     void RepaintUnlessGated();
     void MarkStaticLayerDirty() noexcept { staticCache.MarkDirty(); }
@@ -120,8 +123,8 @@ protected:
 
 private:
     void UpdateTransform();
-    template <typename Value>
-    void SetOption (Value& stored, const Value& value);
+    /** For numbers from outside: what is not finite is refused. */
+    void SetNumber (float& stored, float value);
     void SetOffset (float& stored, float pixels);
 
     std::vector<PlaneListener*> listeners;
@@ -129,6 +132,15 @@ private:
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (PlaneBase)
 };
+
+template <typename Value>
+void PlaneBase::SetOption (Value& stored, const Value& value)
+{
+    if (stored == value)
+        return;
+    stored = value;
+    SettingChanged();
+}
 
 /** Safe against listeners that come and go during the walk. */
 template <typename Call>

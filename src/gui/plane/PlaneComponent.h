@@ -1,6 +1,7 @@
 #pragma once
 #include "geometry/OrvaneDspCoordinatesSnapshot.h"
 #include "gui/plane/PlaneBase.h"
+#include "gui/plane/interaction/Pointer.h"
 #include "gui/plane/objects/Scene.h"
 
 namespace lumo
@@ -121,15 +122,15 @@ public:
 
     // ---- Selection, constraints and the automatic zoom.
     void SetSourceSelected (std::size_t index, bool selected, bool notify);
-    void SetSelection (const PlaneListener::Flags& flags, bool notify);
-    void GetSelection (PlaneListener::Flags& flags) const;
+    void SetSelection (const PlaneListener::Flags& selection, bool notify);
+    void GetSelection (PlaneListener::Flags& selection) const;
     [[nodiscard]] bool IsSourceSelected (std::size_t index) const;
     /** -1 if none is. */
     [[nodiscard]] int GetSelectedSpeaker() const noexcept { return scene.selectedSpeaker; }
     void SelectAllSources();
     void SelectNextSource();
     /** A drag turns about the origin. */
-    void SetCircularConstraint (bool on);
+    void SetCircularConstraint (bool on, bool repaintNow = true);
     /** A move keeps a source's distance. */
     void SetRadiusConstraint (bool on);
     /** While requested, each frame fits the sources before it is drawn. */
@@ -157,13 +158,58 @@ public:
     void mouseDoubleClick (const juce::MouseEvent& event) override;
     void mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel) override;
     bool keyPressed (const juce::KeyPress& key) override;
+    void SendKeyCommand (int number);
     /** Does what a menu item says. The menu shows some of the ids it knows; 0 and unknown ones do nothing. */
     void MenuItemChosen (int id);
 
 private:
-    class Drag;
+    [[nodiscard]] Plane::Source* SourceAt (std::size_t index);
+    template <typename Change>
+    void ChangeSource (std::size_t index, Change&& change);
+    void FinishSourceMove (std::size_t index, bool notify);
+    void FinishSourcesEditable (bool notify);
+    void UpdateSourceYaw (std::size_t index, bool report);
+
+    [[nodiscard]] Plane::Speaker* SpeakerAt (std::size_t index);
+    template <typename Change>
+    void ChangeSpeaker (std::size_t index, Change&& change);
+    [[nodiscard]] bool StoreSpeakerPosition (std::size_t index, const qel::Point3& position);
+    void FinishSpeakersMove (bool notify);
+    void SpeakersMoved();
+    [[nodiscard]] qel::Point3Array SpeakersPositions() const;
+
+    void SetListenerAngle (float& stored, float degrees, bool notify, void (PlaneListener::*told) (float));
+    void ListenerChanged();
+
+    template <typename Change>
+    void ChangeArea (std::size_t index, Change&& change);
+    void ReportSourceAreas (std::size_t index);
+    void ReportAllSourceAreas();
+    void ReportSpeakerAreas (std::size_t index);
+    void ReportListenerAreas();
+
+    void UpdateBeforePainting();
+    void ApplySnapshot (qel::Point3Array points);
+    void NotifySelectionChanged();
+    void DeselectAllSources();
+
+    void SelectUnder (juce::Point<float> pixels, bool toggle);
+    void PressSource (Plane::Source& source, bool toggle);
+    void SelectSpeaker (int index);
+    [[nodiscard]] Plane::Speaker* SelectedSpeaker();
+    void NotifySpeakerSelection (int before);
+    void BeginLassoOrDrag();
+    void DragLasso (juce::Point<float> pixels);
+    void TurnDragged (const qel::Point3& from, const qel::Point3& to);
+    void MoveDragged (const qel::Point3& step, const juce::ModifierKeys& mods);
+    [[nodiscard]] bool TurnWheelOnSelection (float delta, const juce::ModifierKeys& mods);
+    template <typename Act>
+    void ForSelectedSources (Act&& act);
+    template <typename Move>
+    void MoveSelectedSources (Move&& move);
 
     Plane::Scene scene;
+    Plane::Pointer pointer;
     qel::CoordinatesSnapshotStore snapshots;
     bool listenerEnabled = true;
     bool autoZoomRequested = false;

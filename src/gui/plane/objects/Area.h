@@ -20,9 +20,6 @@ struct Area
     bool visible = true;
     juce::Path screenPath;
     juce::Path worldPath; // metres
-
-private:
-    [[nodiscard]] juce::Path Outline (const ViewTransform* view) const;
 };
 
 }

@@ -19,6 +19,8 @@ public:
     /** After a move: brings yaw and offset together again. Gives the degrees to report, where the mode reports. */
     std::optional<float> UpdateYaw (const qel::Point3& listener);
     [[nodiscard]] float YawDegrees() const noexcept;
+    /** The yaw seen from the direction in which the source stands. */
+    [[nodiscard]] float RelativeYaw() const noexcept;
 
     /** Clamped to 10..180. */
     void SetApertureDegrees (float degrees) noexcept;

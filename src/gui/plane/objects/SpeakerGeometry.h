@@ -1,28 +1,33 @@
 #pragma once
+#include "geometry/OrvaneDspTriangulation.h"
 #include "gui/plane/objects/Speaker.h"
-#include "gui/plane/view/ViewTransform.h"
 
 namespace lumo::Plane
 {
 
-/** What is derived from where the speakers stand. Each piece is computed when it is asked for and dirty, and kept. */
+/** What is derived from where the speakers stand, in metres. Each piece is computed when it is wanted, and kept until
+    a speaker moves: the view does not matter to it. */
 class SpeakerGeometry
 {
 public:
-    /** The speakers moved, or their number changed. */
+    /** A speaker moved, or their number changed. */
     void SpeakersMoved() noexcept;
-    /** The view changed: the points hold, the paths do not. */
-    void ViewChanged() noexcept;
 
-    void UpdateHull (const qel::Vector<Speaker>& speakers, const ViewTransform& view);
-    void UpdateTriangulation (const qel::Vector<Speaker>& speakers, const ViewTransform& view);
+    void UpdateHull (const qel::Vector<Speaker>& speakers);
+    void UpdateTriangulation (const qel::Vector<Speaker>& speakers);
     /** True if it had to be computed. */
     bool UpdateProjection (const qel::Vector<Speaker>& speakers);
-    /** The largest distance of a speaker from the origin, in metres. */
+    /** The largest distance of a speaker from the origin. */
     void UpdateRadius (const qel::Vector<Speaker>& speakers);
 
-    [[nodiscard]] const juce::Path& Hull() const noexcept { return hull; }
-    [[nodiscard]] const juce::Path& Triangulation() const noexcept { return triangulation; }
+    /** The corners of the convex hull; fewer than three for a hull with no inside. */
+    [[nodiscard]] const qel::Point3Array& Hull() const noexcept { return hull; }
+    /** Triples of speakers. */
+    [[nodiscard]] const qel::Vector<qel::Triangulation::Triple>& Triangles() const noexcept
+    {
+        return triangulation.triples();
+    }
+    /** Each speaker moved out to the sphere of the farthest. */
     [[nodiscard]] const qel::Point3Array& Projection() const noexcept { return projection; }
     [[nodiscard]] float Radius() const noexcept { return radius; }
 
@@ -30,8 +35,8 @@ private:
     bool hullDirty = true;
     bool triangulationDirty = true;
     bool projectionDirty = true;
-    juce::Path hull;          // pixels
-    juce::Path triangulation; // pixels
+    qel::Point3Array hull;
+    qel::Triangulation triangulation;
     qel::Point3Array projection;
     float radius = 1.0f;
 };

@@ -18,6 +18,8 @@ struct Anchor
 
 struct Anchors
 {
+    static constexpr std::size_t largestCount = 8192;
+
     bool anchorsVisible = false;
     bool anchorsLabelVisible = false;
     std::vector<Anchor> items;

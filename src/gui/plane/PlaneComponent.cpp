@@ -1,0 +1,227 @@
+#include "gui/plane/PlaneComponent.h"
+
+#include "geometry/OrvaneDspLayouts.h"
+#include "gui/plane/painting/Foreground.h"
+#include "gui/plane/painting/StaticLayer.h"
+#include "gui/plane/view/AutoZoom.h"
+#include "gui/plane/view/Finite.h"
+
+#include <algorithm>
+
+namespace lumo
+{
+
+using namespace Plane;
+
+PlaneComponent::PlaneComponent (std::size_t numSources, std::size_t numSpeakers, int size) : PlaneBase ("Plane")
+{
+    setWantsKeyboardFocus (true);
+    const int side = juce::jlimit (100, 1600, size);
+    setSize (side, side);
+
+    SetNumSources (numSources, false);
+    const auto ring = qel::ringLayout (scene.sources.size());
+    for (std::size_t i = 0; i < ring.size(); ++i)
+        SetSourcePosition (i, ring[i], false);
+    SetNumSpeakers (numSpeakers, false);
+    SetSpeakersPositions (qel::defaultSpeakerLayout (scene.speakers.size()), false);
+    SetSpeakersEditable (surface.options.speakersEditable, true);
+}
+
+PlaneComponent::~PlaneComponent() = default;
+
+void PlaneComponent::UpdateScreenPositions()
+{
+    const auto& view = surface.viewTransform;
+    for (std::size_t i = 0; i < scene.sources.size(); ++i)
+        scene.sources[i].screenPosition = view.ToScreen (scene.sources[i].position);
+    for (auto& speaker : scene.speakers)
+        speaker.screenPosition = view.ToScreen (speaker.position);
+    for (auto& area : scene.areas)
+        area.UpdateScreen (view);
+    PlaneBase::UpdateScreenPositions();
+    ReportAllSourceAreas();
+    ReportListenerAreas();
+}
+
+// ---- Painting
+
+void PlaneComponent::paint (juce::Graphics& g)
+{
+    BeginPaintTiming();
+    if (surface.viewerVisible) {
+        UpdateBeforePainting();
+        const auto drawStaticLayer = [this] (juce::Graphics& target) { DrawStaticLayer (target, surface, scene); };
+        const auto colour = surface.background.colour;
+        if (colour.getFloatAlpha() < 0.99f)
+            drawStaticLayer (g);
+        else
+            g.drawImageAt (staticCache.Refresh (colour.isOpaque(), drawStaticLayer), 0, 0);
+        DrawForeground (g, surface, scene);
+    } else {
+        DrawBackground (g, surface);
+    }
+    EndPaintTiming();
+}
+
+/** Whatever has to change before a frame changes here, so that the layers only read. With OpenGL this is not the main
+    thread: then the listeners hear of it there, a little later. */
+void PlaneComponent::UpdateBeforePainting()
+{
+    const auto tell = [this] (auto&& call) {
+        if (IsOpenGLEnabled())
+            juce::MessageManager::callAsync ([call, plane = juce::Component::SafePointer (this)] {
+                if (plane != nullptr)
+                    call (*plane);
+            });
+        else
+            call (*this);
+    };
+    if (autoZoomRequested && StoreZoom (FittingZoom (scene, surface.viewTransform)))
+        tell ([] (PlaneComponent& plane) { plane.NotifyOptionsChanged(); });
+    auto& geometry = scene.speakerGeometry;
+    if (surface.options.hullVisible)
+        geometry.UpdateHull (scene.speakers);
+    if (surface.options.triangulationVisible)
+        geometry.UpdateTriangulation (scene.speakers);
+    if (surface.options.speakersProjectionVisible && geometry.UpdateProjection (scene.speakers))
+        tell ([] (PlaneComponent& plane) {
+            plane.Notify ([&points = plane.scene.speakerGeometry.Projection()] (PlaneListener& l) {
+                l.SpeakersProjectionChanged (points);
+            });
+        });
+}
+
+void PlaneComponent::RequestAutoZoom (bool on)
+{
+    if (autoZoomRequested == on)
+        return;
+    autoZoomRequested = on;
+    repaint();
+}
+
+void PlaneComponent::AutoZoom (bool repaintNow)
+{
+    SetZoom (FittingZoom (scene, surface.viewTransform), false);
+    if (repaintNow)
+        repaint();
+}
+
+// ---- Selection and constraints
+
+void PlaneComponent::NotifySelectionChanged()
+{
+    Notify ([this, selection = scene.Selection()] (PlaneListener& l) { l.SelectionChanged (selection, *this); });
+}
+
+void PlaneComponent::DeselectAllSources()
+{
+    for (auto& source : scene.sources)
+        source.selected = false;
+    surface.lasso = {};
+}
+
+void PlaneComponent::SetSourceSelected (std::size_t index, bool selected, bool notify)
+{
+    auto* source = SourceAt (index);
+    if (source == nullptr)
+        return;
+    source->selected = selected;
+    repaint();
+    if (notify)
+        NotifySelectionChanged();
+}
+
+void PlaneComponent::SetSelection (const PlaneListener::Flags& selection, bool notify)
+{
+    for (std::size_t i = 0; i < std::min (selection.size(), scene.sources.size()); ++i)
+        scene.sources[i].selected = selection[i];
+    repaint();
+    if (notify)
+        NotifySelectionChanged();
+}
+
+void PlaneComponent::GetSelection (PlaneListener::Flags& selection) const { selection = scene.Selection(); }
+
+bool PlaneComponent::IsSourceSelected (std::size_t index) const
+{
+    return index < scene.sources.size() && scene.sources[index].selected;
+}
+
+void PlaneComponent::SelectAllSources()
+{
+    if (! scene.AnySourceEditable())
+        return;
+    for (auto& source : scene.sources)
+        source.selected = source.selected || source.Editable();
+    NotifySelectionChanged();
+    repaint();
+}
+
+/** With one source selected the next one takes over, if it may be edited; else none is selected. */
+void PlaneComponent::SelectNextSource()
+{
+    const auto selection = scene.Selection();
+    if (! scene.AnySourceEditable() || std::count (selection.begin(), selection.end(), true) > 1)
+        return;
+    const auto selected = std::find (selection.begin(), selection.end(), true);
+    const auto next = selected == selection.end() ? 0 : static_cast<std::size_t> (selected - selection.begin() + 1);
+    DeselectAllSources();
+    auto& source = scene.sources[next % selection.size()];
+    source.selected = source.Editable();
+    NotifySelectionChanged();
+    repaint();
+}
+
+void PlaneComponent::SetCircularConstraint (bool on, bool repaintNow)
+{
+    if (surface.options.circularConstraint == on)
+        return;
+    surface.options.circularConstraint = on;
+    MarkStaticLayerDirty();
+    NotifyOptionsChanged();
+    if (repaintNow)
+        repaint();
+}
+
+void PlaneComponent::SetRadiusConstraint (bool on) { SetOption (surface.options.radiusConstraint, on); }
+
+// ---- Snapshots
+
+void PlaneComponent::StoreSnapshot (const qel::String& name)
+{
+    qel::Point3Array points (scene.sources.size());
+    for (std::size_t i = 0; i < points.size(); ++i)
+        points[i] = scene.sources[i].position;
+    snapshots.store (name, points);
+}
+
+/** Takes a copy: who hears of a move may change the store. */
+void PlaneComponent::ApplySnapshot (qel::Point3Array points) // NOLINT(performance-unnecessary-value-param)
+{
+    for (std::size_t i = 0; i < std::min (points.size(), scene.sources.size()); ++i)
+        SetSourcePosition (i, points[i], true);
+}
+
+void PlaneComponent::RecallSnapshot (const qel::String& name) { ApplySnapshot (snapshots.points (name)); }
+
+void PlaneComponent::RecallSnapshots (const qel::String& first, const qel::String& second, float amount)
+{
+    if (! AreFinite (amount))
+        return;
+    qel::Point3Array points;
+    snapshots.interpolate (points, first, second, amount);
+    ApplySnapshot (points);
+}
+
+void PlaneComponent::RemoveSnapshot (const qel::String& name) { snapshots.remove (name); }
+void PlaneComponent::RemoveAllSnapshots() { snapshots.removeAll(); }
+
+qel::Vector<qel::String> PlaneComponent::GetSnapshotNames() const
+{
+    qel::Vector<qel::String> names;
+    snapshots.listNames (names);
+    return names;
+}
+
+}

@@ -1,0 +1,104 @@
+#include "geometry/OrvaneDspSpherical.h"
+#include "gui/plane/PlaneComponent.h"
+#include "gui/plane/objects/Limits.h"
+#include "gui/plane/view/Finite.h"
+
+namespace lumo
+{
+
+using namespace Plane;
+
+/** The listener that nobody can drag stands in the static layer. */
+void PlaneComponent::ListenerChanged()
+{
+    if (! surface.listener.editable)
+        MarkStaticLayerDirty();
+    RepaintUnlessGated();
+}
+
+void PlaneComponent::SetListenerPosition (const qel::Point3& position, bool notify)
+{
+    auto& listener = surface.listener;
+    if (! listenerEnabled || ! qel::isFinite (position))
+        return;
+    listener.position = position;
+    listener.screenPosition = surface.viewTransform.ToScreen (position);
+    ReportListenerAreas();
+    if (notify)
+        Notify ([&, position] (PlaneListener& l) { l.ListenerPositionChanged (position, *this); });
+    ListenerChanged();
+}
+
+void PlaneComponent::SetListenerAngle (float& stored, float degrees, bool notify, void (PlaneListener::*told) (float))
+{
+    if (! listenerEnabled || ! AreFinite (degrees))
+        return;
+    const float wrapped = Orientation::WrapDegrees (degrees);
+    stored = wrapped * qel::radiansPerDegree;
+    if (notify)
+        Notify ([&] (PlaneListener& l) { (l.*told) (wrapped); });
+    ListenerChanged();
+}
+
+void PlaneComponent::SetListenerYaw (float degrees, bool notify)
+{
+    SetListenerAngle (surface.listener.yaw, degrees, notify, &PlaneListener::ListenerYawChanged);
+}
+
+void PlaneComponent::SetListenerPitch (float degrees, bool notify)
+{
+    SetListenerAngle (surface.listener.pitch, degrees, notify, &PlaneListener::ListenerPitchChanged);
+}
+
+void PlaneComponent::SetListenerRoll (float degrees, bool notify)
+{
+    SetListenerAngle (surface.listener.roll, degrees, notify, &PlaneListener::ListenerRollChanged);
+}
+
+void PlaneComponent::SetListenerOrientation (float yaw, float pitch, float roll, bool notify)
+{
+    if (! listenerEnabled || ! AreFinite (yaw, pitch, roll))
+        return;
+    yaw = Orientation::WrapDegrees (yaw);
+    pitch = Orientation::WrapDegrees (pitch);
+    roll = Orientation::WrapDegrees (roll);
+    surface.listener.yaw = yaw * qel::radiansPerDegree;
+    surface.listener.pitch = pitch * qel::radiansPerDegree;
+    surface.listener.roll = roll * qel::radiansPerDegree;
+    if (notify)
+        Notify ([&] (PlaneListener& l) { l.ListenerOrientationChanged (yaw, pitch, roll); });
+    ListenerChanged();
+}
+
+void PlaneComponent::SetListenerEditable (bool editable)
+{
+    SetOption (surface.listener.editable, editable && listenerEnabled);
+}
+
+void PlaneComponent::SetListenerVisible (bool visible)
+{
+    if (listenerEnabled)
+        SetOption (surface.listener.visible, visible);
+}
+
+/** Who listens by headphones has no use for speakers: they cannot be edited, and come back with the room. */
+void PlaneComponent::SetHeadphonesVisible (bool visible)
+{
+    if (! listenerEnabled || surface.listener.headphonesVisible == visible)
+        return;
+    SetOption (surface.listener.headphonesVisible, visible);
+    SetSpeakersEditable (! visible, true);
+    if (! visible)
+        SetSpeakersVisible (true);
+}
+
+void PlaneComponent::SetListenerProportion (float proportion)
+{
+    if (! listenerEnabled || ! AreFinite (proportion))
+        return;
+    surface.listener.proportion = ClampProportion (proportion);
+    MarkStaticLayerDirty();
+    repaint();
+}
+
+}

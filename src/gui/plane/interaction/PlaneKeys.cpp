@@ -1,0 +1,137 @@
+#include "gui/plane/interaction/PlaneKeys.h"
+
+#include <array>
+#include <cmath>
+
+namespace lumo
+{
+
+namespace
+{
+
+constexpr float octavesPerKey = 0.15f;
+
+template <int number>
+void Command (PlaneComponent& plane)
+{
+    plane.SendKeyCommand (number);
+}
+
+template <int direction>
+void Zoom (PlaneComponent& plane)
+{
+    plane.SetZoom (plane.GetSurface().viewTransform.zoom * std::exp2 (octavesPerKey * direction), true);
+}
+
+/** The step follows the width in both directions. */
+float ArrowStep (const PlaneComponent& plane) { return static_cast<float> (plane.getWidth()) / 10.0f; }
+
+template <int direction>
+void Across (PlaneComponent& plane)
+{
+    plane.SetXOffset (plane.GetSurface().viewTransform.xOffset + direction * ArrowStep (plane));
+}
+
+template <int direction>
+void Along (PlaneComponent& plane)
+{
+    const auto& view = plane.GetSurface().viewTransform;
+    if (view.topView)
+        plane.SetYOffset (view.yOffset + direction * ArrowStep (plane));
+    else
+        plane.SetZOffset (view.zOffset + direction * ArrowStep (plane));
+}
+
+void ZoomToOne (PlaneComponent& plane) { plane.SetZoom (1.0f, true); }
+void OtherView (PlaneComponent& plane) { plane.SetTopView (! plane.GetSurface().viewTransform.topView); }
+void NextGrid (PlaneComponent& plane)
+{
+    plane.SetGridMode ((plane.GetSurface().grid.mode + 1) % Plane::Grid::numModes);
+}
+void SelectAll (PlaneComponent& plane) { plane.SelectAllSources(); }
+void SelectNext (PlaneComponent& plane) { plane.SelectNextSource(); }
+
+template <int menuId>
+void Toggle (PlaneComponent& plane)
+{
+    plane.MenuItemChosen (menuId);
+}
+
+void ToggleCircular (PlaneComponent& plane)
+{
+    plane.SetCircularConstraint (! plane.GetSurface().options.circularConstraint);
+}
+
+struct Row
+{
+    int keyCode;
+    int modifiers;
+    void (*press) (PlaneComponent&);
+};
+
+/** The first row that fits decides. To add a key: one row.
+
+    Keys are told by their code, without a text character. Keyboards differ in where "+" lies: as a key of its own
+    (German, with no shift) both platforms report its own code. On a US keyboard it is shift with "=": X11 reports
+    "+" with shift, which zooms in; Windows reports "=" with shift, which is no row, and leaves the numeric pad. */
+const auto& Rows()
+{
+    using juce::KeyPress;
+    constexpr int plain = juce::ModifierKeys::noModifiers;
+    constexpr int ctrl = juce::ModifierKeys::ctrlModifier;
+    constexpr int shift = juce::ModifierKeys::shiftModifier;
+    static const std::array rows{
+        Row{ 'w', ctrl, Command<0> }, // asks to close the window
+        Row{ KeyPress::numberPadAdd, ctrl, Command<2> },
+        Row{ '+', ctrl, Command<2> },
+        Row{ ',', ctrl, Command<2> },
+        Row{ KeyPress::numberPadSubtract, ctrl, Command<3> },
+        Row{ '-', ctrl, Command<3> },
+        Row{ KeyPress::numberPadAdd, plain, Zoom<1> },
+        Row{ '+', plain, Zoom<1> },
+        Row{ '+', shift, Zoom<1> },
+        Row{ KeyPress::numberPadSubtract, plain, Zoom<-1> },
+        Row{ '-', plain, Zoom<-1> },
+        Row{ KeyPress::numberPadEquals, plain, ZoomToOne },
+        Row{ '=', plain, ZoomToOne },
+        Row{ 'a', plain, Toggle<10> }, // apertures
+        Row{ 's', plain, Toggle<4> },  // speakers
+        Row{ 'l', plain, Toggle<13> }, // listener
+        Row{ 'c', plain, ToggleCircular },
+        Row{ 'v', plain, OtherView },
+        Row{ 'm', plain, Command<13> },
+        Row{ 'a', ctrl, SelectAll },
+        Row{ 'g', plain, NextGrid },
+        Row{ KeyPress::rightKey, plain, Across<-1> },
+        Row{ KeyPress::leftKey, plain, Across<1> },
+        Row{ KeyPress::upKey, plain, Along<-1> },
+        Row{ KeyPress::downKey, plain, Along<1> },
+        Row{ KeyPress::tabKey, plain, SelectNext },
+    };
+    return rows;
+}
+
+}
+
+bool Plane::PressKey (PlaneComponent& plane, const juce::KeyPress& key)
+{
+    for (const auto& row : Rows())
+        if (key == juce::KeyPress (row.keyCode, juce::ModifierKeys (row.modifiers), 0)) {
+            row.press (plane);
+            return true;
+        }
+    return false;
+}
+
+bool PlaneComponent::keyPressed (const juce::KeyPress& key)
+{
+    juce::PopupMenu::dismissAllActiveMenus();
+    return PlaneBase::keyPressed (key) || Plane::PressKey (*this, key);
+}
+
+void PlaneComponent::SendKeyCommand (int number)
+{
+    Notify ([&] (PlaneListener& l) { l.KeyCommand (number, *this); });
+}
+
+}

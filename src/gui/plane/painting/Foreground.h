@@ -1,0 +1,11 @@
+#pragma once
+#include "gui/plane/objects/Scene.h"
+#include "gui/plane/surface/Surface.h"
+
+namespace lumo::Plane
+{
+
+/** All that moves often, drawn in every frame over the static layer. */
+void DrawForeground (juce::Graphics& g, const Surface& surface, const Scene& scene);
+
+}

@@ -1,0 +1,99 @@
+#include "gui/plane/painting/GridPainter.h"
+
+#include "gui/plane/painting/Clipping.h"
+
+#include <cmath>
+
+namespace lumo::Plane
+{
+
+namespace
+{
+
+juce::Rectangle<float> Bounds (const ViewTransform& view)
+{
+    return { 0, 0, static_cast<float> (view.width), static_cast<float> (view.height) };
+}
+
+void DrawLine (juce::Graphics& g, juce::Line<double> line, const Surface& surface)
+{
+    const auto visible = VisiblePart (line, Bounds (surface.viewTransform).expanded (2));
+    if (! visible)
+        return;
+    constexpr float dashes[] = { dashLength, dashLength };
+    if (surface.grid.dashed)
+        g.drawDashedLine (*visible, dashes, 2, 1.0f);
+    else
+        g.drawLine (*visible, 1.0f);
+}
+
+void DrawCircle (juce::Graphics& g, juce::Point<float> centre, double radius, const Surface& surface)
+{
+    const auto circle = VisibleCircle (centre, radius, Bounds (surface.viewTransform).expanded (2));
+    if (circle.isEmpty())
+        return;
+    const juce::PathStrokeType stroke (1.0f);
+    if (! surface.grid.dashed)
+        return g.strokePath (circle, stroke);
+    constexpr float dashes[] = { dashLength, dashLength };
+    juce::Path dashed;
+    stroke.createDashedStroke (dashed, circle, dashes, 2);
+    g.fillPath (dashed);
+}
+
+void DrawCircles (juce::Graphics& g, juce::Point<float> origin, const Surface& surface)
+{
+    const auto& grid = surface.grid;
+    const double scale = static_cast<double> (surface.viewTransform.GridScale());
+    const auto r = static_cast<float> (scale);
+    g.setColour (juce::Colour (0x3D808080));
+    g.fillEllipse (origin.x - r, origin.y - r, 2 * r, 2 * r);
+    g.setColour (grid.colour.withAlpha (0.5f));
+    for (std::uint32_t i = 1; i <= grid.numLines; ++i)
+        DrawCircle (g, origin, i * static_cast<double> (grid.spacing) * scale, surface);
+}
+
+void DrawSquares (juce::Graphics& g, juce::Point<double> o, const Surface& surface)
+{
+    const auto& grid = surface.grid;
+    const double step = static_cast<double> (grid.spacing) * static_cast<double> (surface.viewTransform.GridScale());
+    const double reach = grid.numLines * step;
+    g.setColour (grid.colour.withAlpha (0.5f));
+    for (std::uint32_t i = 1; i <= grid.numLines; ++i)
+        for (const double r : { -(i * step), i * step }) {
+            DrawLine (g, { o.x - reach, o.y + r, o.x + reach, o.y + r }, surface);
+            DrawLine (g, { o.x + r, o.y - reach, o.x + r, o.y + reach }, surface);
+        }
+}
+
+}
+
+void DrawGrid (juce::Graphics& g, const Surface& surface)
+{
+    const auto origin = surface.viewTransform.ToScreen ({}).toInt();
+    if (surface.grid.mode == Grid::circular)
+        DrawCircles (g, origin.toFloat(), surface);
+    else if (surface.grid.mode == Grid::square)
+        DrawSquares (g, origin.toDouble(), surface);
+}
+
+void DrawAngularDivisions (juce::Graphics& g, const Surface& surface)
+{
+    const auto& grid = surface.grid;
+    const auto& view = surface.viewTransform;
+    if (! grid.angularDivisionsVisible || grid.numAngularDivisions == 0)
+        return;
+    g.setColour (grid.colour.withAlpha (0.5f));
+    const auto origin = view.ToScreen ({}).toDouble();
+    const double metres = std::max (1u, grid.numLines); // whatever the spacing
+    const double reach = metres * static_cast<double> (view.pixelsPerMetre);
+    const float division = 360.0f / static_cast<float> (grid.numAngularDivisions);
+    for (std::uint32_t k = 0; k < grid.numAngularDivisions; ++k) {
+        const float angle = juce::degreesToRadians (static_cast<float> (k) * division);
+        const auto across = static_cast<double> (std::cos (angle)) * reach;
+        const auto up = view.topView ? static_cast<double> (std::sin (angle)) * reach : 0.0;
+        DrawLine (g, { origin, origin + juce::Point<double> (across, -up) }, surface);
+    }
+}
+
+}
