@@ -44,8 +44,9 @@ Point3Array onAGrid (std::size_t count, Random& random)
 {
     const auto side = static_cast<std::size_t> (std::sqrt (static_cast<double> (count)));
     Point3Array points;
-    for (std::size_t i = 0; i < count; ++i)
-        points.push_back ({ static_cast<float> (i % side), static_cast<float> (i / side), 0 });
+    for (std::size_t y = 0; y < side; ++y)
+        for (std::size_t x = 0; x < side; ++x)
+            points.push_back ({ static_cast<float> (x), static_cast<float> (y), 0 });
     std::shuffle (points.begin(), points.end(), random);
     return points;
 }

@@ -88,7 +88,7 @@ constexpr Kind kinds[] = {
       } },
     { "far apart",
       [] (std::mt19937& r) {
-          return GridPoint{ within (r, 2) << (r() % 20), within (r, 2) << (r() % 20) };
+          return GridPoint{ within (r, 2) * (1 << r() % 20), within (r, 2) * (1 << r() % 20) };
       } },
 };
 

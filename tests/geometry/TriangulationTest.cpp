@@ -134,7 +134,7 @@ TEST (PlanarPredicates, AreFreeOfRounding)
     int zeros = 0;
     for (int i = 0; i < 100'000; ++i) {
         // Four points near a line, or near a circle by two mirrored pairs, of very different sizes.
-        const auto big = [&] { return within (random, 1 << 9) << (random() % 18); };
+        const auto big = [&] { return within (random, 1 << 9) * (1 << random() % 18); };
         const GridPoint a{ big(), big() }, step{ within (random, 1 << 9), within (random, 1 << 9) };
         const GridPoint b{ a.x + step.x * 3, a.y + step.y * 3 },
             c{ a.x - step.x * 5 + within (random, 1), a.y - step.y * 5 };

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 using qel::OSCBundle;
-using qel::OSCMessage;
 
 TEST (OscBundle, HoldsOneMessageForEachValueInTheOrderOfAddition)
 {
