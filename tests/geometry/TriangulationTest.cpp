@@ -153,3 +153,16 @@ TEST (PlanarPredicates, AreFreeOfRounding)
     }
     EXPECT_GT (zeros, 10'000);
 }
+
+TEST (PlanarPredicates, TellASingleUnitBesideALineOfAstronomicalLength)
+{
+    std::mt19937 random (24);
+    for (int i = 0; i < 10'000; ++i) {
+        const auto huge = [&] { return within (random, 1 << 20) * (std::int64_t (1) << random() % 33); };
+        const auto first = huge(), second = huge(), third = within (random, 1 << 20);
+        const GridPoint a{ first, first }, b{ second, second }, c{ third, third + within (random, 1) };
+        const auto flat = [] (GridPoint p) { return qel::Point3{ float (p.x), float (p.y), 0 }; };
+        const auto area = turn (a, b, c);
+        ASSERT_EQ (qel::orientation (flat (a), flat (b), flat (c)), area > 0 ? 1 : area < 0 ? -1 : 0);
+    }
+}
