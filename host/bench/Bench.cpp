@@ -1,5 +1,6 @@
 #include "host/bench/Bench.h"
 #include "host/bench/AttributeArguments.h"
+#include "host/bench/Attributes.h"
 #include "host/bench/Console.h"
 #include "host/bench/Files.h"
 #include "host/bench/HostCalls.h"
@@ -85,6 +86,7 @@ Bench::~Bench()
     MainQueue::instance().clear();
     forgetDialogAnswers();
     clearTranslations();
+    bench::setMissingPropertyIsError (false);
     setRecordListener ({});
     takeRecorded();
 }
@@ -228,5 +230,7 @@ void Bench::setListener (std::function<void (const Event&)> listener) { setRecor
 void Bench::answerDialog (std::optional<std::string> path) { addDialogAnswer (std::move (path)); }
 
 void Bench::translate (const std::string& text, const std::string& translation) { setTranslation (text, translation); }
+
+void Bench::setMissingPropertyIsError (bool isError) { bench::setMissingPropertyIsError (isError); }
 
 }

@@ -90,6 +90,10 @@ public:
     /** The answer of the next dialog that has none yet: a path, or nothing for "cancel". */
     void answerDialog (std::optional<std::string> path);
 
+    /** Whether asking for an attribute's property that it has not is an error, or an answer without atoms (as the
+        bench does unless told): Max leaves it open, so code has to live with both. */
+    void setMissingPropertyIsError (bool isError);
+
     /** The text that gensym_tr and str_tr give for another. */
     void translate (const std::string& text, const std::string& translation);
 

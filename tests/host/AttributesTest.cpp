@@ -1,0 +1,145 @@
+#include "ExampleClass.h"
+#include "support/bench/BenchTest.h"
+
+namespace
+{
+class BenchAttributes : public BenchTest
+{
+protected:
+    BenchAttributes() { patch.load (example_main); }
+};
+
+TEST_F (BenchAttributes, OfTypeLongAre32BitsWideAndLeaveTheirNeighbourAlone)
+{
+    auto box = make ("bench.example @count 9");
+    const auto* x = box.record<t_example>();
+    EXPECT_EQ (x->count, 9);
+    EXPECT_EQ (x->guard, 77);
+    box.send ("series 1 2 3 4 5");
+    EXPECT_EQ (x->seriesCount, 4);
+    EXPECT_EQ (x->seriesGuard, 77);
+    EXPECT_EQ (box.attribute ("series"), "1. 2. 3. 4.");
+}
+
+TEST_F (BenchAttributes, AnswerWithoutTouchingWhatLiesBehindTheCount)
+{
+    auto box = make ("bench.example");
+    for (const auto* name : { "count", "pair", "custom", "nosuch" }) {
+        t_clong ac[2] = { 0, 0x5A5A5A5A };
+        t_atom* av = nullptr;
+        object_attr_getvalueof (box->object, gensym (name), ac, &av);
+        EXPECT_EQ (ac[1], 0x5A5A5A5A) << name;
+        sysmem_freeptr (av);
+    }
+    EXPECT_THAT (console(), testing::IsEmpty());
+}
+
+TEST_F (BenchAttributes, UseTheMemoryOfACallerWhoBringsSome)
+{
+    auto box = make ("bench.example");
+    t_atom own[3];
+    atom_setlong (own + 1, -1);
+    t_clong ac = 1;
+    auto* av = own;
+    ASSERT_EQ (object_attr_getvalueof (box->object, gensym ("pair"), &ac, &av), MAX_ERR_NONE);
+    EXPECT_EQ (av, own);
+    EXPECT_EQ (ac, 1);
+    EXPECT_EQ (atom_getfloat (own), 50.0);
+    EXPECT_EQ (atom_getlong (own + 1), -1); // the memory had room for one atom
+}
+
+TEST_F (BenchAttributes, PassTheFilterBeforeTheSetterOnACopyOfTheAtoms)
+{
+    auto box = make ("bench.example");
+    t_atom atom;
+    atom_setfloat (&atom, 70.9);
+    EXPECT_EQ (object_attr_setvalueof (box->object, gensym ("count"), 1, &atom), MAX_ERR_NONE);
+    EXPECT_EQ (box.record<t_example>()->count, 64);
+    EXPECT_EQ (atom_getfloat (&atom), 70.9);
+    atom_setlong (&atom, 1000);
+    object_attr_setvalueof (box->object, gensym ("custom"), 1, &atom);
+    EXPECT_EQ (box.record<t_example>()->custom, 100);
+    EXPECT_EQ (box.record<t_example>()->lastCount, 1);
+}
+
+TEST_F (BenchAttributes, OneSidedFiltersLeaveTheOtherSideFree)
+{
+    auto box = make ("bench.example");
+    for (const auto& [set, read] : { std::pair{ -5.0, "-5." }, std::pair{ 400.0, "300." } }) {
+        t_atom atom;
+        atom_setfloat (&atom, set);
+        object_attr_setvalueof (box->object, gensym ("level"), 1, &atom);
+        EXPECT_EQ (box.attribute ("level"), read);
+    }
+}
+
+TEST_F (BenchAttributes, TellOneNotificationForEachSetEvenOfAnEqualValue)
+{
+    auto box = make ("bench.example");
+    box.notifications();
+    box.send ("count 6");
+    box.send ("count 6");
+    EXPECT_EQ (box.notifications(), (Messages{ "attr_modified", "attr_modified" }));
+}
+
+TEST_F (BenchAttributes, GiveAMissingPropertyAsNothingOrAsAnErrorAsTheBenchIsTold)
+{
+    auto box = make ("bench.example");
+    auto* attribute = object_attr_get (box->object, gensym ("count"));
+    for (const bool isError : { false, true }) {
+        patch.setMissingPropertyIsError (isError);
+        t_clong ac = 5;
+        t_atom* av = nullptr;
+        EXPECT_EQ (object_attr_getvalueof (attribute, gensym ("order"), &ac, &av) != MAX_ERR_NONE, isError);
+        EXPECT_EQ (ac, 0);
+    }
+}
+
+TEST_F (BenchAttributes, DescribeThemselves)
+{
+    auto box = make ("bench.example");
+    auto* attribute = object_attr_get (box->object, gensym ("pair"));
+    EXPECT_EQ (object_method (attribute, gensym ("getname")), gensym ("pair"));
+    EXPECT_EQ (object_method (attribute, gensym ("gettype")), gensym ("float32"));
+    EXPECT_EQ (object_attr_get (box->object, gensym ("nosuch")), nullptr);
+    t_clong count = 0;
+    t_symbol** names = nullptr;
+    ASSERT_EQ (object_attr_getnames (attribute, &count, &names), MAX_ERR_NONE);
+    EXPECT_EQ (count, 1);
+    EXPECT_EQ (names[0], gensym ("default"));
+    sysmem_freeptr (names);
+}
+
+TEST_F (BenchAttributes, OfTheBoxStandBehindThoseOfTheClass)
+{
+    auto box = make ("bench.example @patching_rect 1 2 3 4");
+    t_clong count = 0;
+    t_symbol** names = nullptr;
+    ASSERT_EQ (object_attr_getnames (box->object, &count, &names), MAX_ERR_NONE);
+    const std::vector<t_symbol*> all (names, names + count);
+    sysmem_freeptr (names);
+    EXPECT_EQ (all.front(), gensym ("count"));
+    EXPECT_THAT (all, testing::Contains (gensym ("patching_rect")));
+    EXPECT_EQ (box.attribute ("patching_size"), "3. 4.");
+    EXPECT_THAT (bench::visibleAttributes (*box), testing::Not (testing::Contains ("patching_rect")));
+    EXPECT_THAT (console(), testing::IsEmpty());
+}
+
+/** What a function reads that takes a 32-bit count for 64 bits wide. */
+std::int64_t wideCount = 0;
+
+void wideMessage (t_object*, t_symbol*, std::int64_t argc, t_atom*) { wideCount = argc; }
+
+TEST (HostCalls, LeaveRubbishAboveA32BitCount)
+{
+    static t_class* c = nullptr;
+    const auto makeOne = [] (t_symbol*, t_clong, t_atom*) { return object_alloc (c); };
+    c = class_new ("bench.wide", max_method (+makeOne), nullptr, sizeof (t_object), nullptr, A_GIMME, 0);
+    class_addmethod (c, max_method (wideMessage), "wide", A_GIMME, 0);
+    class_register (CLASS_BOX, c);
+    bench::Bench patch;
+    patch.send (*patch.make ("w", "bench.wide"), "wide 1 2 3");
+    EXPECT_EQ (static_cast<t_clong> (wideCount), 3);
+    EXPECT_NE (wideCount, 3);
+}
+}
