@@ -218,7 +218,9 @@ void Bench::wait (int milliseconds)
         const auto step = std::min (slice, milliseconds - passed);
         passed += step;
         std::this_thread::sleep_until (end - std::chrono::milliseconds (milliseconds - passed));
+        // The scheduler is a thread of its own, so hold() does not stop it; what it runs is over before we go on.
         Scheduler::instance().advance (step);
+        Scheduler::instance().settle();
         settle();
     }
 }

@@ -125,6 +125,50 @@ TEST_F (BenchAttributes, OfTheBoxStandBehindThoseOfTheClass)
     EXPECT_THAT (console(), testing::IsEmpty());
 }
 
+TEST_F (BenchAttributes, TellTheClientsOfTheirObjectWhatWasSet)
+{
+    static Messages heard;
+    const auto notify = [] (t_object*, t_symbol* name, t_symbol* message, void*, void* data) -> t_max_err {
+        const auto* attribute = static_cast<t_symbol*> (object_method (data, gensym ("getname")));
+        heard.push_back (std::string (name->s_name) + " " + message->s_name + " " +
+                         (attribute == nullptr ? "-" : attribute->s_name));
+        return MAX_ERR_NONE;
+    };
+    auto* c = class_new ("bench.client", nullptr, nullptr, sizeof (t_object), nullptr, 0);
+    class_addmethod (c, max_method (+notify), "notify", A_CANT, 0);
+    auto* client = object_alloc (c);
+    auto box = make ("bench.example");
+    EXPECT_EQ (object_attach_byptr (box->object, client), MAX_ERR_NONE);
+    EXPECT_EQ (object_attach_byptr (box->object, client), MAX_ERR_DUPLICATE);
+    box.send ("count 3");
+    object_notify (box->object, gensym ("modified"), nullptr);
+    EXPECT_EQ (object_detach_byptr (box->object, client), MAX_ERR_NONE);
+    box.send ("count 4");
+    EXPECT_EQ (heard, (Messages{ "b1 attr_modified count", "b1 modified -" }));
+    object_free (client);
+}
+
+TEST_F (BenchAttributes, OfAClassWithoutADictionaryComeAsTheWordsOfTheBox)
+{
+    static t_class* c = nullptr;
+    static Messages plain;
+    const auto makeOne = [] (t_symbol*, t_clong argc, t_atom* argv) {
+        auto* x = object_alloc (c);
+        const auto words = static_cast<std::int16_t> (argc);
+        plain.push_back (bench::textOf (bench::Atoms (argv, argv + attr_args_offset (words, argv))));
+        attr_args_process (x, words, argv);
+        return x;
+    };
+    c = class_new ("bench.plain", max_method (+makeOne), nullptr, sizeof (t_example), nullptr, A_GIMME, 0);
+    class_addattr (c, attr_offset_new ("count", gensym ("long"), 0, nullptr, nullptr, calcoffset (t_example, count)));
+    class_attr_addattr_parse (c, "count", "default", gensym ("long"), 0, "6");
+    class_register (CLASS_BOX, c);
+    EXPECT_EQ (make ("bench.plain 1 x @count 5 @what 2").attribute ("count"), "5");
+    EXPECT_EQ (console(), Messages{ "error \"what\" is not a valid attribute argument" });
+    EXPECT_EQ (make ("bench.plain").attribute ("count"), "0"); // its default is nobody's business but the class's
+    EXPECT_EQ (plain, (Messages{ "1 x", "" }));
+}
+
 /** What a function reads that takes a 32-bit count for 64 bits wide. */
 std::int64_t wideCount = 0;
 

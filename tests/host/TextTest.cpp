@@ -137,7 +137,8 @@ TEST (MaxMemory, CopiesTheSourceFirstAndEndsTextsWithAZero)
     EXPECT_STREQ (small, "ab");
     EXPECT_EQ (small[3], 'x');
     sysmem_freeptr (nullptr);
-    EXPECT_DEATH (sysmem_freeptr (overlapping + 2), "sysmem_freeptr got memory");
+    alignas (16) char foreign[64] = {};
+    EXPECT_DEATH (sysmem_freeptr (foreign + 32), "sysmem_freeptr got memory");
 }
 
 TEST (MaxSymbols, AreInternedSortedByBytesAndUnique)
