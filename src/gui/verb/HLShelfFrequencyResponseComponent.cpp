@@ -1,7 +1,5 @@
 #include "gui/verb/HLShelfFrequencyResponseComponent.h"
 
-#include "gui/verb/EditorStyle.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -34,7 +32,8 @@ void drawVertical (juce::Graphics& g, double x, float thickness, float height)
 
 HLShelfFrequencyResponseComponent::HLShelfFrequencyResponseComponent (const juce::String& name) : Component (name)
 {
-    setOpaque (true);
+    setOpaque (true); // the grid covers all of it
+    addAndMakeVisible (grid);
     setSize (200, 100);
     setRepaintsOnMouseActivity (true);
     reset();
@@ -189,52 +188,15 @@ void HLShelfFrequencyResponseComponent::mouseWheelMove (const juce::MouseEvent&,
 
 // ---- Drawing
 
-void HLShelfFrequencyResponseComponent::paint (juce::Graphics& g)
+void HLShelfFrequencyResponseComponent::resized() { grid.setBounds (getLocalBounds()); }
+
+void HLShelfFrequencyResponseComponent::paintOverChildren (juce::Graphics& g)
 {
-    g.fillAll (editors::pageColour);
-    g.setFont (juce::Font (gridFontHeight));
-    paintGainGrid (g);
-    paintFrequencyGrid (g);
+    g.setFont (juce::Font (HLShelfGrid::fontHeight));
     paintCurve (g);
     if (isMouseOver())
         paintHandles (g);
-}
-
-void HLShelfFrequencyResponseComponent::paintGainGrid (juce::Graphics& g) const
-{
-    const auto s = scale();
-    const auto width = static_cast<float> (getWidth());
-    for (int dB = -25; dB <= 25; dB += 5) {
-        const auto y = static_cast<float> (s.y (dB));
-        g.setColour (gridColour.withAlpha (dB == 0 ? 0.6f : dB % 20 == 0 ? 0.4f : 0.2f));
-        g.fillRect (juce::Rectangle<float> (0, y - 0.5f, width, 1));
-        g.setColour (juce::Colours::black);
-        g.drawFittedText (juce::String (dB), { 0, static_cast<int> (y) - 6, 20, 12 }, juce::Justification::right, 1);
-    }
-}
-
-void HLShelfFrequencyResponseComponent::paintFrequencyGrid (juce::Graphics& g) const
-{
-    const auto s = scale();
-    const auto height = static_cast<float> (getHeight());
-    for (double decade = 10; decade <= 10000; decade *= 10)
-        for (int i = 1; i <= 10; ++i) {
-            const double hz = i * decade;
-            if (hz <= HLShelfScale::lowestFrequency || hz > HLShelfScale::highestFrequency)
-                continue;
-            const double x = s.x (hz);
-            g.setColour (gridColour.withAlpha (i == 10 ? 0.4f : 0.2f));
-            drawVertical (g, x, 1, height);
-            if (i != 2 && i != 5 && i != 10)
-                continue;
-            const auto f = static_cast<float> (hz);
-            const auto text = decade >= 1000 ? juce::String (f / 1000) + "k" : juce::String (f);
-            if (x + 0.5 * static_cast<double> (g.getCurrentFont().getStringWidthFloat (text)) > s.width)
-                continue; // the edge would cut it
-            g.setColour (gridColour.withAlpha (0.6f));
-            g.drawFittedText (text, { static_cast<int> (x - 20), static_cast<int> (0.5f * height - 12), 40, 12 },
-                              juce::Justification::centred, 1);
-        }
+    Component::paintOverChildren (g);
 }
 
 juce::Path HLShelfFrequencyResponseComponent::curve() const

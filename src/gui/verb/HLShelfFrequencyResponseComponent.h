@@ -1,5 +1,6 @@
 #pragma once
 #include "gui/plane/LumoComponent.h"
+#include "gui/verb/HLShelfGrid.h"
 #include "gui/verb/HLShelfResponse.h"
 #include "gui/verb/HLShelfScale.h"
 
@@ -49,7 +50,8 @@ public:
     /** The handle that was last pressed, -1 for none. */
     [[nodiscard]] int getSelectedHandle() const noexcept { return selectedHandle; }
 
-    void paint (juce::Graphics& g) override;
+    void resized() override;
+    void paintOverChildren (juce::Graphics& g) override;
     void mouseDown (const juce::MouseEvent& e) override;
     void mouseDrag (const juce::MouseEvent& e) override;
     void mouseUp (const juce::MouseEvent& e) override;
@@ -77,11 +79,10 @@ private:
     [[nodiscard]] int handleRadius() const noexcept;
     [[nodiscard]] int handleAt (juce::Point<double> position) const noexcept;
     [[nodiscard]] juce::Path curve() const;
-    void paintGainGrid (juce::Graphics& g) const;
-    void paintFrequencyGrid (juce::Graphics& g) const;
     void paintCurve (juce::Graphics& g) const;
     void paintHandles (juce::Graphics& g) const;
 
+    HLShelfGrid grid;
     HLShelfResponse response;
     HLShelfParameters parameters;
     int selectedHandle = none;

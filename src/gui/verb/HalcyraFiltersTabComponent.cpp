@@ -8,6 +8,7 @@ HalcyraFiltersTabComponent::HalcyraFiltersTabComponent (const juce::String& name
                lumo::HLShelfComponent (halcyra::filterNames[2]), lumo::HLShelfComponent (halcyra::filterNames[3]) }
 {
     setOpaque (true);
+    setBufferedToImage (true); // most of the page stands still
     for (auto& shelf : shelves)
         addAndMakeVisible (shelf);
     setSize (920, 400);

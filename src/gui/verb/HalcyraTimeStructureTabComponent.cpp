@@ -77,6 +77,7 @@ HalcyraTimeStructureTabComponent::HalcyraTimeStructureTabComponent (const juce::
       roomSize ({}, roomText)
 {
     setOpaque (true);
+    setBufferedToImage (true); // most of the page stands still
     makeGroups();
     addAndMakeVisible (display);
     makeRoomSize();

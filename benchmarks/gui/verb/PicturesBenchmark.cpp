@@ -1,0 +1,163 @@
+#include "gui/verb/HalcyraFiltersTabComponent.h"
+#include "gui/verb/HalcyraTimeStructureTabComponent.h"
+#include "max/window/OffscreenDesktop.h"
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <cstring>
+
+// What a frame of each picture costs, and how that compares with the least that anyone could do: the "ratio" column is
+// the frame over its floor, both taken in turn.
+
+namespace
+{
+
+double seconds() { return std::chrono::duration<double> (std::chrono::steady_clock::now().time_since_epoch()).count(); }
+
+template <typename Work, typename Floor>
+void compare (benchmark::State& state, Work&& work, Floor&& floor)
+{
+    double workTime = 0, floorTime = 0;
+    for ([[maybe_unused]] const auto turn : state) {
+        const double start = seconds();
+        floor();
+        const double middle = seconds();
+        work();
+        const double end = seconds();
+        floorTime += middle - start;
+        workTime += end - middle;
+        state.SetIterationTime (end - middle);
+    }
+    state.counters["ratio"] = workTime / floorTime;
+}
+
+/** What a component stands in, drawn into an image of its size. */
+struct Canvas
+{
+    explicit Canvas (juce::Component& content) : image (juce::Image::RGB, content.getWidth(), content.getHeight(), true)
+    {
+        parent.setLookAndFeel (look);
+        parent.setSize (content.getWidth(), content.getHeight());
+        parent.setVisible (true);
+        parent.addAndMakeVisible (content);
+    }
+    ~Canvas() { parent.setLookAndFeel (nullptr); }
+
+    void draw()
+    {
+        juce::Graphics g (image);
+        parent.paintEntireComponent (g, true);
+    }
+
+    juce::SharedResourcePointer<Ambrel4LookAndFeelV2> look;
+    juce::Component parent;
+    juce::Image image;
+};
+
+void impulseResponseFrame (benchmark::State& state)
+{
+    const auto taps = static_cast<std::uint32_t> (state.range (0));
+    lumo::ImpulseResponseComponent display (taps);
+    display.setSize (904, 144);
+    Canvas canvas (display);
+
+    Ambrel::Delgen early (taps, 20, 40, 0.5f), cluster (taps, 20, 40, 0.5f);
+    early.setMinMax (22.22f, 39.71f, 0.5f);
+    cluster.setMinMax (42.47f, 105.64f, 0.5f);
+    const lumo::ImpulseResponseScale scale{ 904, 144 };
+    juce::RectangleList<float> lines;
+    for (const float ms : early.getDelays()) {
+        lines.addWithoutMerging ({ scale.x (ms) - 0.5f, 72, 1, 72 });
+        for (const float offset : cluster.getDelays())
+            lines.addWithoutMerging ({ scale.x (ms + offset) - 0.5f, 72, 1, 72 });
+    }
+    compare (
+        state, [&] { canvas.draw(); },
+        [&] {
+            juce::Graphics g (canvas.image);
+            g.setColour (juce::Colours::blue.withAlpha (0.5f));
+            g.fillRectList (lines);
+        });
+}
+
+void responseCurveFrame (benchmark::State& state)
+{
+    lumo::HLShelfFrequencyResponseComponent curve ("curve");
+    curve.setSize (192, 150);
+    const HLShelfParameters filter{ -2, 12, -12, 6, 300, 3000 };
+    curve.setParameters (filter, false, false);
+    Canvas canvas (curve);
+
+    HLShelfResponse response;
+    response.design (filter);
+    const lumo::HLShelfScale scale{ 192, 150 };
+    juce::Path path;
+    path.startNewSubPath (0, static_cast<float> (scale.y (response.decibelsAt (20))));
+    for (int x = 3; x <= 192; x += 3)
+        path.lineTo (static_cast<float> (x), static_cast<float> (scale.y (response.decibelsAt (scale.frequency (x)))));
+    juce::Path area = path;
+    area.lineTo (192, 150);
+    area.lineTo (0, 150);
+    area.closeSubPath();
+    compare (
+        state, [&] { canvas.draw(); },
+        [&] {
+            juce::Graphics g (canvas.image);
+            g.setColour (juce::Colour (0x9E2A9DA5));
+            g.strokePath (path, { 2, juce::PathStrokeType::curved, juce::PathStrokeType::rounded });
+            g.fillPath (area);
+        });
+}
+
+/** Against a copy of the page's pixels. */
+void pageFrame (benchmark::State& state, juce::Component& page)
+{
+    page.setSize (918, 399);
+    Canvas canvas (page);
+    juce::HeapBlock<char> from (918 * 399 * 4, true), to (918 * 399 * 4, true);
+    compare (
+        state, [&] { canvas.draw(); },
+        [&] {
+            std::memcpy (to.get(), from.get(), 918 * 399 * 4);
+            benchmark::DoNotOptimize (to.get());
+            benchmark::ClobberMemory();
+        });
+}
+
+void timeStructurePageFrame (benchmark::State& state)
+{
+    HalcyraTimeStructureTabComponent page ("page", 16);
+    pageFrame (state, page);
+}
+
+void filtersPageFrame (benchmark::State& state)
+{
+    HalcyraFiltersTabComponent page ("page");
+    pageFrame (state, page);
+}
+
+/** A setting of a control that no window shows. */
+void hiddenSetting (benchmark::State& state)
+{
+    HalcyraTimeStructureTabComponent page ("page", 16);
+    float value = 0;
+    for ([[maybe_unused]] const auto turn : state)
+        page.setParameter (halcyra::parameter::gain, value = 1 - value, 0);
+}
+
+BENCHMARK (impulseResponseFrame)->Arg (8)->Arg (16)->Arg (64)->UseManualTime()->Unit (benchmark::kMicrosecond);
+BENCHMARK (responseCurveFrame)->UseManualTime()->Unit (benchmark::kMicrosecond);
+BENCHMARK (timeStructurePageFrame)->UseManualTime()->Unit (benchmark::kMicrosecond);
+BENCHMARK (filtersPageFrame)->UseManualTime()->Unit (benchmark::kMicrosecond);
+BENCHMARK (hiddenSetting);
+
+}
+
+int main (int argc, char** argv)
+{
+    OffscreenDesktop::start();
+    const juce::ScopedJuceInitialiser_GUI juceEndsWithMain;
+    benchmark::Initialize (&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}

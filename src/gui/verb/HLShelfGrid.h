@@ -1,0 +1,24 @@
+#pragma once
+#include <juce_gui_basics/juce_gui_basics.h>
+
+namespace lumo
+{
+
+/** The grid of gains and frequencies behind a response curve. It never changes, and is kept as an image. */
+class HLShelfGrid : public juce::Component
+{
+public:
+    static constexpr float fontHeight = 10;
+
+    HLShelfGrid();
+
+    void paint (juce::Graphics& g) override;
+
+private:
+    void paintGains (juce::Graphics& g) const;
+    void paintFrequencies (juce::Graphics& g) const;
+
+    JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HLShelfGrid)
+};
+
+}
