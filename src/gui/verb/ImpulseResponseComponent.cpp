@@ -17,14 +17,26 @@ const juce::Colour directColour = juce::Colours::black.withAlpha (0.5f);
 const juce::Colour earlyColour = juce::Colour (0xFF008000).withAlpha (0.5f);
 const juce::Colour clusterColour = juce::Colour (0xFF0000FF).withAlpha (0.5f);
 
-/** A band's decay as it was drawn by hand: it falls from the top left to the end of a foot. */
-juce::Path decayShape (float controlX, float endX)
+/** A band's decay: from the corner at its top left it falls along a quadratic curve to its end at the bottom, its control
+    point at a proportion of its width. Only what lies left of the right edge is built: far decays run thousands of
+    pixels beyond it, almost flat, which is what the renderer is slowest at. */
+juce::Path decayShape (juce::Point<float> corner, float width, float bottom, float control, float rightEdge)
 {
-    constexpr float left = 203, top = 58, bottom = 107;
+    constexpr int segments = 32;                // the polygon stays within a fiftieth of a pixel of the curve
+    constexpr float controlHeight = 47.0f / 49; // of the height
+    const float linear = 2 * control * width, square = width - linear, visible = rightEdge - corner.x;
     juce::Path path;
-    path.startNewSubPath (left, top);
-    path.quadraticTo (controlX, 105, endX, bottom);
-    path.lineTo (left, bottom);
+    if (visible <= 0 || width <= 0)
+        return path;
+    const float root = std::sqrt (linear * linear + 4 * square * visible);
+    const float last = visible < width ? 2 * visible / (linear + root) : 1.0f; // where the curve meets the edge
+    path.startNewSubPath (corner.x, bottom);
+    for (int i = 0; i <= segments; ++i) {
+        const float t = last * static_cast<float> (i) / segments;
+        const float fall = 2 * t * (1 - t) * controlHeight + t * t;
+        path.lineTo (corner.x + (linear + square * t) * t, corner.y + fall * (bottom - corner.y));
+    }
+    path.lineTo (std::min (corner.x + width, rightEdge), bottom);
     path.closeSubPath();
     return path;
 }
@@ -124,13 +136,12 @@ void ImpulseResponseComponent::buildDecay()
     const juce::Point<float> corner{ s.x (reverbStart), s.top (1) };
     // Seconds are held against ms here, and pictures rely on it: it bites only where the reverb starts within 30 ms.
     const float seconds = std::clamp (tr0, 0.0f, reverbStart);
-    const auto fit = [&] (juce::Path& path, float ratio, float controlX, float endX) {
-        path = decayShape (controlX, endX);
-        path.scaleToFit (corner.x, corner.y, s.x (seconds * ratio * 1000), s.height - corner.y, false);
+    const auto shape = [&] (float ratio, float control) {
+        return decayShape (corner, s.x (seconds * ratio * 1000), s.height, control, s.width);
     };
-    fit (low, trl, 270, 396);
-    fit (mid, trm, 245, 337);
-    fit (high, trh, 240, 287);
+    low = shape (trl, 67.0f / 193);
+    mid = shape (trm, 42.0f / 134);
+    high = shape (trh, 37.0f / 84);
 }
 
 void ImpulseResponseComponent::buildTicks()
