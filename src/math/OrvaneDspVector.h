@@ -27,6 +27,7 @@ struct AlignedAllocator
 
     [[nodiscard]] T* allocate (std::size_t count)
     {
+        // The elements may well be pointers. NOLINTNEXTLINE(bugprone-sizeof-expression)
         return static_cast<T*> (qel::allocate (byteCount (count, sizeof (T))));
     }
     void deallocate (T* p, std::size_t) noexcept { qel::free (p); }

@@ -9,7 +9,6 @@
 #include <vector>
 
 using namespace qel;
-using testing::ElementsAre;
 
 namespace
 {
@@ -21,9 +20,9 @@ using Values = std::vector<float>;
 
 std::vector<CoordinateType> allTypes()
 {
-    std::vector<CoordinateType> types;
-    for (std::int32_t i = 0; i < numCoordinateTypes; ++i)
-        types.push_back (static_cast<CoordinateType> (i));
+    std::vector<CoordinateType> types (numCoordinateTypes);
+    for (std::size_t i = 0; i < types.size(); ++i)
+        types[i] = static_cast<CoordinateType> (i);
     return types;
 }
 

@@ -1,0 +1,5 @@
+#pragma once
+#include <cstddef>
+
+/** How often operator new was called in this program. */
+std::size_t newCalls() noexcept;
