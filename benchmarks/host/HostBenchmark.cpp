@@ -22,7 +22,7 @@ void sendThrough (benchmark::State& state, const char* selector)
     auto& box = *quiet.patch.make ("a", "bench.minimal");
     bench::Atoms atoms (1);
     double value = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         value = value == 0 ? 1 : 0;
         atom_setfloat (atoms.data(), value);
         quiet.patch.send (box, gensym (selector), atoms);
@@ -39,7 +39,7 @@ BENCHMARK (attributeDefersAndSends);
 void createAndFree (benchmark::State& state)
 {
     QuietPatch quiet;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         quiet.patch.free (quiet.patch.make ("a", "bench.minimal"));
 }
 BENCHMARK (createAndFree);

@@ -51,7 +51,7 @@ t_max_err object_attr_getnames (void* x, t_clong* count, t_symbol*** names)
     if (headOf (x) == nullptr || count == nullptr || names == nullptr)
         return MAX_ERR_INVALID_PTR;
     const auto all = attributesOf (x);
-    auto* block = sysmem_newptr (std::max<std::size_t> (all.size(), 1) * sizeof (t_symbol*));
+    auto* block = sysmem_newptr (std::max<std::size_t> (all.size(), 1) * sizeof (void*));
     if (block == nullptr)
         return MAX_ERR_OUT_OF_MEM;
     *names = reinterpret_cast<t_symbol**> (block);

@@ -99,7 +99,7 @@ t_max_err copyOut (const std::vector<t_atom>& atoms, t_clong* ac, t_atom** av)
 
 t_max_err keysOut (const std::vector<t_symbol*>& names, t_clong* count, t_symbol*** keys)
 {
-    auto* block = sysmem_newptr (std::max<std::size_t> (names.size(), 1) * sizeof (t_symbol*));
+    auto* block = sysmem_newptr (std::max<std::size_t> (names.size(), 1) * sizeof (void*));
     if (block == nullptr)
         return MAX_ERR_OUT_OF_MEM;
     *keys = reinterpret_cast<t_symbol**> (block);

@@ -46,7 +46,7 @@ void writeFloat (void* field, const t_atom& atom)
 t_atom readSymbol (const void* field)
 {
     t_symbol* value = nullptr;
-    std::memcpy (&value, field, sizeof value);
+    std::memcpy (&value, field, sizeof (void*));
     t_atom atom{};
     atom_setsym (&atom, value == nullptr ? gensym ("") : value);
     return atom;
@@ -55,7 +55,7 @@ t_atom readSymbol (const void* field)
 void writeSymbol (void* field, const t_atom& atom)
 {
     auto* value = atom_getsym (&atom);
-    std::memcpy (field, &value, sizeof value);
+    std::memcpy (field, &value, sizeof (void*));
 }
 
 t_atom readAtom (const void* field)

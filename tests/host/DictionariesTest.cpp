@@ -12,6 +12,7 @@ std::vector<std::string> keysOf (t_dictionary* d, bool ordered)
     t_symbol** keys = nullptr;
     (ordered ? dictionary_getkeys_ordered : dictionary_getkeys) (d, &count, &keys);
     std::vector<std::string> names;
+    names.reserve (static_cast<std::size_t> (count));
     for (t_clong i = 0; i < count; ++i)
         names.emplace_back (keys[i]->s_name);
     dictionary_freekeys (d, count, keys);

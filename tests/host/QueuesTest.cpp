@@ -147,6 +147,7 @@ TEST_P (BenchQueues, KeepEveryCallAndTheirOrderWhileTheSchedulerRunsBesides)
     }
     settle();
     Messages expected;
+    expected.reserve (number);
     for (int i = 0; i < number; ++i)
         expected.push_back ("low " + std::to_string (i));
     EXPECT_EQ (box.leftOutlet(), expected);
@@ -157,6 +158,7 @@ TEST (BenchThreads, InternOneSymbolForAllAndKeepEveryRowOfTheWindow)
     bench::Bench patch;
     std::atomic<int> same{ 0 };
     std::vector<std::thread> threads;
+    threads.reserve (4);
     for (int t = 0; t < 4; ++t)
         threads.emplace_back ([&] {
             for (int i = 0; i < 200; ++i) {

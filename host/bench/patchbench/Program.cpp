@@ -38,7 +38,7 @@ void describe (CLI::App& app, Options& options)
         ->transform (CLI::CheckedTransformer (modes))
         ->option_text ("queue|now");
     app.add_flag ("--trace", options.trace, "Prints notifications too");
-    app.add_option ("FILE", options.files, "Scripts to run; standard input without any");
+    app.add_option ("FILE", options.files, "Scripts to run, - for standard input; standard input without any");
 }
 
 /** Runs lines and tells what could not be carried out, with the place where it stands. */
@@ -108,11 +108,15 @@ Status runScripts (const Options& options, const Session::FindExternal& findExte
 {
     Session session ({ options.deferMedium, options.trace, findExternal });
     Runner runner (session);
-    for (const auto& file : options.files)
-        if (! session.isOver())
+    const std::string standardInput = "-";
+    for (const auto& file : options.files.empty() ? std::vector{ standardInput } : options.files) {
+        if (session.isOver())
+            break;
+        if (file == standardInput)
+            runner.runStandardInput();
+        else
             runner.runFile (file);
-    if (options.files.empty())
-        runner.runStandardInput();
+    }
     return runner.status();
 }
 }

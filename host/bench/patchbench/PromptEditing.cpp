@@ -24,6 +24,7 @@ struct Prompt
 Prompt* current = nullptr;
 
 constexpr auto* text = "> ";
+constexpr auto* clearLine = "\r\x1b[K"; // an event may come while a line is being typed
 
 char* nextCompletion (const char*, int index)
 {
@@ -84,14 +85,21 @@ void runPrompt (Session& session, const std::function<void (const std::string&)>
     if (! history.empty())
         read_history (history.c_str());
     rl_callback_handler_install (text, takeLine);
+    Session::setLineStart (clearLine);
     while (! prompt.ended) {
+        rl_prep_terminal (1); // libedit forgets it behind each line
+        const auto before = Session::linesPrinted();
         if (isInputWaiting())
             rl_callback_read_char();
         else
             session.bench.wait (pause);
         std::cout.flush();
+        if (Session::linesPrinted() != before && ! prompt.ended)
+            rl_forced_update_display();
     }
+    Session::setLineStart ("");
     rl_callback_handler_remove();
+    rl_deprep_terminal();
     if (! history.empty())
         write_history (history.c_str());
     current = nullptr;

@@ -1,5 +1,6 @@
 #include "host/bench/patchbench/Session.h"
 #include "host/bench/patchbench/Commands.h"
+#include <atomic>
 #include <iostream>
 
 namespace patchbench
@@ -54,6 +55,19 @@ bool Session::load (const std::string& className)
     return entry != nullptr;
 }
 
-void Session::print (const std::string& line) { std::cout << line << '\n'; }
+namespace
+{
+std::atomic<const char*> lineStart{ "" };
+std::atomic<int> lines{ 0 };
+}
+
+void Session::print (const std::string& line)
+{
+    std::cout << lineStart.load() + line + '\n';
+    ++lines;
+}
+
+void Session::setLineStart (const char* text) { lineStart = text; }
+int Session::linesPrinted() { return lines; }
 
 }

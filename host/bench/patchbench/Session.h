@@ -45,7 +45,13 @@ public:
     /** Loads the external of a class unless that was done before; false if there is none. */
     bool load (const std::string& className);
 
+    /** Writes a line of output. Any thread. */
     static void print (const std::string& line);
+
+    /** What a prompt needs to keep its own line apart from the output: a text that goes before every line, and how
+        many lines there were so far. */
+    static void setLineStart (const char* text);
+    static int linesPrinted();
 
     bench::Thread thread = bench::Thread::main; // where sends come from
     bench::Bench bench;
