@@ -10,10 +10,12 @@ template <typename ToPoint>
 juce::Path Outline (const qel::Point3Array& points, ToPoint&& toPoint)
 {
     juce::Path path;
-    for (const auto& point : points)
-        path.isEmpty() ? path.startNewSubPath (toPoint (point)) : path.lineTo (toPoint (point));
-    if (! path.isEmpty())
-        path.closeSubPath();
+    if (points.empty())
+        return path;
+    path.startNewSubPath (toPoint (points[0]));
+    for (std::size_t i = 1; i < points.size(); ++i)
+        path.lineTo (toPoint (points[i]));
+    path.closeSubPath();
     return path;
 }
 

@@ -1,6 +1,6 @@
 #include "gui/plane/surface/BackgroundImage.h"
 
-#include "gui/plane/surface/ImageSize.h"
+#include "gui/plane/surface/ImageReader.h"
 
 namespace lumo::Plane
 {
@@ -9,20 +9,6 @@ namespace
 {
 
 constexpr const char* qualities[] = { "low", "medium", "high" };
-constexpr std::int64_t mostPixels = 64 * 1024 * 1024; // 256 MB decoded
-
-juce::Image LoadWithinReason (const juce::File& path)
-{
-    juce::FileInputStream file (path);
-    if (! file.openedOk())
-        return {};
-    juce::BufferedInputStream stream (file, 8192);
-    const auto size = DeclaredImageSize (stream);
-    if (! size || size->width < 1 || size->height < 1 || size->width * size->height > mostPixels)
-        return {};
-    stream.setPosition (0);
-    return juce::ImageFileFormat::loadFrom (stream);
-}
 
 }
 
@@ -36,7 +22,7 @@ qel::String BackgroundImage::NameOf (int quality) { return qualities[juce::jlimi
 void BackgroundImage::Load (const juce::File& path)
 {
     file = path.getFullPathName();
-    image = LoadWithinReason (path);
+    image = ReadImage (path);
     imageWidth = image.getWidth();
     imageHeight = image.getHeight();
     SetScale (scale);

@@ -13,7 +13,7 @@ struct BackgroundImage
     static int QualityNamed (const qel::String& name);
     static qel::String NameOf (int quality);
 
-    /** A file that is missing, no image, or declares more pixels than memory should pay for gives a null image. */
+    /** What ReadImage cannot read gives a null image. */
     void Load (const juce::File& path);
     void SetScale (float fraction);
 

@@ -1,0 +1,418 @@
+#include "PlaneRecorder.h"
+#include "gui/plane/interaction/HitTest.h"
+#include "gui/plane/interaction/PlaneMenu.h"
+#include "support/Stage.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+
+using lumo::PlaneComponent;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+using Keys = juce::ModifierKeys;
+
+namespace
+{
+
+/** Four sources in a ring, no speakers, on a stage, at 100 pixels a metre or so. */
+class PlaneOnStage : public testing::Test
+{
+protected:
+    [[nodiscard]] juce::Point<int> At (const qel::Point3& metres) const
+    {
+        return plane.GetSurface().viewTransform.ToScreen (metres).toInt();
+    }
+    [[nodiscard]] juce::Point<int> Source (std::size_t i) const { return At (plane.GetSourcePosition (i)); }
+    [[nodiscard]] std::string Selected() const
+    {
+        std::string text;
+        for (const bool flag : plane.GetScene().Selection())
+            text += flag ? '1' : '0';
+        return text;
+    }
+
+    PlaneComponent plane{ 4, 0, 300 };
+    PlaneRecorder heard{ plane };
+    Stage stage{ plane };
+};
+
+const juce::Point<int> emptyGround{ 100, 90 };
+
+}
+
+TEST_F (PlaneOnStage, AClickSelectsAndTellsInOrder)
+{
+    stage.press (Source (1));
+    EXPECT_THAT (heard.Take(), ElementsAre ("button on", "pointer 1.00 0.00 0.00", "selection 0100"));
+    stage.release (Source (1));
+    EXPECT_THAT (heard.Take(), ElementsAre ("button off"));
+}
+
+TEST_F (PlaneOnStage, ShiftTogglesAndAGroupIsKept)
+{
+    stage.click (Source (0));
+    stage.click (Source (1), Keys::shiftModifier);
+    EXPECT_EQ (Selected(), "1100");
+    stage.click (Source (0));
+    EXPECT_EQ (Selected(), "1100") << "a click on a selected source keeps the group";
+    stage.click (Source (0), Keys::shiftModifier);
+    EXPECT_EQ (Selected(), "0100");
+    stage.click (Source (3));
+    EXPECT_EQ (Selected(), "0001");
+    stage.click (emptyGround);
+    EXPECT_EQ (Selected(), "0000");
+}
+
+TEST_F (PlaneOnStage, ADragMovesTheSelectedSourcesAndNoOthers)
+{
+    stage.click (Source (0));
+    stage.click (Source (1), Keys::shiftModifier);
+    const auto first = plane.GetSourcePosition (0), second = plane.GetSourcePosition (1);
+    static_cast<void> (heard.Take());
+    stage.press (Source (1));
+    stage.drag (Source (1).translated (-30, 20));
+    stage.release (Source (1));
+    const auto metre = plane.GetSurface().viewTransform.pixelsPerMetre;
+    EXPECT_NEAR (plane.GetSourcePosition (0).x, first.x - 30 / metre, 0.02f);
+    EXPECT_NEAR (plane.GetSourcePosition (1).y, second.y - 20 / metre, 0.02f);
+    EXPECT_EQ (plane.GetSourcePosition (2).z, 0);
+    const auto lines = heard.Take ("source");
+    EXPECT_EQ (lines.size(), 2u) << "one line for each source that moved";
+}
+
+TEST_F (PlaneOnStage, AShiftClickedAwaySourceDoesNotMove)
+{
+    stage.click (Source (1));
+    static_cast<void> (heard.Take());
+    stage.press (Source (1), Keys::shiftModifier);
+    stage.drag (Source (1).translated (-40, 0), Keys::shiftModifier);
+    EXPECT_THAT (heard.Take ("source"), IsEmpty());
+}
+
+TEST_F (PlaneOnStage, InTheFrontViewADragLeavesTheDepth)
+{
+    plane.SetViewpoint ("front");
+    plane.SetSourcePosition (0, { -0.5f, 0.75f, 0.25f }, false);
+    stage.dragFromTo (Source (0), Source (0).translated (20, -30));
+    EXPECT_EQ (plane.GetSourcePosition (0).y, 0.75f);
+    EXPECT_GT (plane.GetSourcePosition (0).z, 0.4f);
+    EXPECT_GT (plane.GetSourcePosition (0).x, -0.4f);
+}
+
+TEST_F (PlaneOnStage, ALassoSelectsWhatItHolds)
+{
+    stage.press (emptyGround);
+    EXPECT_TRUE (plane.GetSurface().lasso.active);
+    stage.drag ({ 299, 299 });
+    EXPECT_EQ (Selected(), "0110");
+    stage.drag ({ 120, 299 });
+    EXPECT_EQ (Selected(), "0000") << "it lets go again";
+    stage.drag ({ 5000, -5000 });
+    EXPECT_FLOAT_EQ (plane.GetSurface().lasso.area.getRight(), 300) << "kept inside the component";
+    stage.release ({ 0, 0 });
+    EXPECT_FALSE (plane.GetSurface().lasso.active);
+}
+
+TEST_F (PlaneOnStage, TheCircularConstraintTurnsTheSelectionAboutTheOrigin)
+{
+    plane.SetCircularConstraint (true);
+    plane.SetSourcePosition (0, { 0, 0.8f, 0.3f }, false);
+    stage.dragFromTo (At ({ 0, 0.8f, 0 }), At ({ 0.8f, 0, 0 }));
+    const auto p = plane.GetSourcePosition (0);
+    EXPECT_NEAR (std::hypot (p.x, p.y), 0.8f, 0.01f);
+    EXPECT_NEAR (p.x, 0.8f, 0.02f);
+    EXPECT_EQ (p.z, 0.3f);
+
+    stage.click (emptyGround);
+    static_cast<void> (heard.Take());
+    stage.dragFromTo (emptyGround, emptyGround.translated (9, 9));
+    EXPECT_THAT (heard.Take ("source"), IsEmpty()) << "the lasso goes before turning the whole scene";
+}
+
+TEST_F (PlaneOnStage, WithNoSourceEditableADragTurnsAllSpeakers)
+{
+    plane.SetNumSpeakers (3, false);
+    plane.SetSpeakersPositions ({ { 1, 0, 0 }, { 0, 1, 0 }, { -1, 0, 0 } }, false);
+    plane.SetSourcesEditable (false, false);
+    plane.SetCircularConstraint (true);
+    stage.press (At ({ 0.3f, 0.3f, 0 }));
+    static_cast<void> (heard.Take());
+    stage.drag (At ({ -0.3f, 0.3f, 0 }));
+    EXPECT_NEAR (plane.GetSpeakerPosition (0).y, 1, 0.03f);
+    EXPECT_THAT (heard.Take ("speakers"), ElementsAre ("speakers 3"));
+}
+
+TEST_F (PlaneOnStage, ASpeakerBeatsTheListenerAndTheListenerASource)
+{
+    plane.SetNumSpeakers (1, false);
+    plane.SetSpeakerPosition (0, { 0.05f, 0, 0 }, false);
+    plane.SetSourcePosition (2, {}, false);
+    plane.SetListenerEditable (true);
+    static_cast<void> (heard.Take());
+    stage.press (At ({}));
+    EXPECT_THAT (heard.Take(),
+                 ElementsAre ("button on", "pointer 0.00 0.00 0.00", "speakerselection 0 on", "selection 0000"));
+    stage.drag (At ({ 0.5f, 0.5f, 0 }));
+    stage.release (At ({ 0.5f, 0.5f, 0 }));
+    EXPECT_NEAR (plane.GetSpeakerPosition (0).x, 0.55f, 0.02f);
+
+    stage.press (At ({}));
+    EXPECT_THAT (heard.Take(), Contains ("speakerselection 0 off"));
+    EXPECT_TRUE (plane.GetSurface().options.listenerSelected);
+    stage.drag (At ({ -0.5f, 0, 0 }));
+    EXPECT_NEAR (plane.GetListenerPosition().x, -0.5f, 0.02f);
+    EXPECT_THAT (heard.Take ("listener"), ElementsAre ("listener -0.50 0.00 0.00"));
+}
+
+TEST_F (PlaneOnStage, ADoubleClickIsTold)
+{
+    stage.doubleClick (Source (2));
+    EXPECT_THAT (heard.Take ("doubleclick"), ElementsAre ("doubleclick 2"));
+    stage.doubleClick (emptyGround);
+    EXPECT_THAT (heard.Take ("doubleclick"), IsEmpty());
+}
+
+TEST_F (PlaneOnStage, SixtyFourMovesInOneTurnCostOneRepaint)
+{
+    struct Counter : PlaneComponent
+    {
+        Counter() : PlaneComponent (64, 8, 300) {}
+        void paint (juce::Graphics& g) override
+        {
+            ++frames;
+            PlaneComponent::paint (g);
+        }
+        int frames = 0;
+    };
+    Counter counter;
+    Stage own (counter);
+    static_cast<void> (own.picture());
+    counter.frames = 0;
+    for (std::size_t i = 0; i < 64; ++i)
+        counter.SetSourcePosition (i, { 0.01f * static_cast<float> (i), 0, 0 }, true);
+    static_cast<void> (own.picture());
+    EXPECT_EQ (counter.frames, 1);
+}
+
+struct WheelRow
+{
+    int keys;
+    bool apertureVisible;
+    const char* told; // "" if the wheel zooms
+};
+
+class PlaneWheel : public PlaneOnStage, public testing::WithParamInterface<WheelRow>
+{};
+
+TEST_P (PlaneWheel, TurnsWhatTheKeysSay)
+{
+    plane.SetApertureVisible (GetParam().apertureVisible);
+    stage.click (Source (0));
+    static_cast<void> (heard.Take());
+    juce::MouseWheelDetails wheel{};
+    wheel.deltaY = 0.5f;
+    const auto source = juce::Desktop::getInstance().getMainMouseSource();
+    const juce::MouseEvent event (source, {}, Keys (GetParam().keys), 0, 0, 0, 0, 0, &plane, &plane, {}, {}, {}, 1,
+                                  false);
+    plane.mouseWheelMove (event, wheel);
+    const std::string told = GetParam().told;
+    if (told.empty()) {
+        EXPECT_THAT (heard.Take(), ElementsAre ("options"));
+        EXPECT_NEAR (plane.GetSurface().viewTransform.zoom, std::exp2 (0.075f), 1e-5f);
+    } else {
+        EXPECT_THAT (heard.Take(), ElementsAre (told));
+        EXPECT_FLOAT_EQ (plane.GetSurface().viewTransform.zoom, 1);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P (
+    Keys, PlaneWheel,
+    testing::Values (WheelRow{ 0, true, "" }, WheelRow{ Keys::ctrlModifier, true, "aperture 0 90.00" },
+                     WheelRow{ Keys::altModifier, true, "yaw 0 10.00" },
+                     WheelRow{ Keys::shiftModifier, true, "source 0 0.00 1.00 0.50" },
+                     WheelRow{ Keys::ctrlModifier, false, "" },
+                     WheelRow{ Keys::ctrlModifier | Keys::shiftModifier, false, "source 0 0.00 1.00 0.50" },
+                     WheelRow{ Keys::ctrlModifier | Keys::altModifier, true, "" }));
+
+TEST_F (PlaneOnStage, TheWheelTurnsTheSelectedListener)
+{
+    plane.SetListenerEditable (true);
+    stage.click (At ({}));
+    static_cast<void> (heard.Take());
+    stage.wheel (At ({}), 0.5f, Keys::altModifier);
+    EXPECT_THAT (heard.Take ("listeneryaw"), ElementsAre ("listeneryaw 10.00"));
+}
+
+struct KeyRow
+{
+    int code, modifiers;
+    std::vector<std::string> told;
+};
+
+class PlaneKeys : public PlaneOnStage, public testing::WithParamInterface<KeyRow>
+{};
+
+TEST_P (PlaneKeys, DoWhatTheTableSays)
+{
+    EXPECT_TRUE (plane.keyPressed (juce::KeyPress (GetParam().code, GetParam().modifiers, 0)));
+    EXPECT_EQ (heard.Take(), GetParam().told);
+}
+
+INSTANTIATE_TEST_SUITE_P (
+    Rows, PlaneKeys,
+    testing::Values (KeyRow{ 'w', Keys::ctrlModifier, { "command 0" } },
+                     KeyRow{ '+', Keys::ctrlModifier, { "command 2" } },
+                     KeyRow{ ',', Keys::ctrlModifier, { "command 2" } },
+                     KeyRow{ '-', Keys::ctrlModifier, { "command 3" } }, KeyRow{ 'm', 0, { "command 13" } },
+                     KeyRow{ '+', 0, { "options" } }, KeyRow{ '+', Keys::shiftModifier, { "options" } },
+                     KeyRow{ '-', 0, { "options" } }, KeyRow{ '=', 0, {} }, KeyRow{ 'a', 0, { "options" } },
+                     KeyRow{ 's', 0, { "options" } }, KeyRow{ 'l', 0, { "options" } }, KeyRow{ 'c', 0, { "options" } },
+                     KeyRow{ 'v', 0, { "options" } }, KeyRow{ 'g', 0, { "options" } },
+                     KeyRow{ 'a', Keys::ctrlModifier, { "selection 1111" } },
+                     KeyRow{ juce::KeyPress::tabKey, 0, { "selection 1000" } },
+                     KeyRow{ juce::KeyPress::rightKey, 0, {} }, KeyRow{ juce::KeyPress::upKey, 0, {} }));
+
+TEST_F (PlaneOnStage, KeysOutsideTheTableTravelOn)
+{
+    for (const auto& key :
+         { juce::KeyPress ('q', 0, 0), juce::KeyPress ('v', Keys::shiftModifier, 0), juce::KeyPress ('w', 0, 0) })
+        EXPECT_FALSE (plane.keyPressed (key)) << key.getTextDescription();
+    EXPECT_THAT (heard.Take(), IsEmpty());
+}
+
+TEST_F (PlaneOnStage, ArrowsStepByATenthOfTheWidth)
+{
+    const auto& view = plane.GetSurface().viewTransform;
+    plane.keyPressed (juce::KeyPress (juce::KeyPress::rightKey));
+    EXPECT_FLOAT_EQ (view.xOffset, -30);
+    plane.keyPressed (juce::KeyPress (juce::KeyPress::upKey));
+    EXPECT_FLOAT_EQ (view.yOffset, -30);
+    plane.SetFrontView (true);
+    plane.keyPressed (juce::KeyPress (juce::KeyPress::downKey));
+    EXPECT_FLOAT_EQ (view.zOffset, 30);
+    EXPECT_FLOAT_EQ (view.yOffset, -30);
+}
+
+TEST_F (PlaneOnStage, TabWalksAndEndsOnASourceThatCannotBeEdited)
+{
+    plane.SetSourceEditable (2, false, false);
+    const auto press = [this] { plane.keyPressed (juce::KeyPress (juce::KeyPress::tabKey)); };
+    press();
+    press();
+    EXPECT_EQ (Selected(), "0100");
+    press();
+    EXPECT_EQ (Selected(), "0000");
+    plane.SetSelection ({ true, true, false, false }, false);
+    press();
+    EXPECT_EQ (Selected(), "1100") << "more than one stays";
+}
+
+TEST_F (PlaneOnStage, EveryMenuIdTurnsItsSwitchOver)
+{
+    using lumo::PlaneOptions;
+    const struct
+    {
+        int id;
+        bool PlaneOptions::*state;
+    } rows[] = { { 1, &PlaneOptions::speakersEditable },
+                 { 2, &PlaneOptions::sourcesEditable },
+                 { 3, &PlaneOptions::listenerEditable },
+                 { 4, &PlaneOptions::speakersVisible },
+                 { 6, &PlaneOptions::circularConstraint },
+                 { 7, &PlaneOptions::topView },
+                 { 8, &PlaneOptions::frontView },
+                 { 9, &PlaneOptions::headphonesVisible },
+                 { 10, &PlaneOptions::apertureVisible },
+                 { 11, &PlaneOptions::backgroundImageVisible },
+                 { 12, &PlaneOptions::radiusVisible },
+                 { 13, &PlaneOptions::listenerVisible },
+                 { 14, &PlaneOptions::shoeboxVisible },
+                 { 15, &PlaneOptions::hullVisible },
+                 { 16, &PlaneOptions::angularDivisionsVisible },
+                 { 17, &PlaneOptions::speakersRadiusVisible },
+                 { 18, &PlaneOptions::speakersProjectionVisible } };
+    for (const auto& row : rows) {
+        PlaneComponent own (2, 2, 300);
+        PlaneRecorder told (own);
+        lumo::PlaneOptions before, after;
+        own.GetOptions (before);
+        own.MenuItemChosen (row.id);
+        own.GetOptions (after);
+        EXPECT_NE (before.*row.state, after.*row.state) << row.id;
+        EXPECT_THAT (told.Take(), Contains ("options")) << row.id;
+    }
+    for (const int id : { 0, 5, 19, -1 })
+        plane.MenuItemChosen (id);
+    EXPECT_THAT (heard.Take(), IsEmpty());
+}
+
+TEST_F (PlaneOnStage, TheMenuShowsTheStateInOrder)
+{
+    std::vector<std::string> items;
+    const auto menu = lumo::Plane::MakePlaneMenu (plane);
+    for (juce::PopupMenu::MenuItemIterator each (menu); each.next();) {
+        const auto& item = each.getItem();
+        items.push_back (item.isSeparator ? "-" : (item.isTicked ? "* " : "  ") + item.text.toStdString());
+    }
+    EXPECT_THAT (items, ElementsAre ("* speakers editable", "* sources editable", "  listener editable", "-",
+                                     "* show speakers", "* show source aperture", "* show listener", "-",
+                                     "  constrains to circular", "-", "* Top View (xy)", "  Front View (xz)", "-"));
+}
+
+TEST (PlaneMenu, IsIgnoredWhenThePlaneIsGone)
+{
+    juce::Component room;
+    room.setSize (300, 300);
+    auto plane = std::make_unique<PlaneComponent> (2, 2, 300);
+    room.addAndMakeVisible (*plane);
+    Stage stage (room);
+    stage.press ({ 100, 100 }, juce::ModifierKeys::rightButtonModifier);
+    plane.reset();
+    juce::PopupMenu::dismissAllActiveMenus();
+    pumpGui();
+    EXPECT_EQ (room.getNumChildComponents(), 0);
+}
+
+/** What is drawn and what is hit agree: in random scenes, at any zoom, offset and view, the middle of every icon that
+    lies on the component is hit, by it or by one that is drawn over it. */
+TEST (PlaneHits, AgreeWithWhatIsDrawn)
+{
+    std::mt19937 random (7);
+    const auto between = [&] (float low, float high) {
+        return std::uniform_real_distribution<float> (low, high) (random);
+    };
+    for (int round = 0; round < 200; ++round) {
+        PlaneComponent plane (8, 8, 300);
+        plane.SetSpeakersEditable (true, false);
+        plane.SetZoom (std::exp2 (between (-3, 6)), false);
+        plane.SetXOffset (between (-200, 200));
+        plane.SetYOffset (between (-200, 200));
+        plane.SetZOffset (between (-200, 200));
+        plane.SetTopView (between (0, 1) < 0.5f);
+        plane.SetAllSourcesProportion (between (0.01f, 0.1f));
+        for (std::size_t i = 0; i < 8; ++i) {
+            plane.SetSourcePosition (i, { between (-3, 3), between (-3, 3), between (-3, 3) }, false);
+            plane.SetSourceVisible (i, between (0, 1) < 0.7f, false);
+        }
+        const auto& scene = plane.GetScene();
+        const auto& surface = plane.GetSurface();
+        for (std::size_t i = 0; i < 8; ++i) {
+            const auto& source = scene.sources[i];
+            const auto middle = surface.viewTransform.ToScreen (source.position);
+            const int hit = lumo::Plane::SourceUnder (middle, surface, scene);
+            if (source.visible)
+                EXPECT_GE (hit, static_cast<int> (i)) << "round " << round;
+            else
+                EXPECT_NE (hit, static_cast<int> (i)) << "round " << round;
+            const auto size = static_cast<float> (surface.viewTransform.PixelSize (source.Proportion()));
+            EXPECT_NE (lumo::Plane::SourceUnder (middle.translated (size + 0.5f, 0), surface, scene),
+                       static_cast<int> (i))
+                << "the edge does not count";
+        }
+        plane.SetSpeakersVisible (false);
+        EXPECT_EQ (lumo::Plane::SpeakerUnder (scene.speakers[0].screenPosition, surface, scene), -1);
+    }
+}

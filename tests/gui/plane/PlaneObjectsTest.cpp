@@ -1,0 +1,284 @@
+#include "PlaneRecorder.h"
+
+#include <gmock/gmock.h>
+
+using lumo::PlaneComponent;
+using qel::Point3;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+namespace
+{
+
+constexpr float tolerance = 1e-4f;
+
+void ExpectNear (const Point3& p, const Point3& wanted)
+{
+    EXPECT_NEAR (p.x, wanted.x, tolerance);
+    EXPECT_NEAR (p.y, wanted.y, tolerance);
+    EXPECT_NEAR (p.z, wanted.z, tolerance);
+}
+
+}
+
+TEST (PlaneSources, StandInARingFromTheFrontClockwise)
+{
+    PlaneComponent plane (4, 0, 300);
+    ExpectNear (plane.GetSourcePosition (0), { 0, 1, 0 });
+    ExpectNear (plane.GetSourcePosition (1), { 1, 0, 0 });
+    EXPECT_EQ (plane.GetScene().sources[3].label, "4");
+}
+
+TEST (PlaneSources, AreAtMost256AndNewOnesStandAtTheOrigin)
+{
+    PlaneComponent plane (2, 2, 300);
+    plane.SetNumSources (300, true);
+    EXPECT_EQ (plane.GetNumSources(), 256u);
+    ExpectNear (plane.GetSourcePosition (200), {});
+    plane.SetNumSpeakers (300, true);
+    EXPECT_EQ (plane.GetNumSpeakers(), 256u);
+    plane.SetNumSources (0, true);
+    EXPECT_TRUE (plane.GetSurface().options.sourcesEditable) << "every one of none is editable";
+}
+
+TEST (PlaneSources, AMoveIsToldAfterTheYaw)
+{
+    PlaneComponent plane (2, 0, 300);
+    plane.SetSourceYawMode (1, "translation");
+    PlaneRecorder heard (plane);
+    plane.SetSourcePosition (1, { 1, 0, 0 }, true);
+    EXPECT_THAT (heard.Take(), ElementsAre ("yaw 1 90.00", "source 1 1.00 0.00 0.00"));
+    plane.SetSourcePosition (0, { 0, 2, 0 }, true);
+    EXPECT_THAT (heard.Take(), ElementsAre ("source 0 0.00 2.00 0.00")) << "this mode reports no yaw";
+    plane.SetSourcePosition (0, { 0, 3, 0 }, false);
+    EXPECT_THAT (heard.Take(), IsEmpty());
+}
+
+TEST (PlaneSources, TheRadiusConstraintKeepsTheDistance)
+{
+    PlaneComponent plane (1, 0, 300);
+    plane.SetRadiusConstraint (true);
+    PlaneRecorder heard (plane);
+    plane.SetSourcePosition (0, { 7, 0, 0 }, true);
+    ExpectNear (plane.GetSourcePosition (0), { 1, 0, 0 });
+    plane.SetSourceAzimuth (0, 180, true);
+    ExpectNear (plane.GetSourcePosition (0), { 0, -1, 0 });
+    static_cast<void> (heard.Take());
+    for (const float metres : { 5.0f, 0.0f, -2.0f }) {
+        plane.SetSourceDistance (0, metres, true);
+        ExpectNear (plane.GetSourcePosition (0), { 0, -1, 0 });
+        EXPECT_THAT (heard.Take(), ElementsAre ("source 0 0.00 -1.00 0.00")) << "told all the same";
+    }
+}
+
+TEST (PlaneSources, SphericalSettersChangeOneCoordinate)
+{
+    PlaneComponent plane (1, 0, 300);
+    plane.SetSourceDistance (0, 2, false);
+    ExpectNear (plane.GetSourcePosition (0), { 0, 2, 0 });
+    plane.SetSourceElevation (0, 90, false);
+    ExpectNear (plane.GetSourcePosition (0), { 0, 0, 2 });
+}
+
+TEST (PlaneSources, TurnAboutTheListener)
+{
+    PlaneComponent plane (2, 0, 300);
+    plane.SetListenerPosition ({ 1, 1, 0 }, false);
+    plane.SetSourcePosition (0, { 2, 1, 0.5f }, false);
+    plane.RotateSource (0, 90, 0, 0, true);
+    ExpectNear (plane.GetSourcePosition (0), { 1, 2, 0.5f });
+}
+
+struct YawRow
+{
+    const char* mode;
+    float wanted, stored;
+};
+
+class PlaneYaw : public testing::TestWithParam<YawRow>
+{};
+
+TEST_P (PlaneYaw, IsTakenAsTheModeTakesItAndToldAsItStands)
+{
+    PlaneComponent plane (1, 0, 300);
+    plane.SetSourcePosition (0, { 1, 1, 0 }, false);
+    plane.SetSourceYaw (0, 30, false);
+    plane.SetSourceYawMode (0, GetParam().mode);
+    PlaneRecorder heard (plane);
+    plane.SetSourceYaw (0, GetParam().wanted, true);
+    EXPECT_NEAR (plane.GetScene().sources[0].YawDegrees(), GetParam().stored, 0.01f);
+    EXPECT_THAT (heard.Take(), ElementsAre ("yaw 0 " + juce::String (GetParam().stored, 2).toStdString()));
+}
+
+INSTANTIATE_TEST_SUITE_P (Modes, PlaneYaw,
+                          testing::Values (YawRow{ "yawconstraint", 200, -160 }, YawRow{ "yawconstraint", -180, -180 },
+                                           YawRow{ "translation", 75, 75 }, YawRow{ "follow", 75, 30 },
+                                           YawRow{ "listenerconstraint", 75, 30 }, YawRow{ "nonsense", 75, 75 }));
+
+TEST (PlaneYawRules, ListenerConstraintReportsFromZeroTo360)
+{
+    PlaneComponent plane (1, 0, 300);
+    plane.SetSourcePosition (0, { 1, 0, 0 }, false);
+    PlaneRecorder heard (plane);
+    plane.SetSourceYawMode (0, "listenerconstraint");
+    EXPECT_THAT (heard.Take(), ElementsAre ("yaw 0 90.00"));
+    plane.SetSourcePosition (0, { 0, -1, 0 }, false);
+    EXPECT_THAT (heard.Take(), ElementsAre ("yaw 0 180.00"));
+    plane.SetSourceYawMode (0, "listenerconstraint");
+    EXPECT_THAT (heard.Take(), IsEmpty()) << "the same mode again does nothing";
+}
+
+struct LookRow
+{
+    Point3 source, target;
+    float yaw;
+};
+
+class PlaneLookAt : public testing::TestWithParam<LookRow>
+{};
+
+TEST_P (PlaneLookAt, TurnsTheSourceTowardsTheTarget)
+{
+    const auto yaw = lumo::Plane::Orientation::YawLookingAt (GetParam().source, GetParam().target);
+    ASSERT_TRUE (yaw);
+    EXPECT_NEAR (lumo::Plane::Orientation::WrapDegrees (*yaw), GetParam().yaw, 0.05f);
+}
+
+// Worked by hand from the triangle of source, target and origin.
+INSTANTIATE_TEST_SUITE_P (Rows, PlaneLookAt,
+                          testing::Values (LookRow{ { 1, 0, 0 }, { 0, 1, 0 }, -135 },
+                                           LookRow{ { 0, 1, 0 }, { 1, 0, 0 }, -45 },
+                                           LookRow{ { -0.5f, -1, 0 }, { 0.5f, -1, 0 }, 63.435f }));
+
+TEST (PlaneLookAtRules, ATargetOnTheOriginOrOnTheSourceChangesNothing)
+{
+    PlaneComponent plane (1, 0, 300);
+    plane.SetSourceYaw (0, 33, false);
+    PlaneRecorder heard (plane);
+    plane.SetSourceLookAt (0, {}, true);
+    plane.SetSourceLookAt (0, plane.GetSourcePosition (0), true);
+    EXPECT_THAT (heard.Take(), IsEmpty());
+    EXPECT_NEAR (plane.GetScene().sources[0].YawDegrees(), 33, 0.01f);
+}
+
+TEST (PlaneLevels, AreClampedAndDoNotTell)
+{
+    PlaneComponent plane (2, 1, 300);
+    PlaneRecorder heard (plane);
+    plane.SetSourcesLevels ({ 10.0f, -100.0f, 3.0f });
+    plane.SetSpeakerLevel (0, -6);
+    EXPECT_FLOAT_EQ (plane.GetScene().sources[0].level, 6);
+    EXPECT_FLOAT_EQ (plane.GetScene().sources[1].level, -60);
+    EXPECT_FLOAT_EQ (plane.GetScene().speakers[0].level, -6);
+    EXPECT_THAT (heard.Take(), IsEmpty());
+}
+
+TEST (PlaneSpeakers, ComeBackWhenTheHeadphonesGo)
+{
+    PlaneComponent plane (0, 2, 300);
+    plane.SetSpeakersVisible (false);
+    plane.SetHeadphonesVisible (true);
+    EXPECT_FALSE (plane.GetSurface().options.speakersVisible);
+    plane.SetSpeakersVisible (true);
+    EXPECT_FALSE (plane.GetSurface().options.speakersVisible) << "refused while the headphones are on";
+    EXPECT_FALSE (plane.GetScene().speakers[0].editable);
+    plane.SetHeadphonesVisible (false);
+    EXPECT_TRUE (plane.GetSurface().options.speakersVisible);
+    EXPECT_TRUE (plane.GetScene().speakers[0].editable);
+}
+
+TEST (PlaneSpeakers, AreMovedTogetherAsFarAsTheyGo)
+{
+    PlaneComponent plane (0, 2, 300);
+    PlaneRecorder heard (plane);
+    plane.SetSpeakersPositions ({ { 1, 2, 3 }, { 4, 5, 6 }, { 7, 8, 9 } }, true);
+    EXPECT_EQ (plane.GetSpeakerPosition (1), (Point3{ 4, 5, 6 }));
+    plane.SetSpeakersRadiusVisible (true);
+    EXPECT_NEAR (plane.GetScene().speakerGeometry.Radius(), std::sqrt (77.0f), tolerance);
+    EXPECT_THAT (heard.Take(), ElementsAre ("speakers 2", "options"));
+}
+
+TEST (PlaneListenerHead, IsDeafWhileItIsNotEnabled)
+{
+    PlaneComponent plane (0, 0, 300);
+    plane.SetListenerEnabled (false);
+    plane.SetListenerPosition ({ 1, 1, 1 }, true);
+    plane.SetListenerYaw (20, true);
+    plane.SetListenerEditable (true);
+    EXPECT_EQ (plane.GetListenerPosition(), Point3());
+    EXPECT_FALSE (plane.GetListenerEditable());
+    plane.SetListenerEnabled (true);
+    PlaneRecorder heard (plane);
+    plane.SetListenerYaw (270, true);
+    plane.SetListenerOrientation (180, 0, -190, true);
+    EXPECT_THAT (heard.Take(), ElementsAre ("listeneryaw -90.00", "orientation -180.00 0.00 170.00"));
+}
+
+TEST (PlaneAreas, ReportWhoStandsInThem)
+{
+    PlaneComponent plane (1, 1, 300);
+    plane.SetNumAreas (2);
+    plane.SetAreaPoints (0, { { -1, 0, 0 }, { 1, 0, 0 }, { 1, 2, 0 }, { -1, 2, 0 } });
+    PlaneRecorder heard (plane);
+    plane.SetAreasMonitoring (true);
+    EXPECT_THAT (heard.Take(), ElementsAre ("options", "listenerareas 00", "speakerareas 0 10", "sourceareas 0 10"));
+    plane.SetSourcePosition (0, { 3, 3, 0 }, true);
+    EXPECT_THAT (heard.Take(), ElementsAre ("sourceareas 0 00", "source 0 3.00 3.00 0.00"));
+    plane.ClearAllAreas();
+    EXPECT_THAT (heard.Take(), SizeIs (2)) << "the source once for each area";
+}
+
+TEST (PlaneSnapshots, AreStoredRecalledAndMixed)
+{
+    PlaneComponent plane (2, 0, 300);
+    plane.StoreSnapshot ("ring");
+    plane.SetSourcePosition (0, { 0, 3, 0 }, false);
+    plane.StoreSnapshot ("far");
+    PlaneRecorder heard (plane);
+    plane.RecallSnapshots ("ring", "far", 0.5f);
+    EXPECT_THAT (heard.Take(), ElementsAre ("source 0 0.00 2.00 0.00", "source 1 0.00 -1.00 0.00"));
+    plane.RecallSnapshot ("ring");
+    ExpectNear (plane.GetSourcePosition (0), { 0, 1, 0 });
+    static_cast<void> (heard.Take());
+    plane.RecallSnapshot ("no such");
+    plane.RecallSnapshots ("ring", "no such", 0.5f);
+    EXPECT_THAT (heard.Take(), IsEmpty());
+    plane.RemoveSnapshot ("ring");
+    EXPECT_EQ (plane.GetSnapshotNames(), qel::Vector<qel::String>{ "far" });
+}
+
+TEST (PlaneIcons, ARepeatedColourBuildsNoNewIcon)
+{
+    PlaneComponent plane (1, 1, 300);
+    plane.SetSourceColour (0, 1, 0, 0, 1, false);
+    const auto* red = &plane.GetScene().sources[0].Icon();
+    plane.SetSourceColour (0, 1, 0, 0, 1, false);
+    EXPECT_EQ (&plane.GetScene().sources[0].Icon(), red);
+}
+
+TEST (PlaneListeners, HearInTheOrderOfAddingAndMayLeaveDuringACall)
+{
+    struct Leaver : lumo::PlaneListener
+    {
+        explicit Leaver (PlaneComponent& p, std::string& s, char c) : plane (p), log (s), name (c) {}
+        void SourceRadiusChanged (std::size_t, float) override
+        {
+            log += name;
+            if (name == 'b')
+                plane.RemoveListener (this);
+        }
+        PlaneComponent& plane;
+        std::string& log;
+        char name;
+    };
+    PlaneComponent plane (1, 0, 300);
+    std::string log;
+    Leaver a (plane, log, 'a'), b (plane, log, 'b'), c (plane, log, 'c');
+    for (auto* listener : { &a, &b, &b, &c })
+        plane.AddListener (listener);
+    plane.AddListener (nullptr);
+    plane.SetSourceRadius (0, 2, true);
+    plane.SetSourceRadius (0, 3, true);
+    EXPECT_EQ (log, "abcac");
+}

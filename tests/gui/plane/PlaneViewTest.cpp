@@ -1,0 +1,206 @@
+#include "PlaneRecorder.h"
+#include "gui/plane/painting/Clipping.h"
+
+#include <gmock/gmock.h>
+
+using lumo::PlaneComponent;
+using lumo::Plane::ViewTransform;
+using testing::ElementsAre;
+using testing::FloatEq;
+using testing::FloatNear;
+
+namespace
+{
+
+ViewTransform ViewOf (int width, int height, float zoom = 1.0f, bool topView = true)
+{
+    ViewTransform view;
+    view.zoom = zoom;
+    view.topView = topView;
+    view.Update (width, height);
+    return view;
+}
+
+}
+
+TEST (PlaneView, ScaleFollowsTheWidthAlone)
+{
+    const auto wide = ViewOf (400, 200);
+    EXPECT_FLOAT_EQ (wide.ToScreen ({ 1, 0, 0 }).x, 400 - 200 * 0.1f - 1);
+    EXPECT_LT (wide.ToScreen ({ 0, 1, 0 }).y, 0) << "one metre up falls outside";
+}
+
+TEST (PlaneView, PixelsGoBackToTheMetresThatTheViewShows)
+{
+    for (const bool topView : { true, false })
+        for (const float zoom : { 0.3f, 1.0f, 40.0f }) {
+            auto view = ViewOf (350, 350, zoom, topView);
+            view.xOffset = 17;
+            view.yOffset = -40;
+            view.zOffset = 90;
+            const auto back = view.ToWorld (view.ToScreen ({ 0.25f, -0.5f, 0.75f }));
+            EXPECT_NEAR (back.x, 0.25f, 1e-4f);
+            EXPECT_NEAR (back.y, topView ? -0.5f : 0.0f, 1e-4f);
+            EXPECT_NEAR (back.z, topView ? 0.0f : 0.75f, 1e-4f);
+        }
+}
+
+TEST (PlaneView, OffsetsMoveRightAndUp)
+{
+    auto view = ViewOf (300, 300);
+    const auto before = view.ToScreen ({});
+    view.xOffset = 10;
+    view.yOffset = 20;
+    EXPECT_EQ (view.ToScreen ({}), before.translated (10, -20));
+}
+
+TEST (PlaneView, PixelSizesRoundToEvenAndStayBetweenTenAndAThousand)
+{
+    EXPECT_EQ (ViewOf (205, 205).PixelSize (0.1f), 20) << "20.5 rounds to even";
+    EXPECT_EQ (ViewOf (215, 215).PixelSize (0.1f), 22) << "21.5 rounds to even";
+    EXPECT_EQ (ViewOf (350, 350, 1.5f).PixelSize (0.1f), 52) << "52.5 is cut";
+    EXPECT_EQ (ViewOf (100, 100).PixelSize (0.001f), 10);
+    EXPECT_EQ (ViewOf (1600, 1600, 100).PixelSize (1), 1000);
+}
+
+TEST (PlaneView, AScaleThatWouldTurnTheSceneInsideOutIsGuarded)
+{
+    for (const int size : { 0, 1, 100, 350 }) {
+        auto view = ViewOf (size, size, 0.02f);
+        view.markerProportion = 1;
+        view.Update (size, size);
+        EXPECT_GT (view.pixelsPerMetre, 0);
+        EXPECT_GT (view.GridScale(), 0);
+        EXPECT_TRUE (qel::isFinite (view.ToWorld ({ 3, 4 })));
+    }
+}
+
+TEST (PlaneView, FarPointsStayWithinWhatARasteriserCanCount)
+{
+    const auto place = ViewOf (350, 350, 100).ToScreen ({ 3e38f, -3e38f, 0 });
+    EXPECT_TRUE (place.isFinite());
+    EXPECT_LT (place.x, 8e6f);
+}
+
+struct ZoomRow
+{
+    float wanted, stored;
+};
+
+class PlaneZoom : public testing::TestWithParam<ZoomRow>
+{};
+
+TEST_P (PlaneZoom, IsClamped)
+{
+    PlaneComponent plane (2, 2, 300);
+    plane.SetZoom (GetParam().wanted, true);
+    EXPECT_FLOAT_EQ (plane.GetSurface().viewTransform.zoom, GetParam().stored);
+}
+
+INSTANTIATE_TEST_SUITE_P (Values, PlaneZoom,
+                          testing::Values (ZoomRow{ 0.05f, 0.11f }, ZoomRow{ 2, 2 }, ZoomRow{ 1000, 100 },
+                                           ZoomRow{ -3, 0.11f }, ZoomRow{ NAN, 1 }, ZoomRow{ INFINITY, 1 }));
+
+TEST (PlaneZoomLock, BlocksEveryRoad)
+{
+    PlaneComponent plane (0, 0, 300);
+    plane.SetZoomLock (true);
+    PlaneRecorder heard (plane);
+    plane.SetZoom (3, true);
+    plane.keyPressed (juce::KeyPress ('+', 0, 0));
+    plane.AutoZoom (true);
+    EXPECT_FLOAT_EQ (plane.GetSurface().viewTransform.zoom, 1);
+    EXPECT_THAT (heard.Take(), ElementsAre());
+}
+
+TEST (PlaneView, NamesOfViewsAndGridsAreRead)
+{
+    PlaneComponent plane (0, 0, 300);
+    plane.SetViewpoint ("front");
+    EXPECT_FALSE (plane.GetSurface().viewTransform.topView);
+    plane.SetViewpoint ("side");
+    EXPECT_TRUE (plane.GetSurface().viewTransform.topView);
+
+    const struct
+    {
+        const char *written, *read;
+    } rows[] = { { "none", "none" }, { "box", "cartesian" }, { "square", "cartesian" }, { "hexagonal", "circular" } };
+    for (const auto& row : rows) {
+        plane.SetGridMode (row.written);
+        EXPECT_EQ (lumo::Plane::Grid::NameOf (plane.GetSurface().grid.mode), row.read) << row.written;
+    }
+}
+
+TEST (PlaneOptionsRecord, ReadsTheGridsOwnFlagsAndLeavesTheListenersSelection)
+{
+    PlaneComponent plane (1, 1, 300);
+    lumo::PlaneOptions options;
+    options.listenerSelected = true;
+    plane.GetOptions (options);
+    EXPECT_FALSE (options.angularDivisionsVisible) << "off in the grid, on in a fresh record";
+    EXPECT_TRUE (options.listenerSelected);
+    plane.SetFrontView (true);
+    plane.SetGridSpacing (100);
+    plane.SetGridNumLines (1000);
+    plane.SetGridNumAngularDivisions (1000);
+    plane.GetOptions (options);
+    EXPECT_NE (options.topView, options.frontView);
+    EXPECT_FLOAT_EQ (options.gridSpacing, 20);
+    EXPECT_EQ (options.gridNumLines, 100u);
+    EXPECT_EQ (options.gridNumAngularDivisions, 360u);
+}
+
+TEST (PlaneAutoZoom, BringsTheFarthestSourceJustInsideAndThenRests)
+{
+    PlaneComponent plane (3, 0, 300);
+    for (const float reach : { 0.2f, 5.0f, 40.0f }) {
+        plane.SetSourcePosition (1, { reach, 0, 0 }, false);
+        plane.AutoZoom (false);
+        plane.AutoZoom (false);
+        const auto settled = plane.GetSurface().viewTransform.zoom;
+        const auto x = plane.GetScene().sources[1].screenPosition.x;
+        if (settled > 0.12f && reach > 1) {
+            EXPECT_TRUE (x <= 300 && x > 200) << reach << " at " << x;
+        }
+        PlaneRecorder heard (plane);
+        plane.AutoZoom (false);
+        EXPECT_THAT (heard.Take(), ElementsAre()) << "nothing changes any more at " << reach;
+    }
+}
+
+TEST (PlaneAutoZoom, EndsWithoutSourcesAndWithNoneThatCanBeSeen)
+{
+    PlaneComponent empty (0, 0, 300);
+    PlaneRecorder heard (empty);
+    empty.AutoZoom (true);
+    EXPECT_THAT (heard.Take(), ElementsAre());
+
+    PlaneComponent hidden (2, 0, 300);
+    hidden.SetAllSourcesVisible (false, false);
+    hidden.SetSourcePosition (0, { 1e30f, 0, 0 }, false);
+    hidden.AutoZoom (true);
+    EXPECT_FLOAT_EQ (hidden.GetSurface().viewTransform.zoom, 0.11f) << "the first source is looked at all the same";
+}
+
+TEST (PlaneClipping, ALineKeepsThePhaseOfItsDashes)
+{
+    const auto part = lumo::Plane::VisiblePart ({ -1003.0, 50.0, 1e7, 50.0 }, { 0, 0, 100, 100 });
+    ASSERT_TRUE (part);
+    EXPECT_FLOAT_EQ (part->getStartX(), -3) << "a whole number of periods from the true start";
+    EXPECT_FLOAT_EQ (part->getEndX(), 100);
+    EXPECT_FALSE (lumo::Plane::VisiblePart ({ -10.0, 200.0, 500.0, 200.0 }, { 0, 0, 100, 100 }));
+    EXPECT_FALSE (lumo::Plane::VisiblePart ({ 5.0, 5.0, 5.0, 5.0 }, { 0, 0, 100, 100 }));
+}
+
+TEST (PlaneClipping, OnlyTheVisibleArcOfAHugeCircleIsMade)
+{
+    const juce::Rectangle<float> clip (0, 0, 300, 300);
+    const double radius = 3.0e7;
+    const auto arc = lumo::Plane::VisibleCircle ({ 150.0f - 3.0e6f, 150.0f }, 3.0e6, clip);
+    ASSERT_FALSE (arc.isEmpty());
+    EXPECT_LT (arc.getLength(), 1500);
+    EXPECT_NEAR (arc.getBounds().getCentreX(), 150, 0.1f) << "precise though the radius is huge";
+    EXPECT_TRUE (lumo::Plane::VisibleCircle ({ 150, 150 }, radius, clip).isEmpty());
+    EXPECT_TRUE (lumo::Plane::VisibleCircle ({ -1000, 150 }, 500, clip).isEmpty());
+    EXPECT_NEAR (lumo::Plane::VisibleCircle ({ 150, 150 }, 100, clip).getLength(), 628.3f, 2);
+}
