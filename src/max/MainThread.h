@@ -41,7 +41,16 @@ void mainThreadEntry (void* object, t_symbol* selector, t_clong argc, t_atom* ar
         defer_low (object, max_method (deferred), selector, deferrable (argc), argv);
 }
 
-/** The same for a message that takes no arguments. */
+/** What is registered for a handler that always does its work behind the queue. */
+template <Handler handler>
+void queuedEntry (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
+{
+    using Deferred = void (*) (void*, t_symbol*, short, t_atom*);
+    constexpr Deferred deferred = [] (void* x, t_symbol* s, short ac, t_atom* av) { handler (x, s, ac, av); };
+    runOnMainThread (object, max_method (deferred), selector, argc, argv);
+}
+
+/** The same two for a message that takes no arguments. */
 template <void (*handler) (void* object)>
 void mainThreadEntry (void* object)
 {
@@ -51,6 +60,14 @@ void mainThreadEntry (void* object)
         handler (object);
     else
         defer_low (object, max_method (deferred), nullptr, 0, nullptr);
+}
+
+template <void (*handler) (void* object)>
+void queuedEntry (void* object)
+{
+    using Deferred = void (*) (void*, t_symbol*, short, t_atom*);
+    constexpr Deferred deferred = [] (void* x, t_symbol*, short, t_atom*) { handler (x); };
+    runOnMainThread (object, max_method (deferred), nullptr, 0, nullptr);
 }
 
 }

@@ -29,6 +29,8 @@ public:
     [[nodiscard]] bool IsInvisible() const;
     /** False for one that a reset leaves alone. */
     [[nodiscard]] bool CanBeReset() const;
+    /** The attribute as the host has it; its properties are attributes of this object. */
+    [[nodiscard]] t_object* object() const noexcept { return attribute; }
     /** Neither messages nor the inspector may read or set it. */
     [[nodiscard]] bool isOpaque() const noexcept;
 

@@ -1,0 +1,158 @@
+#include "external/ControlAttributes.h"
+
+#include "external/DeferredMessages.h"
+#include "external/ReverbParameters.h"
+#include "max/Atoms.h"
+#include "max/Guarded.h"
+#include "max/MainThread.h"
+#include "max/MaxAttribute.h"
+#include "max/MaxMspJuceWindowManager.h"
+#include "max/OrvanemaxSymbols.h"
+
+#include <algorithm>
+
+namespace halcyra
+{
+namespace
+{
+
+using namespace orvanemax;
+
+// clang-format off
+constexpr ControlAttribute table[] = {
+    { integer (HALCYRA_FIELD (numsources), "6", "number of sources").within (1, 64).ordered (1).notReset(), nullptr },
+    { integer (HALCYRA_FIELD (numspeakers), "6", "number of speakers").within (1, 64).ordered (2).notReset(), nullptr },
+    { integer (HALCYRA_FIELD (numinternals), "8", "number of internal channels for FDN").within (2, 16).notReset(), nullptr },
+    { number (HALCYRA_FIELD (direct), "0 0 0 0 250 4000", "direct filter").array (6).ordered (3), "filters" },
+    { number (HALCYRA_FIELD (room), "0 0 0 0 250 4000", "room filter").array (6).ordered (4), "filters" },
+    { number (HALCYRA_FIELD (early), "0 0 0 0 250 4000", "early filter").array (6).ordered (5), "filters" },
+    { number (HALCYRA_FIELD (cluster), "0 0 0 0 250 4000", "cluster filter").array (6).ordered (6), "filters" },
+    { number (HALCYRA_FIELD (gain), "0", "late reverberation gain (dB)").within (-30, 30).ordered (20), "reverb" },
+    { number (HALCYRA_FIELD (tr0), "1.995", "decay time (s)").within (0.1, 30).ordered (21), "reverb" },
+    { number (HALCYRA_FIELD (trl), "1", "relative decay time at low freq").within (0.1, 10).ordered (22), "reverb" },
+    { number (HALCYRA_FIELD (trm), "1", "relative decay time at med freq").within (0.1, 10).ordered (23), "reverb" },
+    { number (HALCYRA_FIELD (trh), "0.5", "relative decay time at high freq").within (0.1, 1).ordered (24), "reverb" },
+    { number (HALCYRA_FIELD (fl), "250", "low/med crossover frequency").within (20, 20000), "reverb" },
+    { number (HALCYRA_FIELD (fh), "8000", "med/high crossover frequency").within (20, 20000), "reverb" },
+    { number (HALCYRA_FIELD (early_start), "22.22", "early start").within (1, 120).ordered (7), "reverb" },
+    { number (HALCYRA_FIELD (early_end), "39.71", "early end").within (0, 120).ordered (8), "reverb" },
+    { number (HALCYRA_FIELD (early_distr), "0.5", "early distr").within (0.1, 0.9).ordered (9), "reverb" },
+    { number (HALCYRA_FIELD (early_shape), "0.5", "early shape").within (0, 1).ordered (10), "reverb" },
+    { number (HALCYRA_FIELD (early_width), "30", "early width").within (10, 180).ordered (11), "reverb" },
+    { number (HALCYRA_FIELD (cluster_start), "42.47", "cluster start").atMost (300).ordered (12), "reverb" },
+    { number (HALCYRA_FIELD (cluster_end), "105.64", "cluster end").atMost (300).ordered (13), "reverb" },
+    { number (HALCYRA_FIELD (cluster_distr), "0.5", "cluster distr").within (0.1, 0.9).ordered (14), "reverb" },
+    { number (HALCYRA_FIELD (reverb_start), "95.37", "reverb start").clipped (1, 500).ordered (15), "reverb" },
+    { number (HALCYRA_FIELD (modaldensity), "0.86", "reverb modal density").within (0.2, 4).ordered (16), "reverb" },
+    { onOff (HALCYRA_FIELD (roomairabsorption), "1", "room air absorption").ordered (17), "reverb" },
+    { onOff (HALCYRA_FIELD (infinite), "0", "infinite reverb").ordered (18), "reverb" },
+    { number (HALCYRA_FIELD (roomairrolloff), "10000", "room air absorption rolloff").within (20, 20000).ordered (19), "reverb" },
+    { onOff (HALCYRA_FIELD (windowmoveable), "1", "window moveable"), "window options" },
+    { number (HALCYRA_FIELD (windowtopleft), "50 800", "window top left corner").array (2).in ("px"), "window options" },
+    { symbolic (HALCYRA_FIELD (windowtitle), "Halcyra", "window title").ordered (25).notReset(), "window options" },
+};
+// clang-format on
+
+/** A size of the object: taken at creation, then only compared. */
+struct SizeRow
+{
+    SymbolField name;
+    t_atom_long t_halcyra_control::*value;
+    bool notifies;
+    const char* complaint;
+};
+
+constexpr SizeRow sizes[] = {
+    { &Words::numsources, &Control::numsources, true, "could not dynamically change number of sources" },
+    { &Words::numspeakers, &Control::numspeakers, true, "could not dynamically change number of speakers" },
+    { &Words::numinternals, &Control::numinternals, false,
+      "could not dynamically change number of internal channels" },
+};
+
+/** The attribute's filter has clipped it; the record's room must not depend on that. */
+t_atom_long within (const SizeRow& size, t_atom_long value)
+{
+    for (const auto& attribute : table)
+        if (gensym (attribute.row.name) == symbol (size.name))
+            return std::clamp (value, static_cast<t_atom_long> (attribute.row.low),
+                               static_cast<t_atom_long> (attribute.row.high));
+    return value;
+}
+
+void setSize (t_halcyra_control* x, const SizeRow& size, t_atom_long wish)
+{
+    if (x->constructed) {
+        if (wish != x->*size.value)
+            tellError (x, size.complaint);
+        return;
+    }
+    x->*size.value = within (size, wish);
+    x->sourcespositionssize = static_cast<std::int32_t> (3 * x->numsources);
+    x->speakerspositionssize = static_cast<std::int32_t> (3 * x->numspeakers);
+    x->sourcecolorsize = 4 * x->numsources;
+    if (size.notifies)
+        object_notify (x, modified(), nullptr);
+}
+
+/** On the main thread; the name says which attribute of the window. */
+void setWindowOption (t_halcyra_control* x, t_symbol* name, short argc, t_atom* argv)
+{
+    guarded (x, [=] {
+        const Atoms atoms (argc, argv);
+        if (name == symbols().windowtitle && atoms.fit ("s")) {
+            x->windowtitle = atoms.symbol (0);
+            x->window->setTitle (x->windowtitle->s_name);
+        } else if (name == symbols().windowtopleft && atoms.areNumbers()) {
+            x->windowtopleft[0] = atoms.number (0);
+            x->windowtopleft[1] = atoms.number (1);
+            x->window->setTopLeft (x->windowtopleft);
+        } else if (name == symbols().windowmoveable && atoms.areNumbers()) {
+            x->windowmoveable = atoms.number (0) != 0 ? 1 : 0;
+            x->window->setMoveable (x->windowmoveable != 0);
+        }
+    });
+}
+
+bool isWindowOption (t_symbol* name) noexcept
+{
+    return name == symbols().windowtitle || name == symbols().windowtopleft || name == symbols().windowmoveable;
+}
+
+bool isReverbValue (t_symbol* name) noexcept
+{
+    const auto isNamed = [name] (SymbolField field) { return symbol (field) == name; };
+    return std::any_of (reverbMirrors.begin(), reverbMirrors.end(),
+                        [&] (const ReverbMirror& row) { return isNamed (row.attribute); }) ||
+           std::any_of (filterMirrors.begin(), filterMirrors.end(),
+                        [&] (const FilterMirror& row) { return isNamed (row.selector); });
+}
+
+void setAttribute (t_halcyra_control* x, t_symbol* name, t_clong argc, t_atom* argv)
+{
+    for (const auto& size : sizes)
+        if (symbol (size.name) == name)
+            return setSize (x, size, Atoms (argc, argv).integer (0));
+    if (isReverbValue (name))
+        return halcyra_control_defer_msg (x, name, argc, argv);
+    if (! isWindowOption (name))
+        return tellError (x, std::string ("unknown attribute ") + name->s_name);
+    if (systhread_ismainthread())
+        setWindowOption (x, name, deferrable (argc), argv);
+    else
+        runOnMainThread (x, max_method (setWindowOption), name, argc, argv);
+}
+
+}
+
+ControlAttributeTable controlAttributes() noexcept { return { table, std::size (table) }; }
+
+}
+
+t_max_err halcyra_control_set (t_halcyra_control* x, void* attribute, t_clong argc, t_atom* argv)
+{
+    orvanemax::guarded (x, [=] {
+        if (argc > 0 && argv != nullptr)
+            halcyra::setAttribute (x, MaxAttribute (static_cast<t_object*> (attribute)).name(), argc, argv);
+    });
+    return MAX_ERR_NONE;
+}

@@ -1,0 +1,145 @@
+#include "external/DeferredMessages.h"
+
+#include "external/FilterMessage.h"
+#include "external/ReverbParameters.h"
+#include "gui/verb/HalcyraComponent.h"
+#include "max/Atoms.h"
+#include "max/Guarded.h"
+#include "max/MainThread.h"
+
+#include <algorithm>
+
+using orvanemax::Atoms;
+using orvanemax::guarded;
+using orvanemax::invalidMessage;
+
+namespace halcyra
+{
+namespace
+{
+
+/** Handlers run on the main thread. Each gets the selector that chose it. */
+using DeferredHandler = void (*) (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv);
+
+const ReverbMirror* mirrorOf (t_symbol* selector) noexcept
+{
+    const auto row = std::find_if (reverbMirrors.begin(), reverbMirrors.end(), [=] (const ReverbMirror& mirror) {
+        return orvanemax::symbol (mirror.attribute) == selector;
+    });
+    return row == reverbMirrors.end() ? nullptr : &*row;
+}
+
+/** A symbol counts as 0; what is infinite or no number is refused. */
+bool isOneValue (Atoms atoms) noexcept
+{
+    return atoms.size() == 1 && (atom_gettype (&atoms[0]) == A_SYM || orvanemax::isNumber (atoms[0]));
+}
+
+void setNumber (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv)
+{
+    guarded (x, [=] {
+        const Atoms atoms (argc, argv);
+        const auto& mirror = *mirrorOf (selector);
+        if (! isOneValue (atoms))
+            return invalidMessage (x, mirror.complaint, atoms);
+        x->component->setReverbParameter (mirror.number, atoms.number (0));
+    });
+}
+
+void setSwitch (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv)
+{
+    guarded (x, [=] {
+        const Atoms atoms (argc, argv);
+        const auto& mirror = *mirrorOf (selector);
+        if (! atoms.fit ("l"))
+            return invalidMessage (x, mirror.complaint, atoms);
+        x->component->setReverbParameter (mirror.number, atoms.integer (0) != 0 ? 1.0f : 0.0f);
+    });
+}
+
+void setRoomSize (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
+{
+    guarded (x, [=] {
+        const Atoms atoms (argc, argv);
+        if (! isOneValue (atoms))
+            return invalidMessage (x, "invalid message : room size", atoms);
+        x->component->setRoomSize (atoms.number (0), juce::sendNotification);
+    });
+}
+
+/** A list that is no filter changes nothing and says nothing: messages were tested before, and attributes are not. */
+void setFilter (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv)
+{
+    guarded (x, [=] {
+        HalcyraFilter number = 0;
+        while (orvanemax::symbol (filterMirrors[static_cast<std::size_t> (number)].selector) != selector)
+            ++number;
+        const auto& mirror = filterMirrors[static_cast<std::size_t> (number)];
+        auto& filter = x->filters[number];
+        parseFilter (filter, Atoms (argc, argv));
+        copyFilter (filter, x->*mirror.values);
+        x->component->setFilter (number, filter, true);
+        if (mirror.tellsOfMessages)
+            object_notify (x, orvanemax::modified(), nullptr);
+    });
+}
+
+void resetAll (t_halcyra_control* x, t_symbol*, short, t_atom*)
+{
+    guarded (x, [=] { x->component->resetAll(); });
+}
+
+void sendAll (t_halcyra_control* x, t_symbol*, short, t_atom*)
+{
+    guarded (x, [=] { x->component->sendAllParameters(); });
+}
+
+struct DeferredMessage
+{
+    SymbolField selector;
+    DeferredHandler handler;
+};
+
+constexpr DeferredMessage deferredMessages[] = {
+    { &Words::tr0, setNumber },
+    { &Words::trl, setNumber },
+    { &Words::trm, setNumber },
+    { &Words::trh, setNumber },
+    { &Words::gain, setNumber },
+    { &Words::fl, setNumber },
+    { &Words::fh, setNumber },
+    { &Words::reverb_start, setNumber },
+    { &Words::modaldensity, setNumber },
+    { &Words::roomairabsorption, setSwitch },
+    { &Words::roomairrolloff, setNumber },
+    { &Words::infinite, setSwitch },
+    { &Words::early_start, setNumber },
+    { &Words::early_end, setNumber },
+    { &Words::early_distr, setNumber },
+    { &Words::early_width, setNumber },
+    { &Words::early_shape, setNumber },
+    { &Words::early, setFilter },
+    { &Words::cluster_start, setNumber },
+    { &Words::cluster_end, setNumber },
+    { &Words::cluster_distr, setNumber },
+    { &Words::cluster, setFilter },
+    { &Words::direct, setFilter },
+    { &Words::room, setFilter },
+    { &Words::reset, resetAll },
+    { &Words::bang, sendAll },
+    { &Words::roomsize, setRoomSize },
+};
+
+}
+}
+
+void halcyra_control_defer_msg (t_halcyra_control* x, t_symbol* selector, t_clong argc, const t_atom* argv)
+{
+    using halcyra::deferredMessages;
+    const auto* row = std::find_if (
+        std::begin (deferredMessages), std::end (deferredMessages),
+        [=] (const halcyra::DeferredMessage& message) { return orvanemax::symbol (message.selector) == selector; });
+    if (row == std::end (deferredMessages))
+        return object_bug (&x->object, "unknown halcyra_control_defer_msg %s", selector->s_name);
+    orvanemax::runOnMainThread (x, max_method (row->handler), selector, argc, argv);
+}

@@ -1,0 +1,121 @@
+#include "external/MaxHalcyraListener.h"
+
+#include "external/CoordinateMessages.h"
+#include "external/ReverbParameters.h"
+#include "external/ViewerOptions.h"
+#include "gui/plane/PlaneComponent.h"
+#include "gui/verb/HalcyraComponent.h"
+#include "max/Atoms.h"
+#include "max/MainThread.h"
+
+#include <array>
+
+namespace
+{
+
+using namespace halcyra;
+
+/** Nothing leaves before the object has its outlets. */
+void sendOut (t_halcyra_control* x, t_symbol* selector, t_clong count, t_atom* atoms)
+{
+    if (x->outlet != nullptr)
+        outlet_anything (static_cast<t_outlet*> (x->outlet), selector, orvanemax::deferrable (count), atoms);
+}
+
+void storePoint (const qel::Point3& point, float* triple) noexcept
+{
+    triple[0] = point.x;
+    triple[1] = point.y;
+    triple[2] = point.z;
+}
+
+/** Stores the component's value in its mirror and in the atom of the message; switches travel as longs. */
+void mirrorParameter (t_halcyra_control* x, const ReverbMirror& mirror, t_atom& atom)
+{
+    const auto value = x->component->reverbParameter (mirror.number);
+    if (mirror.flag != nullptr) {
+        x->*mirror.flag = value == 1.0f ? 1 : 0;
+        atom_setlong (&atom, x->*mirror.flag);
+    } else {
+        x->*mirror.value = value;
+        atom_setfloat (&atom, static_cast<double> (value));
+    }
+}
+
+}
+
+MaxHalcyraListener::MaxHalcyraListener (t_halcyra_control* owner) : x (owner) { x->component->addListener (this); }
+
+MaxHalcyraListener::~MaxHalcyraListener() { x->component->removeListener (this); }
+
+void MaxHalcyraListener::HalcyraSourceChanged (int sourceIndex)
+{
+    const auto position = x->component->getSourcePosition (sourceIndex);
+    storePoint (position, x->sourcespositions + 3 * sourceIndex);
+    std::array<t_atom, 2 + qel::maxCoordinateValues> atoms {};
+    atom_setlong (&atoms[0], sourceIndex + 1);
+    atom_setsym (&atoms[1], x->format);
+    auto* end = &atoms[2];
+    if (writeInFormat (x, position, end))
+        sendOut (x, orvanemax::symbols().source, static_cast<t_clong> (end - atoms.data()), atoms.data());
+    notifyModified();
+}
+
+void MaxHalcyraListener::HalcyraSpeakersChanged()
+{
+    if (x->numspeakers < 1)
+        return;
+    qel::Point3Array positions;
+    x->component->getSpeakerPositions (positions);
+    std::array<t_atom, 1 + maxPositions> atoms {};
+    atom_setsym (&atoms[0], x->format);
+    auto* end = &atoms[1];
+    bool written = true;
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        storePoint (positions[i], x->speakerspositions + 3 * i);
+        written = written && writeInFormat (x, positions[i], end);
+    }
+    if (written)
+        sendOut (x, orvanemax::symbols().speakers, static_cast<t_clong> (end - atoms.data()), atoms.data());
+    notifyModified();
+}
+
+void MaxHalcyraListener::HalcyraReverbChanged (const HalcyraReverbParameter& parameter)
+{
+    if (parameterRow (parameter) == nullptr) {
+        orvanemax::tellError (x, "HalcyraReverbChanged : unknown parameter");
+    } else {
+        const auto& words = reverbWords (parameter);
+        std::array<t_atom, 2> atoms {};
+        atom_setsym (&atoms[0], words.key);
+        mirrorParameter (x, reverbMirrors[static_cast<std::size_t> (parameter)], atoms[1]);
+        sendOut (x, words.selector, 2, atoms.data());
+    }
+    notifyModified();
+}
+
+void MaxHalcyraListener::HalcyraFilterChanged (const HalcyraFilter& filter)
+{
+    if (filter >= 0 && filter < static_cast<HalcyraFilter> (filterMirrors.size())) {
+        const auto& mirror = filterMirrors[static_cast<std::size_t> (filter)];
+        x->filters[filter] = x->component->getFilter (filter);
+        auto& values = x->*mirror.values;
+        std::array<t_atom, 6> atoms {};
+        for (std::size_t i = 0; i < atoms.size(); ++i) {
+            values[i] = x->filters[filter].*shelfTable[i].value;
+            atom_setfloat (&atoms[i], static_cast<double> (values[i]));
+        }
+        sendOut (x, orvanemax::symbol (mirror.selector), 6, atoms.data());
+    }
+    notifyModified();
+}
+
+void MaxHalcyraListener::HalcyraViewerOptionsChanged()
+{
+    mirrorViewerOptions (x);
+    notifyModified();
+}
+
+void MaxHalcyraListener::HalcyraCloseRequested() { object_method (x, orvanemax::symbols().wclose); }
+
+void MaxHalcyraListener::notifyModified() { object_notify (x, orvanemax::modified(), nullptr); }

@@ -1,0 +1,210 @@
+#include "external/SceneUpdates.h"
+
+#include "external/SceneWorkers.h"
+#include "geometry/OrvaneDspLayouts.h"
+#include "gui/plane/PlaneComponent.h"
+#include "max/Guarded.h"
+#include "max/MainThread.h"
+
+#include <algorithm>
+#include <array>
+
+namespace halcyra::scene
+{
+namespace
+{
+
+/** The atoms of one change: index or nothing, values, and last the notification flag. */
+class Packet
+{
+public:
+    Packet& add (t_atom_long value)
+    {
+        atom_setlong (&atoms[count++], value);
+        return *this;
+    }
+    Packet& add (float value)
+    {
+        atom_setfloat (&atoms[count++], static_cast<double> (value));
+        return *this;
+    }
+    Packet& add (t_symbol* value)
+    {
+        atom_setsym (&atoms[count++], value);
+        return *this;
+    }
+    Packet& add (const qel::Point3& p) { return add (p.x).add (p.y).add (p.z); }
+    Packet& add (const float (&rgba)[4]) { return add (rgba[0]).add (rgba[1]).add (rgba[2]).add (rgba[3]); }
+
+    /** The one rule of all scene updates. */
+    void send (t_halcyra_control* x, workers::Worker worker, bool notify)
+    {
+        add (static_cast<t_atom_long> (notify));
+        const auto size = static_cast<short> (count);
+        if (x->display == 1 && x->defer == 1) {
+            orvanemax::runOnMainThread (x, max_method (worker), nullptr, size, atoms.data());
+            return;
+        }
+        worker (x, nullptr, size, atoms.data());
+        if (x->viewerqelem != nullptr)
+            qelem_set (x->viewerqelem);
+    }
+
+private:
+    std::array<t_atom, maxPositions + 1> atoms; // filled as far as count says
+    std::size_t count = 0;
+};
+
+}
+
+void setSourcePosition (t_halcyra_control* x, t_atom_long source, const qel::Point3& position, bool notify)
+{
+    auto* mirror = x->sourcespositions + 3 * source;
+    mirror[0] = position.x; // so that the next relative move starts from here, deferred or not
+    mirror[1] = position.y;
+    mirror[2] = position.z;
+    Packet().add (source).add (position).send (x, workers::sourcePosition, notify);
+}
+
+void setSourceColour (t_halcyra_control* x, t_atom_long source, const float (&rgba)[4], bool notify)
+{
+    Packet().add (source).add (rgba).send (x, workers::sourceColour, notify);
+}
+
+void setSourceName (t_halcyra_control* x, t_atom_long source, t_symbol* name, bool notify)
+{
+    Packet().add (source).add (name).send (x, workers::sourceName, notify);
+}
+
+void setSourceOrientationMode (t_halcyra_control* x, t_atom_long source, t_symbol* mode, bool notify)
+{
+    Packet().add (source).add (mode).send (x, workers::sourceOrientationMode, notify);
+}
+
+void setSourceAperture (t_halcyra_control* x, t_atom_long source, float degrees, bool notify)
+{
+    Packet().add (source).add (degrees).send (x, workers::sourceAperture, notify);
+}
+
+void setSourceYaw (t_halcyra_control* x, t_atom_long source, float degrees, bool notify)
+{
+    Packet().add (source).add (degrees).send (x, workers::sourceYaw, notify);
+}
+
+void setSourceRadius (t_halcyra_control* x, t_atom_long source, float metres, bool notify)
+{
+    Packet().add (source).add (metres).send (x, workers::sourceRadius, notify);
+}
+
+void setSourceVisible (t_halcyra_control* x, t_atom_long source, bool visible, bool notify)
+{
+    Packet().add (source).add (static_cast<t_atom_long> (visible)).send (x, workers::sourceVisible, notify);
+}
+
+void setSourceLookAt (t_halcyra_control* x, t_atom_long source, const qel::Point3& target, bool notify)
+{
+    Packet().add (source).add (target).send (x, workers::sourceLookAt, notify);
+}
+
+void setSpeakerName (t_halcyra_control* x, t_atom_long speaker, t_symbol* name, bool notify)
+{
+    Packet().add (speaker).add (name).send (x, workers::speakerName, notify);
+}
+
+void setSpeakerColour (t_halcyra_control* x, t_atom_long speaker, const float (&rgba)[4], bool notify)
+{
+    Packet().add (speaker).add (rgba).send (x, workers::speakerColour, notify);
+}
+
+void setSpeakerVisible (t_halcyra_control* x, t_atom_long speaker, bool visible, bool notify)
+{
+    Packet().add (speaker).add (static_cast<t_atom_long> (visible)).send (x, workers::speakerVisible, notify);
+}
+
+void sendSpeakers (t_halcyra_control* x, bool notify)
+{
+    Packet packet;
+    for (t_atom_long i = 0; i < 3 * x->numspeakers; ++i)
+        packet.add (x->speakerspositions[i]);
+    packet.send (x, workers::speakersPositions, notify);
+}
+
+void sendListenerPosition (t_halcyra_control* x, bool notify)
+{
+    const auto& p = x->listenerposition;
+    Packet().add (qel::Point3 { p[0], p[1], p[2] }).send (x, workers::listenerPosition, notify);
+}
+
+void sendListenerYaw (t_halcyra_control* x, bool notify)
+{
+    Packet().add (x->listeneryaw).send (x, workers::listenerYaw, notify);
+}
+
+void sendListenerPitch (t_halcyra_control* x, bool notify)
+{
+    Packet().add (x->listenerpitch).send (x, workers::listenerPitch, notify);
+}
+
+void sendListenerRoll (t_halcyra_control* x, bool notify)
+{
+    Packet().add (x->listenerroll).send (x, workers::listenerRoll, notify);
+}
+
+void sendListenerOrientation (t_halcyra_control* x, bool notify)
+{
+    Packet()
+        .add (x->listeneryaw)
+        .add (x->listenerpitch)
+        .add (x->listenerroll)
+        .send (x, workers::listenerOrientation, notify);
+}
+
+void initialise (t_halcyra_control* x, t_symbol*, short, t_atom*)
+{
+    orvanemax::guarded (x, [x] {
+        constexpr float colour[4] = { 0.49019608f, 1, 0, 1 };
+        constexpr float silence = -60; // dB
+        for (t_atom_long i = 0; i < x->numsources; ++i)
+            setSourceColour (x, i, colour, true);
+        const auto ring = qel::ringLayout (static_cast<std::size_t> (x->numsources));
+        for (t_atom_long i = 0; i < x->numsources; ++i)
+            setSourcePosition (x, i, ring[static_cast<std::size_t> (i)], true);
+        storeSpeakersInMirror (x, qel::defaultSpeakerLayout (static_cast<std::size_t> (x->numspeakers)));
+        sendSpeakers (x, true);
+        for (t_atom_long i = 0; i < x->numsources; ++i)
+            setSourceName (x, i, gensym (std::to_string (i + 1).c_str()), true);
+        for (t_atom_long i = 0; i < x->numsources; ++i)
+            x->plane->SetSourceLevel (static_cast<std::size_t> (i), silence);
+        for (t_atom_long i = 0; i < x->numspeakers; ++i)
+            x->plane->SetSpeakerLevel (static_cast<std::size_t> (i), silence);
+    });
+}
+
+qel::Point3 sourceInMirror (const t_halcyra_control* x, t_atom_long source) noexcept
+{
+    const auto* p = x->sourcespositions + 3 * source;
+    return { p[0], p[1], p[2] };
+}
+
+qel::Point3Array speakersInMirror (const t_halcyra_control* x)
+{
+    qel::Point3Array positions (static_cast<std::size_t> (x->numspeakers));
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        const auto* p = x->speakerspositions + 3 * i;
+        positions[i] = { p[0], p[1], p[2] };
+    }
+    return positions;
+}
+
+void storeSpeakersInMirror (t_halcyra_control* x, const qel::Point3Array& positions) noexcept
+{
+    const auto count = std::min (positions.size(), static_cast<std::size_t> (x->numspeakers));
+    for (std::size_t i = 0; i < count; ++i) {
+        auto* p = x->speakerspositions + 3 * i;
+        p[0] = positions[i].x;
+        p[1] = positions[i].y;
+        p[2] = positions[i].z;
+    }
+}
+
+}

@@ -1,0 +1,243 @@
+#include "external/ViewerAttributes.h"
+
+#include "external/SceneUpdates.h"
+#include "external/ViewerSetters.h"
+#include "geometry/OrvaneDspCoordinates.h"
+#include "geometry/OrvaneDspSpherical.h"
+#include "max/Guarded.h"
+#include "max/MainThread.h"
+#include "max/MaxAttribute.h"
+#include "max/OrvanemaxSymbols.h"
+
+#include <unordered_map>
+
+namespace halcyra
+{
+namespace
+{
+
+namespace rows = orvanemax;
+using Plane = lumo::PlaneComponent;
+using namespace setters;
+
+// Where the plane's operation takes more than the value, or has several forms.
+void setZoom (Plane& plane, float zoom) { plane.SetZoom (zoom, true); }
+void setBackgroundAngle (Plane& plane, float degrees)
+{
+    plane.SetBackgroundImageAngle (degrees * qel::radiansPerDegree);
+}
+void setBackgroundQuality (Plane& plane, const qel::String& name) { plane.SetBackgroundImageQuality (name); }
+void setGridMode (Plane& plane, const qel::String& name) { plane.SetGridMode (name); }
+void setSourcesVisible (Plane& plane, bool on) { plane.SetAllSourcesVisible (on, false); }
+void setSourcesEditable (Plane& plane, bool on) { plane.SetSourcesEditable (on, true); }
+void setSpeakersEditable (Plane& plane, bool on) { plane.SetSpeakersEditable (on, true); }
+void setBackgroundColour (Plane& plane, float r, float g, float b, float a) { plane.SetBackgroundColour (r, g, b, a); }
+void setGridColour (Plane& plane, float r, float g, float b, float a) { plane.SetGridColour (r, g, b, a, true); }
+void setApertureColour (Plane& plane, float r, float g, float b, float a)
+{
+    const auto shade = juce::Colour::fromFloatRGBA (r, g, b, a);
+    for (std::size_t i = 0; i < plane.GetNumSources(); ++i)
+        plane.SetSourceApertureColour (i, shade);
+}
+
+// clang-format off
+constexpr ViewerAttribute table[] = {
+    { rows::onOff (HALCYRA_FIELD (showfps), "0", "show fps (for debug)"), frameOption },
+    { rows::onOff (HALCYRA_FIELD (useopengl), "0", "use openGL rendering"), frameOption },
+    { rows::symbolic (HALCYRA_FIELD (format), "aed", "output coordinate format").among ("aed xyz xy ae ade az ad ambrel3 wfs"), format },
+    { rows::number (HALCYRA_FIELD (sourcespositions), nullptr, "sources positions").list (maxPositions, calcoffset (t_halcyra_control, sourcespositionssize)).in ("xyz"), sourcesPositions },
+    { rows::number (HALCYRA_FIELD (speakerspositions), nullptr, "speakers positions").list (maxPositions, calcoffset (t_halcyra_control, speakerspositionssize)).in ("xyz"), speakersPositions },
+    { rows::number (HALCYRA_FIELD (listenerposition), "0. 0. 0.", "listener position").array (3).in ("xyz"), listenerPosition },
+    { rows::number (HALCYRA_FIELD (zoom), "1", "zoom").atLeast (0.1), number<setZoom> },
+    { rows::number (HALCYRA_FIELD (sourceproportion), "0.07", "source proportion").within (0.001, 1), number<&Plane::SetAllSourcesProportion> },
+    { rows::number (HALCYRA_FIELD (speakersproportion), "0.1", "speakers proportion").within (0.001, 1), number<&Plane::SetAllSpeakersProportion> },
+    { rows::number (HALCYRA_FIELD (listenerproportion), "0.15", "listener proportion").within (0.001, 1), number<&Plane::SetListenerProportion> },
+    { rows::number (HALCYRA_FIELD (globalproportion), "0.1", "global proportion").within (0.1, 0.2), number<&Plane::SetMarkerProportion> },
+    { rows::symbolic (HALCYRA_FIELD (viewpoint), "top", "view").among ("top front"), word<&Plane::SetViewpoint> },
+    { rows::symbolic (HALCYRA_FIELD (backgroundimage), "none", "background image").styled ("file").described ("sets background image filename (supported formats are png and jpg)"), backgroundImage },
+    { rows::number (HALCYRA_FIELD (backgroundimagescale), "1", "background image scale").within (0.1, 50), number<&Plane::SetBackgroundImageScale> },
+    { rows::number (HALCYRA_FIELD (backgroundimagexoffset), "0", "background x offset").in ("px"), number<&Plane::SetBackgroundImageXOffset> },
+    { rows::number (HALCYRA_FIELD (backgroundimageyoffset), "0", "background y offset").in ("px"), number<&Plane::SetBackgroundImageYOffset> },
+    { rows::number (HALCYRA_FIELD (backgroundimageangle), "0", "background angle").in ("deg"), number<setBackgroundAngle> },
+    { rows::number (HALCYRA_FIELD (backgroundimageopacity), "1", "background opacity").within (0, 1), number<&Plane::SetBackgroundImageOpacity> },
+    { rows::symbolic (HALCYRA_FIELD (backgroundimagequality), "medium", "background resampling quality").among ("low medium high"), word<setBackgroundQuality> },
+    { rows::onOff (HALCYRA_FIELD (autozoom), "0", "adjust zoom automatically"), onOff<&Plane::RequestAutoZoom> },
+    { rows::onOff (HALCYRA_FIELD (showsources), "1", "display all sources"), onOff<setSourcesVisible> },
+    { rows::onOff (HALCYRA_FIELD (showlistener), "1", "display listener"), onOff<&Plane::SetListenerVisible> },
+    { rows::onOff (HALCYRA_FIELD (showsourceslabel), "1", "display sources name"), onOff<&Plane::SetAllSourceLabelsVisible> },
+    { rows::onOff (HALCYRA_FIELD (showradius), "0", "display sources radius"), onOff<&Plane::SetRadiusVisible> },
+    { rows::onOff (HALCYRA_FIELD (showspeakers), "1", "display all speakers"), onOff<&Plane::SetSpeakersVisible> },
+    { rows::onOff (HALCYRA_FIELD (showspeakerslabel), "1", "display speakers name"), onOff<&Plane::SetAllSpeakerNamesVisible> },
+    { rows::onOff (HALCYRA_FIELD (showspeakersradius), "0", "display speakers radius"), onOff<&Plane::SetSpeakersRadiusVisible> },
+    { rows::onOff (HALCYRA_FIELD (showspeakersprojection), "0", "display speakers projection on the sphere"), onOff<&Plane::SetSpeakersProjectionVisible> },
+    { rows::onOff (HALCYRA_FIELD (showareas), "0", "display areas"), onOff<&Plane::SetAreasVisible> },
+    { rows::onOff (HALCYRA_FIELD (showanchors), "0", "display anchors"), onOff<&Plane::SetAnchorsVisible> },
+    { rows::onOff (HALCYRA_FIELD (showanchorslabel), "0", "display anchors label"), onOff<&Plane::SetAnchorsLabelVisible> },
+    { rows::onOff (HALCYRA_FIELD (areasmonitoring), "0", "monitor areas"), onOff<&Plane::SetAreasMonitoring> },
+    { rows::onOff (HALCYRA_FIELD (showheadphones), "0", "display headphones"), onOff<&Plane::SetHeadphonesVisible> },
+    { rows::onOff (HALCYRA_FIELD (showspeakerstriangulation), "0", "display speakers triangulation"), onOff<&Plane::SetTriangulationVisible> },
+    { rows::onOff (HALCYRA_FIELD (showaperture), "1", "display sources aperture"), onOff<&Plane::SetApertureVisible> },
+    { rows::onOff (HALCYRA_FIELD (showbackgroundimage), "1", "display background image"), onOff<&Plane::SetBackgroundImageVisible> },
+    { rows::onOff (HALCYRA_FIELD (showshoebox), "0", "display shoebox"), onOff<&Plane::SetShoeboxVisible> },
+    { rows::onOff (HALCYRA_FIELD (showspeakershull), "0", "display speakers convex hull").described ("enables/disables speakers convex hull display (may be CPU intensive)"), onOff<&Plane::SetHullVisible> },
+    { rows::onOff (HALCYRA_FIELD (circularconstraint), "0", "circular constraint"), onOff<&Plane::SetCircularConstraint> },
+    { rows::onOff (HALCYRA_FIELD (radiusconstraint), "0", "radius constraint"), onOff<&Plane::SetRadiusConstraint> },
+    { rows::onOff (HALCYRA_FIELD (sourceseditable), "1", "sources editable"), onOff<setSourcesEditable> },
+    { rows::onOff (HALCYRA_FIELD (speakerseditable), "0", "speakers editable"), onOff<setSpeakersEditable> },
+    { rows::onOff (HALCYRA_FIELD (listenereditable), "0", "listener editable"), onOff<&Plane::SetListenerEditable> },
+    { rows::onOff (HALCYRA_FIELD (showangulardivisions), "1", "display angular divisions"), onOff<&Plane::SetAngularDivisionsVisible> },
+    { rows::symbolic (HALCYRA_FIELD (gridmode), "circular", "grid").among ("none circular square"), word<setGridMode> },
+    { rows::integer (HALCYRA_FIELD (numangulardivisions), "8", "number of angular divisions").within (0, 360), count<&Plane::SetGridNumAngularDivisions> },
+    { rows::integer (HALCYRA_FIELD (numareas), "0", "number of areas").within (0, 50), count<&Plane::SetNumAreas> },
+    { rows::integer (HALCYRA_FIELD (numanchors), "0", "number of anchors").within (0, 8192), count<&Plane::SetNumAnchors> },
+    { rows::integer (HALCYRA_FIELD (dashedgrid), "0", "use dashed grid").within (0, 1), onOff<&Plane::SetGridDashed> },
+    { rows::integer (HALCYRA_FIELD (gridlines), "5", "number of grid lines").within (0, 100), count<&Plane::SetGridNumLines> },
+    { rows::number (HALCYRA_FIELD (gridspacing), "1", "grid spacing").within (0.1, 20), number<&Plane::SetGridSpacing> },
+    { rows::number (HALCYRA_FIELD (listeneryaw), "0", "listener yaw").in ("deg"), listenerAngle },
+    { rows::number (HALCYRA_FIELD (listenerpitch), "0", "listener pitch").in ("deg"), listenerAngle },
+    { rows::number (HALCYRA_FIELD (listenerroll), "0", "listener roll").in ("deg"), listenerAngle },
+    { rows::symbolic (HALCYRA_FIELD (name), nullptr, "source name").list (maxSources, calcoffset (t_halcyra_control, numsources)), wordPerSource<scene::setSourceName> },
+    { rows::number (HALCYRA_FIELD (sourcecolor), nullptr, "source color").list (maxColours, calcoffset (t_halcyra_control, sourcecolorsize)), sourceColour, true },
+    { rows::number (HALCYRA_FIELD (yaw), "0", "source yaw").within (-180, 180).list (maxSources, calcoffset (t_halcyra_control, numsources)).in ("deg"), perSource<scene::setSourceYaw>, true },
+    { rows::number (HALCYRA_FIELD (aperture), "80", "sources aperture").within (10, 180).list (maxSources, calcoffset (t_halcyra_control, numsources)).in ("deg"), perSource<scene::setSourceAperture>, true },
+    { rows::number (HALCYRA_FIELD (radius), "1", "sources radius").within (0.2, 30).list (maxSources, calcoffset (t_halcyra_control, numsources)).in ("m").notReset(), perSource<scene::setSourceRadius>, true },
+    { rows::number (HALCYRA_FIELD (speakerslevels), "-60", "speakers level").within (-60, 6).list (maxSources, calcoffset (t_halcyra_control, numspeakers)).in ("dB"), speakersLevels, true },
+    { rows::number (HALCYRA_FIELD (sourceslevels), "-60", "sources level").within (-60, 6).list (maxSources, calcoffset (t_halcyra_control, numsources)).in ("dB"), sourcesLevels, true },
+    { rows::number64 (HALCYRA_FIELD (backgroundcolor), "0.7 0.7 0.7 1.0", "color of backgroundcolor").styled ("rgba").array (4), colour<setBackgroundColour> },
+    { rows::symbolic (HALCYRA_FIELD (orientationmode), "yawconstraint", "orientation mode").list (maxSources, calcoffset (t_halcyra_control, numsources)), wordPerSource<scene::setSourceOrientationMode> },
+    { rows::number (HALCYRA_FIELD (shoeboxcorners), "0. 0. 0. 1. -1. 0.", "shoebox top left and bottom right corners").array (6), shoeboxCorners },
+    { rows::number64 (HALCYRA_FIELD (gridcolor), "1 1 1 1", "grid color").styled ("rgba").array (4), colour<setGridColour> },
+    { rows::number64 (HALCYRA_FIELD (aperturecolor), "1 1 1 0.6196078", "aperture color").styled ("rgba").array (4), colour<setApertureColour> },
+    { rows::onOff (HALCYRA_FIELD (showviewer), "1", "show viewer").described ("enables/disables viewer display (could be CPU intensive)"), showViewer },
+    { rows::onOff (HALCYRA_FIELD (showlegend), "1", "show legend"), onOff<&Plane::SetLegendVisible> },
+    { rows::onOff (HALCYRA_FIELD (showspeakerslevels), "0", "show speakers vu-meters"), onOff<&Plane::SetSpeakersLevelsVisible> },
+    { rows::onOff (HALCYRA_FIELD (showsourceslevels), "0", "show sources vu-meters"), onOff<&Plane::SetSourcesLevelsVisible> },
+    { rows::onOff (HALCYRA_FIELD (zoomlock), "0", "lock zoom"), zoomLock },
+    { rows::onOff (HALCYRA_FIELD (rightclicklock), "0", "lock right click"), onOff<&Plane::SetRightClickLock> },
+    { rows::onOff (HALCYRA_FIELD (display), "1", "display"), keep },
+    { rows::onOff (HALCYRA_FIELD (defer), "0", "defer").described ("defer or queue messages"), keep },
+    { rows::number (HALCYRA_FIELD (xoffset), "0", "x offset").in ("px"), number<&Plane::SetXOffset> },
+    { rows::number (HALCYRA_FIELD (yoffset), "0", "y offset").in ("px"), number<&Plane::SetYOffset> },
+    { rows::number (HALCYRA_FIELD (zoffset), "0", "z offset").in ("px"), number<&Plane::SetZOffset> },
+};
+// clang-format on
+
+const ViewerAttribute* attributeNamed (t_symbol* name)
+{
+    static const auto byName = [] {
+        std::unordered_map<t_symbol*, const ViewerAttribute*> found;
+        for (const auto& attribute : table)
+            found[gensym (attribute.row.name)] = &attribute;
+        return found;
+    }();
+    const auto entry = byName.find (name);
+    return entry == byName.end() ? nullptr : entry->second;
+}
+
+/** On the main thread; the name says which attribute. */
+void setByName (t_halcyra_control* x, t_symbol* name, short argc, t_atom* argv)
+{
+    orvanemax::guarded (x, [=] {
+        const auto* attribute = attributeNamed (name);
+        if (attribute == nullptr)
+            return orvanemax::tellError (x, std::string ("unknown attribute ") + name->s_name);
+        if (attribute->set (x, attribute->row, orvanemax::Atoms (argc, argv)))
+            object_notify (x, orvanemax::modified(), nullptr);
+    });
+}
+
+void fillAtoms (t_atom* atoms, t_clong count, double value)
+{
+    for (t_clong i = 0; atoms != nullptr && i < count; ++i)
+        atom_setfloat (&atoms[i], value);
+}
+
+using Control = t_halcyra_control;
+
+/** The atoms and the number of them that an attribute holds; null for any other attribute. */
+const t_atom* perSourceAtoms (t_halcyra_control* x, t_symbol* name, t_atom_long& count)
+{
+    struct Levels
+    {
+        const char* name;
+        t_atom* t_halcyra_control::*atoms;
+        t_atom_long t_halcyra_control::*count;
+    };
+    constexpr Levels arrays[] = {
+        { "radius", &Control::radius, &Control::numsources },
+        { "yaw", &Control::yaw, &Control::numsources },
+        { "aperture", &Control::aperture, &Control::numsources },
+        { "sourcecolor", &Control::sourcecolor, &Control::sourcecolorsize },
+        { "speakerslevels", &Control::speakerslevels, &Control::numspeakers },
+        { "sourceslevels", &Control::sourceslevels, &Control::numsources },
+    };
+    for (const auto& array : arrays)
+        if (std::string_view (name->s_name) == array.name) {
+            count = x->*array.count;
+            return x->*array.atoms;
+        }
+    return nullptr;
+}
+
+}
+
+ViewerAttributeTable viewerAttributes() noexcept { return { table, std::size (table) }; }
+
+void fillViewerDefaults (t_halcyra_control* x)
+{
+    const auto& words = orvanemax::symbols();
+    for (auto** field : { &x->classdescription, &x->classdigest, &x->externalversion, &x->classseealso })
+        *field = words.empty;
+    x->backgroundimage = words.none;
+    x->backgroundimagequality = gensym ("medium");
+    x->gridmode = gensym ("circular");
+    x->viewpoint = words.top;
+    x->format = words.aed;
+    x->windowtitle = gensym ("Halcyra");
+    x->outputformat = static_cast<std::int32_t> (qel::defaultCoordinateType);
+    x->outputcount = static_cast<std::int32_t> (qel::coordinateCount (qel::defaultCoordinateType));
+    std::fill (std::begin (x->name), std::end (x->name), words.empty);
+    std::fill (std::begin (x->orientationmode), std::end (x->orientationmode), gensym ("yawconstraint"));
+    fillAtoms (x->radius, maxSources, 1);
+    fillAtoms (x->yaw, maxSources, 0);
+    fillAtoms (x->aperture, maxSources, 80);
+    fillAtoms (x->speakerslevels, maxSources, -60);
+    fillAtoms (x->sourceslevels, maxSources, -60);
+    constexpr double colour[4] = { static_cast<double> (0.49019608f), 1, 0, 1 };
+    for (t_clong i = 0; x->sourcecolor != nullptr && i < maxColours; ++i)
+        atom_setfloat (&x->sourcecolor[i], colour[i % 4]);
+}
+
+}
+
+t_max_err halcyra_control_viewer_set (t_halcyra_control* x, void* attribute, t_clong argc, t_atom* argv)
+{
+    auto* name = MaxAttribute (static_cast<t_object*> (attribute)).name();
+    if (systhread_ismainthread())
+        halcyra::setByName (x, name, orvanemax::deferrable (argc), argv);
+    else
+        orvanemax::runOnMainThread (x, max_method (halcyra::setByName), name, argc, argv);
+    return MAX_ERR_NONE;
+}
+
+t_max_err halcyra_control_per_source_get (t_halcyra_control* x, void* attribute, t_clong* argc, t_atom** argv)
+{
+    auto* name = MaxAttribute (static_cast<t_object*> (attribute)).name();
+    t_atom_long count = 0;
+    const auto* atoms = halcyra::perSourceAtoms (x, name, count);
+    if (atoms == nullptr) {
+        object_error (&x->object, "unknown attribute %s", name->s_name);
+        return MAX_ERR_GENERIC;
+    }
+    if (count < 1)
+        return MAX_ERR_NONE;
+    char allocated = 0;
+    if (atom_alloc_array (static_cast<t_clong> (count), argc, argv, &allocated) != MAX_ERR_NONE) {
+        object_bug (&x->object, "couldnt allocate memory for attribute %s getter", name->s_name);
+        return MAX_ERR_OUT_OF_MEM;
+    }
+    // Memory of the caller's may be smaller.
+    *argc = std::min (*argc, static_cast<t_clong> (count));
+    sysmem_copyptr (atoms, *argv, static_cast<t_ptr_size> (*argc) * sizeof (t_atom));
+    return MAX_ERR_NONE;
+}

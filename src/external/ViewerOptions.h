@@ -1,0 +1,10 @@
+#pragma once
+#include "external/HalcyraControl.h"
+
+namespace halcyra
+{
+
+/** Copies the plane's options into the attributes' mirrors. Main thread. */
+void mirrorViewerOptions (t_halcyra_control* x);
+
+}

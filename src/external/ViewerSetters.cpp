@@ -1,0 +1,207 @@
+#include "external/ViewerSetters.h"
+
+#include "external/CoordinateMessages.h"
+#include "external/SceneUpdates.h"
+#include "gui/verb/HalcyraComponent.h"
+#include "max/FileDialogs.h"
+#include "max/OrvanemaxSymbols.h"
+
+#include <cctype>
+
+namespace halcyra::setters
+{
+namespace
+{
+
+using orvanemax::symbols;
+
+/** Copies as many numbers as there are, at most room for all. */
+void copyNumbers (Atoms atoms, float* target, t_clong room)
+{
+    atom_getfloat_array (static_cast<t_clong> (atoms.size()), const_cast<t_atom*> (atoms.begin()), room, target);
+}
+
+/** Stores one level each and gives them to the plane; false for a list that is too short or holds no numbers. The
+    vector keeps its storage from call to call, since meters run all the time. */
+bool storeLevels (Atoms atoms, t_atom* mirror, t_atom_long number, qel::Vector<float>& levels)
+{
+    const auto count = static_cast<std::size_t> (number);
+    if (atoms.size() < count)
+        return false;
+    levels.resize (count);
+    for (std::size_t i = 0; i < count; ++i) {
+        if (! orvanemax::isNumber (atoms[i]))
+            return false;
+        levels[i] = atoms.number (i);
+    }
+    for (std::size_t i = 0; i < count && mirror != nullptr; ++i)
+        atom_setfloat (&mirror[i], static_cast<double> (levels[i]));
+    return true;
+}
+
+/** "/..." or "X:/..." or "X:\..." */
+bool isFullPath (const std::string& name)
+{
+    const bool hasDrive = name.size() > 2 && std::isalpha (static_cast<unsigned char> (name[0])) != 0 && name[1] == ':';
+    return (! name.empty() && name[0] == '/') || (hasDrive && (name[2] == '/' || name[2] == '\\'));
+}
+
+/** Where an image lies; empty if it is nowhere. */
+qel::File locateImage (const char* name)
+{
+    if (! isFullPath (name))
+        return qel::File (orvanemax::locateFile (name));
+    const qel::File file (name);
+    return file.exists() ? file : qel::File();
+}
+
+}
+
+bool keep (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    if (atoms.fit ("l"))
+        field<t_atom_long> (x, row) = atoms.integer (0) != 0 ? 1 : 0;
+    return true;
+}
+
+bool showViewer (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    return atoms.fit ("l") &&
+           onOff<&lumo::PlaneComponent::SetViewerVisible> (x, row, atoms);
+}
+
+bool zoomLock (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    return atoms.fit ("l") &&
+           onOff<&lumo::PlaneComponent::SetZoomLock> (x, row, atoms);
+}
+
+bool frameOption (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    if (atoms.empty())
+        return false;
+    const bool on = atoms.number (0) != 0;
+    field<std::int32_t> (x, row) = on ? 1 : 0;
+    if (&field<std::int32_t> (x, row) == &x->showfps)
+        x->component->SetShowFps (on);
+    else
+        x->component->SetOpenGLEnabled (on);
+    return true;
+}
+
+bool format (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
+{
+    if (atoms.fit ("s"))
+        setOutputFormat (x, atoms.symbol (0));
+    return true;
+}
+
+bool sourcesPositions (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
+{
+    if (atoms.empty() || ! atoms.areNumbers())
+        return true;
+    copyNumbers (atoms, x->sourcespositions, x->sourcespositionssize);
+    for (t_atom_long i = 0; i < x->numsources; ++i)
+        scene::setSourcePosition (x, i, scene::sourceInMirror (x, i), true);
+    return true;
+}
+
+bool speakersPositions (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
+{
+    if (atoms.empty() || ! atoms.areNumbers())
+        return true;
+    copyNumbers (atoms, x->speakerspositions, x->speakerspositionssize);
+    scene::sendSpeakers (x, true);
+    return true;
+}
+
+bool listenerPosition (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
+{
+    if (atoms.fit ("nnn")) {
+        copyNumbers (atoms, x->listenerposition, 3);
+        scene::sendListenerPosition (x, true);
+    }
+    return true;
+}
+
+bool listenerAngle (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    if (! atoms.fit ("n"))
+        return true;
+    auto& angle = field<float> (x, row);
+    angle = atoms.number (0);
+    if (&angle == &x->listeneryaw)
+        scene::sendListenerYaw (x, true);
+    else if (&angle == &x->listenerpitch)
+        scene::sendListenerPitch (x, true);
+    else
+        scene::sendListenerRoll (x, true);
+    return true;
+}
+
+bool sourceColour (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
+{
+    if (atoms.size() < static_cast<std::size_t> (4 * x->numsources))
+        return true;
+    for (t_atom_long i = 0; i < x->numsources; ++i) {
+        const auto values = atoms.from (static_cast<std::size_t> (4 * i));
+        if (values.fit ("nnnn"))
+            scene::setSourceColour (x, i, { values.number (0), values.number (1), values.number (2), values.number (3) },
+                                    true);
+    }
+    return true;
+}
+
+bool sourcesLevels (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
+{
+    static qel::Vector<float> levels;
+    if (! storeLevels (atoms, x->sourceslevels, x->numsources, levels))
+        return true;
+    x->plane->SetSourcesLevels (levels);
+    if (x->showsourceslevels != 0 && x->viewerqelem != nullptr)
+        qelem_set (x->viewerqelem);
+    return true;
+}
+
+bool speakersLevels (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
+{
+    static qel::Vector<float> levels;
+    if (! storeLevels (atoms, x->speakerslevels, x->numspeakers, levels))
+        return true;
+    x->plane->SetSpeakersLevels (levels);
+    if (x->showspeakerslevels != 0)
+        x->plane->repaint();
+    return true;
+}
+
+bool shoeboxCorners (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
+{
+    if (atoms.fit ("nnnnnn")) {
+        auto& c = x->shoeboxcorners;
+        copyNumbers (atoms, c, 6);
+        x->plane->SetShoebox ({ c[0], c[1], c[2] }, { c[3], c[4], c[5] });
+    }
+    return true;
+}
+
+bool backgroundImage (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
+{
+    if (! atoms.fit ("s"))
+        return true;
+    auto* name = atoms.symbol (0) == symbols().empty ? symbols().none : atoms.symbol (0);
+    if (name == symbols().none) {
+        x->backgroundimage = name;
+        x->plane->ClearBackgroundImage();
+        return true;
+    }
+    const auto file = locateImage (name->s_name);
+    if (file.empty()) {
+        orvanemax::tellError (x, std::string ("Couldnt locate file: ") + name->s_name);
+        return true;
+    }
+    x->backgroundimage = name;
+    x->plane->SetBackgroundImageFile (juce::File (juce::String::fromUTF8 (file.path().c_str())));
+    return true;
+}
+
+}

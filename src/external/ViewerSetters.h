@@ -1,0 +1,122 @@
+#pragma once
+#include "external/ViewerAttributes.h"
+#include "gui/plane/PlaneComponent.h"
+
+#include <algorithm>
+#include <functional>
+
+/** The setters of the viewer's attributes, by their shapes. Values that do not fit are ignored. What a shape sets is an
+    operation of the plane, or a function over the plane and the value. */
+namespace halcyra::setters
+{
+
+using orvanemax::Atoms;
+using orvanemax::AttributeRow;
+
+/** The field of a row, in the record. */
+template <typename Value>
+[[nodiscard]] Value& field (t_halcyra_control* x, const AttributeRow& row) noexcept
+{
+    return *reinterpret_cast<Value*> (reinterpret_cast<char*> (x) + row.offset);
+}
+
+/** A switch of the plane. */
+template <auto set>
+bool onOff (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    if (atoms.fit ("l")) {
+        const bool on = atoms.integer (0) != 0;
+        field<t_atom_long> (x, row) = on ? 1 : 0;
+        std::invoke (set, *x->plane, on);
+    }
+    return true;
+}
+
+/** A number of the plane. */
+template <auto set>
+bool number (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    if (atoms.fit ("n")) {
+        field<float> (x, row) = atoms.number (0);
+        std::invoke (set, *x->plane, atoms.number (0));
+    }
+    return true;
+}
+
+/** A count of the plane; its filter keeps it within its bounds. */
+template <auto set>
+bool count (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    if (atoms.fit ("n")) {
+        const auto value = std::clamp<t_atom_long> (atoms.integer (0), static_cast<t_atom_long> (row.low),
+                                                    static_cast<t_atom_long> (row.high));
+        field<t_atom_long> (x, row) = value;
+        std::invoke (set, *x->plane, static_cast<std::uint32_t> (value));
+    }
+    return true;
+}
+
+/** A word of the plane. */
+template <auto set>
+bool word (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    if (atoms.fit ("s")) {
+        field<t_symbol*> (x, row) = atoms.symbol (0);
+        std::invoke (set, *x->plane, atoms.symbol (0)->s_name);
+    }
+    return true;
+}
+
+/** A colour of the plane; a value that is missing or no number counts 0. */
+template <auto set>
+bool colour (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    if (atoms.empty())
+        return true;
+    auto* rgba = &field<double> (x, row);
+    for (std::size_t i = 0; i < 4; ++i)
+        rgba[i] = i < atoms.size() && orvanemax::isNumber (atoms[i]) ? atom_getfloat (&atoms[i]) : 0.0;
+    const auto narrow = [rgba] (int i) { return static_cast<float> (rgba[i]); };
+    std::invoke (set, *x->plane, narrow (0), narrow (1), narrow (2), narrow (3));
+    return true;
+}
+
+/** A number of each source, by the way of all scene updates; a list that is too short is ignored. */
+template <void (*set) (t_halcyra_control* x, t_atom_long source, float value, bool notify)>
+bool perSource (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
+{
+    if (atoms.size() >= static_cast<std::size_t> (x->numsources))
+        for (t_atom_long i = 0; i < x->numsources; ++i)
+            if (orvanemax::isNumber (atoms[static_cast<std::size_t> (i)]))
+                set (x, i, atoms.number (static_cast<std::size_t> (i)), true);
+    return true;
+}
+
+/** A word of each source; what is no symbol is skipped. */
+template <void (*set) (t_halcyra_control* x, t_atom_long source, t_symbol* word, bool notify)>
+bool wordPerSource (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
+{
+    if (atoms.size() >= static_cast<std::size_t> (x->numsources))
+        for (t_atom_long i = 0; i < x->numsources; ++i)
+            if (atoms.from (static_cast<std::size_t> (i)).fit ("s"))
+                set (x, i, atoms.symbol (static_cast<std::size_t> (i)), true);
+    return true;
+}
+
+// Each of a kind.
+bool keep (t_halcyra_control* x, const AttributeRow& row, Atoms atoms); // a switch that no plane knows
+bool showViewer (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool zoomLock (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool frameOption (t_halcyra_control* x, const AttributeRow& row, Atoms atoms); // showfps, useopengl
+bool format (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool sourcesPositions (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool speakersPositions (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool listenerPosition (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool listenerAngle (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool sourceColour (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool sourcesLevels (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool speakersLevels (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool shoeboxCorners (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool backgroundImage (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+
+}
