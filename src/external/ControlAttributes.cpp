@@ -65,8 +65,7 @@ struct SizeRow
 constexpr SizeRow sizes[] = {
     { &Words::numsources, &Control::numsources, true, "could not dynamically change number of sources" },
     { &Words::numspeakers, &Control::numspeakers, true, "could not dynamically change number of speakers" },
-    { &Words::numinternals, &Control::numinternals, false,
-      "could not dynamically change number of internal channels" },
+    { &Words::numinternals, &Control::numinternals, false, "could not dynamically change number of internal channels" },
 };
 
 /** The attribute's filter has clipped it; the record's room must not depend on that. */

@@ -18,7 +18,7 @@ using qel::CoordinateType;
 /** Sets a point from the atoms of a type, all of them numbers. */
 bool readPoint (qel::Point3& point, CoordinateType type, Atoms atoms)
 {
-    std::array<float, qel::maxCoordinateValues> values {};
+    std::array<float, qel::maxCoordinateValues> values{};
     const auto count = qel::coordinateCount (type);
     if (atoms.size() < count)
         return false;
@@ -30,7 +30,12 @@ bool readPoint (qel::Point3& point, CoordinateType type, Atoms atoms)
     return qel::setPoint (point, type, values.data(), count);
 }
 
-enum class TypeWord { found, absent, unknown };
+enum class TypeWord
+{
+    found,
+    absent,
+    unknown
+};
 
 /** Takes the type's word off the front. Without one it is ade, which is told. */
 TypeWord takeType (t_halcyra_control* x, CoordinateType& type, Atoms& atoms)
@@ -54,14 +59,14 @@ struct PointTexts
     const char* unreadable;
 };
 
-constexpr PointTexts listenerTexts { "invalid listener message", "too many listener positions. only ",
-                                     "error reading listener position" };
-constexpr PointTexts speakerTexts { "invalid speaker message", "too many loudspeakers positions. only ",
-                                    "error reading speaker position" };
+constexpr PointTexts listenerTexts{ "invalid listener message", "too many listener positions. only ",
+                                    "error reading listener position" };
+constexpr PointTexts speakerTexts{ "invalid speaker message", "too many loudspeakers positions. only ",
+                                   "error reading speaker position" };
 
 bool parsePoint (t_halcyra_control* x, qel::Point3& point, Atoms atoms, const PointTexts& texts)
 {
-    CoordinateType type {};
+    CoordinateType type{};
     const auto fail = [x] (const char* text) {
         tellError (x, text);
         return false;
@@ -86,7 +91,7 @@ bool readAmbrel3 (qel::Point3& point, Atoms atoms)
     auto moved = point;
     const auto azimuth = -atoms.number (0);
     const auto far = atoms.fit ("nn") ? atoms.number (1) : qel::distance (point);
-    const std::array<float, 3> values { azimuth, qel::elevation (point), far };
+    const std::array<float, 3> values{ azimuth, qel::elevation (point), far };
     const bool good = qel::setPoint (moved, CoordinateType::aed, values.data(), values.size());
     if (good)
         point = moved;
@@ -125,7 +130,7 @@ bool parseOneSource (t_halcyra_control* x, qel::Point3& point, Atoms atoms)
             return invalidIndex (x, "invalid source index ", index);
         atoms = atoms.from (1);
     }
-    CoordinateType type {};
+    CoordinateType type{};
     if (takeType (x, type, atoms) == TypeWord::unknown)
         return false;
     const auto count = qel::coordinateCount (type);
@@ -144,7 +149,7 @@ bool parseOneSource (t_halcyra_control* x, qel::Point3& point, Atoms atoms)
 
 bool parseManyPoints (t_halcyra_control* x, qel::Point3Array& points, Atoms atoms)
 {
-    CoordinateType type {};
+    CoordinateType type{};
     if (takeType (x, type, atoms) == TypeWord::unknown) {
         points.clear();
         return false;
@@ -165,7 +170,7 @@ bool parseManyPoints (t_halcyra_control* x, qel::Point3Array& points, Atoms atom
 
 bool parseAllSpeakers (t_halcyra_control* x, qel::Point3Array& points, Atoms atoms)
 {
-    CoordinateType type {};
+    CoordinateType type{};
     if (takeType (x, type, atoms) == TypeWord::unknown)
         return false;
     const auto count = qel::coordinateCount (type);
@@ -200,7 +205,7 @@ void setOutputFormat (t_halcyra_control* x, t_symbol* name)
 
 bool writeInFormat (const t_halcyra_control* x, const qel::Point3& point, t_atom*& out)
 {
-    std::array<float, qel::maxCoordinateValues> values {};
+    std::array<float, qel::maxCoordinateValues> values{};
     if (! qel::writePoint (point, static_cast<CoordinateType> (x->outputformat), values.data()))
         return false;
     for (std::int32_t i = 0; i < x->outputcount; ++i)

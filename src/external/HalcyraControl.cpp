@@ -27,8 +27,8 @@ struct OwnedArray
 
 /** In the order in which they are allocated and freed. */
 constexpr OwnedArray ownedArrays[] = {
-    { &t_halcyra_control::radius, maxSources },        { &t_halcyra_control::yaw, maxSources },
-    { &t_halcyra_control::aperture, maxSources },      { &t_halcyra_control::sourcecolor, maxColours },
+    { &t_halcyra_control::radius, maxSources },         { &t_halcyra_control::yaw, maxSources },
+    { &t_halcyra_control::aperture, maxSources },       { &t_halcyra_control::sourcecolor, maxColours },
     { &t_halcyra_control::speakerslevels, maxSources }, { &t_halcyra_control::sourceslevels, maxSources },
 };
 
@@ -71,7 +71,7 @@ bool makeParts (t_halcyra_control* x)
 
 void hideApertures (t_halcyra_control* x)
 {
-    t_atom off {};
+    t_atom off{};
     atom_setlong (&off, 0);
     object_attr_setvalueof (x, orvanemax::symbols().showaperture, 1, &off);
 }

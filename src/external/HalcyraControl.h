@@ -68,9 +68,9 @@ struct t_halcyra_control
     t_atom *speakerslevels, *sourceslevels; // dB, maxSources atoms each
     double backgroundcolor[4];
     t_symbol* format;
-    lumo::PlaneComponent* plane;      // the component's
-    std::int32_t outputformat;        // the format as a qel::CoordinateType
-    std::int32_t outputcount;         // values of a point in it
+    lumo::PlaneComponent* plane; // the component's
+    std::int32_t outputformat;   // the format as a qel::CoordinateType
+    std::int32_t outputcount;    // values of a point in it
     std::int32_t speakerspositionssize, sourcespositionssize;
 
     // The reverberator.
@@ -95,7 +95,8 @@ struct t_halcyra_control
 static_assert (std::is_standard_layout_v<t_halcyra_control> && std::is_trivial_v<t_object>);
 
 /** An attribute's name and where its value lies. */
-#define HALCYRA_FIELD(field) orvanemax::AttributeField { #field, calcoffset (t_halcyra_control, field) }
+#define HALCYRA_FIELD(field)                                                                                           \
+    orvanemax::AttributeField { #field, calcoffset(t_halcyra_control, field) }
 
 /** Registers `halcyra~.control` with the host. Called once when the external is loaded. */
 MAX_EXPORT void ext_main (void* unused);

@@ -52,7 +52,7 @@ void MaxHalcyraListener::HalcyraSourceChanged (int sourceIndex)
 {
     const auto position = x->component->getSourcePosition (sourceIndex);
     storePoint (position, x->sourcespositions + 3 * sourceIndex);
-    std::array<t_atom, 2 + qel::maxCoordinateValues> atoms {};
+    std::array<t_atom, 2 + qel::maxCoordinateValues> atoms{};
     atom_setlong (&atoms[0], sourceIndex + 1);
     atom_setsym (&atoms[1], x->format);
     auto* end = &atoms[2];
@@ -67,7 +67,7 @@ void MaxHalcyraListener::HalcyraSpeakersChanged()
         return;
     qel::Point3Array positions;
     x->component->getSpeakerPositions (positions);
-    std::array<t_atom, 1 + maxPositions> atoms {};
+    std::array<t_atom, 1 + maxPositions> atoms{};
     atom_setsym (&atoms[0], x->format);
     auto* end = &atoms[1];
     bool written = true;
@@ -86,7 +86,7 @@ void MaxHalcyraListener::HalcyraReverbChanged (const HalcyraReverbParameter& par
         orvanemax::tellError (x, "HalcyraReverbChanged : unknown parameter");
     } else {
         const auto& words = reverbWords (parameter);
-        std::array<t_atom, 2> atoms {};
+        std::array<t_atom, 2> atoms{};
         atom_setsym (&atoms[0], words.key);
         mirrorParameter (x, reverbMirrors[static_cast<std::size_t> (parameter)], atoms[1]);
         sendOut (x, words.selector, 2, atoms.data());
@@ -100,7 +100,7 @@ void MaxHalcyraListener::HalcyraFilterChanged (const HalcyraFilter& filter)
         const auto& mirror = filterMirrors[static_cast<std::size_t> (filter)];
         x->filters[filter] = x->component->getFilter (filter);
         auto& values = x->*mirror.values;
-        std::array<t_atom, 6> atoms {};
+        std::array<t_atom, 6> atoms{};
         for (std::size_t i = 0; i < atoms.size(); ++i) {
             values[i] = x->filters[filter].*shelfTable[i].value;
             atom_setfloat (&atoms[i], static_cast<double> (values[i]));

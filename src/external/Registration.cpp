@@ -7,8 +7,8 @@
 #include "external/SnapshotMessages.h"
 #include "external/ViewerAttributes.h"
 #include "external/ViewerMessages.h"
-#include "max/AttributeServices.h"
 #include "max/Atoms.h"
+#include "max/AttributeServices.h"
 #include "max/ClassRegistration.h"
 #include "max/DictionaryState.h"
 #include "max/ExportDict.h"
@@ -36,7 +36,7 @@ t_class* registeredClass = nullptr;
 void readDictionary (void* x, t_symbol*, t_clong, t_atom* argv) { orvanemax_dictionary (x, atom_getsym (argv)); }
 void dictionaryMessage (void* x, t_symbol* name)
 {
-    t_atom atom {};
+    t_atom atom{};
     atom_setsym (&atom, name);
     mainThreadEntry<readDictionary> (x, nullptr, 1, &atom);
 }
@@ -95,8 +95,8 @@ std::vector<MessageRow> serviceMessages()
 std::vector<MessageRow> ownMessages()
 {
     constexpr int none = A_NOTHING;
-    const ArgumentRow index { "index", "int" }, values { "values", "list of int or float or symbol" };
-    const ArgumentRow name { "name", "symbol" }, file { "file", "symbol" };
+    const ArgumentRow index{ "index", "int" }, values{ "values", "list of int or float or symbol" };
+    const ArgumentRow name{ "name", "symbol" }, file{ "file", "symbol" };
     constexpr auto* openHelp =
         "opens the Graphical User Interface window. (or brings the window to front if it was already opened)";
     return {
@@ -105,7 +105,10 @@ std::vector<MessageRow> ownMessages()
         { "clearsnapshot", queued<clearSnapshot>(), A_GIMME, nullptr, { name } },
         { "store", queued<storeSnapshot>(), A_GIMME, nullptr, { name } },
         { "recall", queued<recallSnapshot>(), A_GIMME, nullptr, { name } },
-        { "xsnapshot", queued<interpolateSnapshots>(), A_GIMME, nullptr,
+        { "xsnapshot",
+          queued<interpolateSnapshots>(),
+          A_GIMME,
+          nullptr,
           { { "first", "symbol" }, { "second", "symbol" }, { "amount", "float" } } },
         { "listener", onMain<listener>(), A_GIMME, nullptr, { values } },
         { "rotate", max_method (rotateMessage), A_GIMME, nullptr, { index, { "yaw pitch roll", "list of float" } } },
@@ -121,12 +124,18 @@ std::vector<MessageRow> ownMessages()
         { "room", max_method (halcyra_control_room), A_GIMME, nullptr, { values } },
         { "early", max_method (halcyra_control_early), A_GIMME, nullptr, { values } },
         { "cluster", max_method (halcyra_control_cluster), A_GIMME, nullptr, { values } },
-        { "reverb", max_method (halcyra_control_reverb), A_GIMME, nullptr,
+        { "reverb",
+          max_method (halcyra_control_reverb),
+          A_GIMME,
+          nullptr,
           { { "parameter", "symbol" }, { "value", "float" } } },
         { "loudspeakers", onMain<speakers>(), A_GIMME, nullptr, { values } },
         { "speakers", onMain<speakers>(), A_GIMME, nullptr, { values } },
         { "loudspeaker", onMain<speaker>(), A_GIMME },
-        { "speaker", onMain<speaker>(), A_GIMME, nullptr,
+        { "speaker",
+          onMain<speaker>(),
+          A_GIMME,
+          nullptr,
           { { "speaker index", "int" },
             { "name of the property", "symbol" },
             { "value", "list of int or float or symbol" } } },

@@ -8,9 +8,9 @@ namespace halcyra
 const ReverbWords& reverbWords (HalcyraReverbParameter number)
 {
     static const auto words = [] {
-        std::array<ReverbWords, parameter::count> interned {};
+        std::array<ReverbWords, parameter::count> interned{};
         std::transform (parameterTable.begin(), parameterTable.end(), interned.begin(), [] (const ParameterRow& row) {
-            return ReverbWords { gensym (row.selector), gensym (row.key) };
+            return ReverbWords{ gensym (row.selector), gensym (row.key) };
         });
         return interned;
     }();

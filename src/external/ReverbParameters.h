@@ -64,7 +64,7 @@ struct FilterMirror
     const char* complaint;
 };
 
-inline constexpr std::array<FilterMirror, 4> filterMirrors { {
+inline constexpr std::array<FilterMirror, 4> filterMirrors{ {
     { &Words::direct, &Control::direct, true, "invalid message : direct" },
     { &Words::room, &Control::room, true, "invalid message : room" },
     { &Words::early, &Control::early, false, "invalid message : early" },

@@ -132,7 +132,7 @@ void sendSpeakers (t_halcyra_control* x, bool notify)
 void sendListenerPosition (t_halcyra_control* x, bool notify)
 {
     const auto& p = x->listenerposition;
-    Packet().add (qel::Point3 { p[0], p[1], p[2] }).send (x, workers::listenerPosition, notify);
+    Packet().add (qel::Point3{ p[0], p[1], p[2] }).send (x, workers::listenerPosition, notify);
 }
 
 void sendListenerYaw (t_halcyra_control* x, bool notify)

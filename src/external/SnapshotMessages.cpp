@@ -25,9 +25,12 @@ bool isName (Atoms atoms) noexcept { return atoms.fit ("s") || atoms.fit ("l"); 
 qel::String nameOf (const t_atom& atom)
 {
     switch (atom_gettype (&atom)) {
-        case A_LONG: return qel::String (static_cast<long long> (atom_getlong (&atom)));
-        case A_FLOAT: return qel::String (atom_getfloat (&atom), 0);
-        default: return atom_getsym (&atom)->s_name;
+    case A_LONG:
+        return qel::String (static_cast<long long> (atom_getlong (&atom)));
+    case A_FLOAT:
+        return qel::String (atom_getfloat (&atom), 0);
+    default:
+        return atom_getsym (&atom)->s_name;
     }
 }
 
@@ -46,7 +49,7 @@ struct FileTask
     const char* done;
 };
 
-constexpr FileTask readTask {
+constexpr FileTask readTask{
     "invalid message : readsnapshot",
     [] { return orvanemax::askForFileToOpen(); },
     [] (qel::CoordinatesSnapshotStore& store, const qel::File& file) { return store.read (file); },
@@ -54,10 +57,12 @@ constexpr FileTask readTask {
     " properly loaded",
 };
 
-constexpr FileTask writeTask {
+constexpr FileTask writeTask{
     "invalid message : writesnapshot",
     [] { return orvanemax::askForFileToSave ("file.xml", textType); },
-    [] (qel::CoordinatesSnapshotStore& store, const qel::File& file) { return store.write (file, versionText(), true); },
+    [] (qel::CoordinatesSnapshotStore& store, const qel::File& file) {
+        return store.write (file, versionText(), true);
+    },
     "error writing file ",
     " properly written",
 };

@@ -31,6 +31,7 @@ void setGridMode (Plane& plane, const qel::String& name) { plane.SetGridMode (na
 void setSourcesVisible (Plane& plane, bool on) { plane.SetAllSourcesVisible (on, false); }
 void setSourcesEditable (Plane& plane, bool on) { plane.SetSourcesEditable (on, true); }
 void setSpeakersEditable (Plane& plane, bool on) { plane.SetSpeakersEditable (on, true); }
+void setCircularConstraint (Plane& plane, bool on) { plane.SetCircularConstraint (on); }
 void setBackgroundColour (Plane& plane, float r, float g, float b, float a) { plane.SetBackgroundColour (r, g, b, a); }
 void setGridColour (Plane& plane, float r, float g, float b, float a) { plane.SetGridColour (r, g, b, a, true); }
 void setApertureColour (Plane& plane, float r, float g, float b, float a)
@@ -80,7 +81,7 @@ constexpr ViewerAttribute table[] = {
     { rows::onOff (HALCYRA_FIELD (showbackgroundimage), "1", "display background image"), onOff<&Plane::SetBackgroundImageVisible> },
     { rows::onOff (HALCYRA_FIELD (showshoebox), "0", "display shoebox"), onOff<&Plane::SetShoeboxVisible> },
     { rows::onOff (HALCYRA_FIELD (showspeakershull), "0", "display speakers convex hull").described ("enables/disables speakers convex hull display (may be CPU intensive)"), onOff<&Plane::SetHullVisible> },
-    { rows::onOff (HALCYRA_FIELD (circularconstraint), "0", "circular constraint"), onOff<&Plane::SetCircularConstraint> },
+    { rows::onOff (HALCYRA_FIELD (circularconstraint), "0", "circular constraint"), onOff<setCircularConstraint> },
     { rows::onOff (HALCYRA_FIELD (radiusconstraint), "0", "radius constraint"), onOff<&Plane::SetRadiusConstraint> },
     { rows::onOff (HALCYRA_FIELD (sourceseditable), "1", "sources editable"), onOff<setSourcesEditable> },
     { rows::onOff (HALCYRA_FIELD (speakerseditable), "0", "speakers editable"), onOff<setSpeakersEditable> },

@@ -93,22 +93,33 @@ constexpr KeyRow areaKeys[] = {
     { "clear", "", [] (auto* x, auto i, Atoms, bool) { x->plane->ClearArea (static_cast<std::size_t> (i)); } },
     { "color", "nnnn",
       [] (auto* x, auto i, Atoms v, bool) {
-          x->plane->SetAreaColour (static_cast<std::size_t> (i), juce::Colour::fromFloatRGBA (v.number (0), v.number (1),
-                                                                                             v.number (2), v.number (3)));
+          x->plane->SetAreaColour (
+              static_cast<std::size_t> (i),
+              juce::Colour::fromFloatRGBA (v.number (0), v.number (1), v.number (2), v.number (3)));
       } },
     { "name", "s",
-      [] (auto* x, auto i, Atoms v, bool) { x->plane->SetAreaLabel (static_cast<std::size_t> (i), v.symbol (0)->s_name); } },
+      [] (auto* x, auto i, Atoms v, bool) {
+          x->plane->SetAreaLabel (static_cast<std::size_t> (i), v.symbol (0)->s_name);
+      } },
     { "name", "l",
-      [] (auto* x, auto i, Atoms v, bool) { x->plane->SetAreaLabel (static_cast<std::size_t> (i), nameOf (v, 0)->s_name); } },
+      [] (auto* x, auto i, Atoms v, bool) {
+          x->plane->SetAreaLabel (static_cast<std::size_t> (i), nameOf (v, 0)->s_name);
+      } },
     { "visible", "n",
-      [] (auto* x, auto i, Atoms v, bool) { x->plane->SetAreaVisible (static_cast<std::size_t> (i), v.number (0) != 0); } },
+      [] (auto* x, auto i, Atoms v, bool) {
+          x->plane->SetAreaVisible (static_cast<std::size_t> (i), v.number (0) != 0);
+      } },
 };
 
 constexpr KeyRow anchorKeys[] = {
     { "name", "s",
-      [] (auto* x, auto i, Atoms v, bool) { x->plane->SetAnchorName (static_cast<std::size_t> (i), v.symbol (0)->s_name); } },
+      [] (auto* x, auto i, Atoms v, bool) {
+          x->plane->SetAnchorName (static_cast<std::size_t> (i), v.symbol (0)->s_name);
+      } },
     { "name", "l",
-      [] (auto* x, auto i, Atoms v, bool) { x->plane->SetAnchorName (static_cast<std::size_t> (i), nameOf (v, 0)->s_name); } },
+      [] (auto* x, auto i, Atoms v, bool) {
+          x->plane->SetAnchorName (static_cast<std::size_t> (i), nameOf (v, 0)->s_name);
+      } },
 };
 
 /** Makes the change that the key asks for; false if there is no such key, or it wants other values. */
@@ -233,7 +244,7 @@ void listener (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
         if (turnListener (x, atoms, notifies (selector)))
             return;
         const auto& stored = x->listenerposition;
-        qel::Point3 position { stored[0], stored[1], stored[2] };
+        qel::Point3 position{ stored[0], stored[1], stored[2] };
         if (! parseOnePoint (x, position, atoms))
             return invalidMessage (x, "invalid message : listener", atoms);
         x->listenerposition[0] = position.x;

@@ -66,14 +66,12 @@ bool keep (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 
 bool showViewer (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
-    return atoms.fit ("l") &&
-           onOff<&lumo::PlaneComponent::SetViewerVisible> (x, row, atoms);
+    return atoms.fit ("l") && onOff<&lumo::PlaneComponent::SetViewerVisible> (x, row, atoms);
 }
 
 bool zoomLock (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
-    return atoms.fit ("l") &&
-           onOff<&lumo::PlaneComponent::SetZoomLock> (x, row, atoms);
+    return atoms.fit ("l") && onOff<&lumo::PlaneComponent::SetZoomLock> (x, row, atoms);
 }
 
 bool frameOption (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
@@ -146,8 +144,8 @@ bool sourceColour (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
     for (t_atom_long i = 0; i < x->numsources; ++i) {
         const auto values = atoms.from (static_cast<std::size_t> (4 * i));
         if (values.fit ("nnnn"))
-            scene::setSourceColour (x, i, { values.number (0), values.number (1), values.number (2), values.number (3) },
-                                    true);
+            scene::setSourceColour (
+                x, i, { values.number (0), values.number (1), values.number (2), values.number (3) }, true);
     }
     return true;
 }

@@ -25,7 +25,8 @@ template <typename Use>
 void forEachEntry (void* object, const char* list, const char* operation, Use&& use)
 {
     if (! MaxAttribute (object, gensym ("classdescription")).exists())
-        return tellError (object, std::string ("MaxXmlDocumentation::") + operation + " no classdescription class attribute");
+        return tellError (object,
+                          std::string ("MaxXmlDocumentation::") + operation + " no classdescription class attribute");
     auto* dictionary = documentationDictionary (object, list);
     if (dictionary == nullptr)
         return;
@@ -161,7 +162,8 @@ void addMethods (XmlPage& page, void* object)
 std::string withClassNameMarked (std::string text, const std::string& className)
 {
     const auto marked = "<o>" + className + "</o>";
-    for (std::size_t at = text.find (className); at != std::string::npos; at = text.find (className, at + marked.size()))
+    for (std::size_t at = text.find (className); at != std::string::npos;
+         at = text.find (className, at + marked.size()))
         text.replace (at, className.size(), marked);
     return text;
 }

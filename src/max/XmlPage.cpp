@@ -21,13 +21,21 @@ std::string escaped (const std::string& text)
     for (const char c : text) {
         const auto byte = static_cast<unsigned char> (c);
         switch (c) {
-            case '&': out += "&amp;"; break;
-            case '<': out += "&lt;"; break;
-            case '>': out += "&gt;"; break;
-            case '"': out += "&quot;"; break;
-            default:
-                if (byte >= 0x20 || c == '\t' || c == '\n')
-                    out += c; // the other control characters have no form in XML
+        case '&':
+            out += "&amp;";
+            break;
+        case '<':
+            out += "&lt;";
+            break;
+        case '>':
+            out += "&gt;";
+            break;
+        case '"':
+            out += "&quot;";
+            break;
+        default:
+            if (byte >= 0x20 || c == '\t' || c == '\n')
+                out += c; // the other control characters have no form in XML
         }
     }
     return out;

@@ -67,6 +67,7 @@ constexpr MethodRow methodRows[] = {
     { "dump", "sends all attributes, or the named one, out of the right outlet." },
     { "postattributes", "posts all attributes, or the named one, to the Max window." },
     { "version", "posts the version of the object." },
+    { "preset", "writes all attributes into the preset that is being stored." },
     { "recallpreset", "sets all attributes from the values that a preset stored." },
     { "exportdict", "writes all attributes to a JSON file." },
     { "dumpdict", "sends all attributes, or the named ones, as a dictionary out of the right outlet." },
