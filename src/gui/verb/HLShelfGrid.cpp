@@ -45,7 +45,7 @@ void HLShelfGrid::paintFrequencies (juce::Graphics& g) const
 {
     const HLShelfScale s{ static_cast<double> (getWidth()), static_cast<double> (getHeight()) };
     const auto height = static_cast<float> (getHeight());
-    for (double decade = 10; decade <= 10000; decade *= 10)
+    for (int decade = 10; decade <= 10000; decade *= 10)
         for (int i = 1; i <= 10; ++i) {
             const double hz = i * decade;
             if (hz <= HLShelfScale::lowestFrequency || hz > HLShelfScale::highestFrequency)
