@@ -21,6 +21,9 @@ namespace
 class PlaneOnStage : public testing::Test
 {
 protected:
+    /** The pointer is the desktop's and outlives the test. */
+    void TearDown() override { stage.release ({}); }
+
     [[nodiscard]] juce::Point<int> At (const qel::Point3& metres) const
     {
         return plane.GetSurface().viewTransform.ToScreen (metres).toInt();
@@ -372,7 +375,7 @@ TEST (PlaneMenu, IsIgnoredWhenThePlaneIsGone)
     stage.press ({ 100, 100 }, juce::ModifierKeys::rightButtonModifier);
     plane.reset();
     juce::PopupMenu::dismissAllActiveMenus();
-    pumpGui();
+    stage.release ({ 100, 100 });
     EXPECT_EQ (room.getNumChildComponents(), 0);
 }
 

@@ -257,7 +257,7 @@ TEST (PlanePainting, AHundredDashedLinesAtTheGreatestZoomAreCheap)
 {
     PlaneComponent plane (0, 0, 1000);
     plane.SetGridNumLines (100);
-    plane.SetGridNumAngularDivisions (360);
+    plane.SetGridNumAngularDivisions (36);
     plane.SetAngularDivisionsVisible (true);
     plane.SetGridDashed (true);
     plane.SetZoom (100, true);
