@@ -1,0 +1,147 @@
+#include "ControlTest.h"
+
+#include <juce_gui_basics/juce_gui_basics.h>
+
+CONTROL_TESTS (Lifecycle);
+
+TEST_P (Lifecycle, BangReplaysEverythingInItsOrder)
+{
+    auto box = settled ("@numsources 2");
+    box.send ("bang");
+    settle();
+    const auto heard = box.leftOutlet();
+    Messages words;
+    for (const auto& message : heard)
+        words.push_back (message.substr (0, message.find (' ', message.find (' ') + 1)));
+    EXPECT_EQ (words,
+               (Messages{ "source 1",       "source 2",     "direct 0.",           "room 0.",       "early 0.",
+                          "cluster 0.",     "reverb gain",  "reverb tr0",          "reverb trl",    "reverb trm",
+                          "reverb trh",     "reverb fl",    "reverb fh",           "early start",   "early end",
+                          "early distr",    "early shape",  "early width",         "cluster start", "cluster end",
+                          "cluster distr",  "reverb start", "reverb modaldensity", "reverb air",    "reverb infinite",
+                          "reverb airfreq", "speakers aed" }));
+}
+
+TEST_P (Lifecycle, WhatBangSendsBringsAChangedObjectIntoTheSameState)
+{
+    auto first = settled();
+    auto second = settled();
+    for (const auto* change :
+         { "gain 5", "tr0 4", "direct 1 2 3 4 500 5000", "early_end 80", "cluster_end 250", "reverb_start 200",
+           "source 3 aed 10 20 3", "speakers xyz 1 0 0 2 0 0 3 0 0 4 0 0 5 0 0 6 0 0", "infinite 1",
+           "roomairabsorption 0" })
+        second.send (change);
+    settle();
+    ASSERT_NE (stateOf (first), stateOf (second));
+    ASSERT_TRUE (patch.connect (*first, 0, *second));
+    first.send ("bang");
+    settle();
+    // Angles and back cost a position its last bits.
+    const auto sent = bench::stateOf (*first).value(), arrived = bench::stateOf (*second).value();
+    ASSERT_EQ (sent.size(), arrived.size());
+    for (std::size_t i = 0; i < sent.size(); ++i)
+        if (sent[i].a_type == A_FLOAT)
+            EXPECT_NEAR (sent[i].a_w.w_float, arrived[i].a_w.w_float, 1e-5) << i;
+        else
+            EXPECT_EQ (sent[i].a_w.w_long, arrived[i].a_w.w_long) << i;
+}
+
+TEST_P (Lifecycle, SizesAreTakenClippedAndThenFixed)
+{
+    auto box = settled ("@numsources 70 @numspeakers 0 @numinternals 1");
+    EXPECT_EQ (box.attribute ("numsources"), "64");
+    EXPECT_EQ (box.attribute ("numspeakers"), "1");
+    EXPECT_EQ (box.attribute ("numinternals"), "2");
+    EXPECT_EQ (saying (box, "numinternals 2"), Messages());
+    EXPECT_EQ (saying (box, "numinternals 4"),
+               Messages{ "error could not dynamically change number of internal channels" });
+    EXPECT_EQ (saying (box, "numsources 5"), Messages{ "error could not dynamically change number of sources" });
+    EXPECT_EQ (saying (box, "numspeakers 5"), Messages{ "error could not dynamically change number of speakers" });
+    EXPECT_EQ (box.attribute ("numinternals"), "2");
+    EXPECT_EQ (box.attribute ("numsources"), "64");
+}
+
+TEST_P (Lifecycle, AFreshObjectHidesAperturesAndShowsItsDefaults)
+{
+    auto box = settled ("@showaperture 1 @numsources 2 @name bob eve @gain 3");
+    EXPECT_EQ (box.attribute ("showaperture"), "0");
+    EXPECT_EQ (box.attribute ("defer"), "0");
+    EXPECT_EQ (box.attribute ("format"), "aed");
+    EXPECT_EQ (box.attribute ("name"), "\"1\" \"2\""); // the fresh scene overwrites names
+    EXPECT_EQ (box.attribute ("gain"), "3.");
+    EXPECT_EQ (box.attribute ("early_start"), "22.22");
+}
+
+TEST_P (Lifecycle, TellsOfWordsThatAreNoAttributes)
+{
+    auto box = make ("halcyra~.control @nonsense 3");
+    ASSERT_TRUE (box);
+    settle();
+    EXPECT_EQ (console().size(), 1u);
+}
+
+TEST_P (Lifecycle, TheWindowOpensOnceAndIsHidden)
+{
+    auto box = settled();
+    EXPECT_EQ (box.window(), Messages());
+    box.send ("open");
+    settle();
+    const auto opened = box.window();
+    ASSERT_FALSE (opened.empty());
+    EXPECT_EQ (opened[0].substr (0, 8), "created ");
+    box.send ("open");
+    settle();
+    for (const auto& line : box.window())
+        EXPECT_NE (line.substr (0, 8), "created ");
+    box.send ("wclose");
+    settle();
+    EXPECT_EQ (box.window(), Messages{ "hidden" });
+    box.send ("open");
+    settle();
+    box.free();
+    settle();
+}
+
+TEST_P (Lifecycle, FreedWithCallsQueuedItIsForgotten)
+{
+    for (int i = 0; i < 10; ++i) {
+        auto box = make ("halcyra~.control @numsources 3 @defer 1");
+        box.send ("gain 3");
+        box.send ("source 1 aed 30 0 1");
+        box.send ("open");
+        box.send ("store a", bench::Thread::scheduler);
+        box.free();
+    }
+    settle();
+    EXPECT_EQ (patch.names().size(), 0u);
+}
+
+TEST_P (Lifecycle, AThousandObjectsComeAndGo)
+{
+    for (int i = 0; i < 1000; ++i) {
+        auto box = make ("halcyra~.control @numsources 1 @numspeakers 1");
+        ASSERT_TRUE (box) << i;
+        if (i % 100 == 0)
+            settle();
+        box.free();
+    }
+    settle();
+}
+
+TEST_P (Lifecycle, AssistanceNamesInletAndOutlets)
+{
+    auto box = settled();
+    EXPECT_EQ (bench::assistanceOf (*box, ASSIST_INLET, 0), "inlet");
+    EXPECT_EQ (bench::assistanceOf (*box, ASSIST_OUTLET, 0), "outlet");
+    EXPECT_EQ (bench::assistanceOf (*box, ASSIST_OUTLET, 1), "dumpout");
+    EXPECT_EQ (bench::numberOfOutlets (*box), 2);
+}
+
+TEST_P (Lifecycle, LoadingTwiceKeepsOneMessageManager)
+{
+    auto* manager = juce::MessageManager::getInstanceWithoutCreating();
+    ASSERT_NE (manager, nullptr);
+    ext_main (nullptr);
+    EXPECT_EQ (juce::MessageManager::getInstanceWithoutCreating(), manager);
+    EXPECT_TRUE (settled());
+}

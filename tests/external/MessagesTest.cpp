@@ -1,0 +1,220 @@
+#include "ControlTest.h"
+
+#include <limits>
+
+CONTROL_TESTS (MessagesIn);
+
+namespace
+{
+
+struct Exchange
+{
+    const char* sent;
+    Messages heard;
+    Messages said = {};
+};
+
+}
+
+TEST_P (MessagesIn, AreAppliedAndEchoed)
+{
+    const Exchange exchanges[] = {
+        { "gain 3", { "reverb gain 3." } },
+        { "gain 3", {} }, // nothing changed
+        { "reverb gain 4", { "reverb gain 4." } },
+        { "gain foo", { "reverb gain 0." } },
+        { "gain 99", { "reverb gain 30." } }, // the attribute's filter
+        { "reverb air 0", { "reverb air 0" } },
+        { "reverb air 0.5", {}, { "error invalid message : roomairabsorption 0.5 " } },
+        { "infinite 1", { "reverb infinite 1" } },
+        { "direct gains 0 -6 -6 -6", { "direct 0. -6. -6. -6. 250. 4000." } },
+        { "room G0 99", { "room 30. 0. 0. 0. 250. 4000." } },
+        { "early freqs 4000 250", { "early 0. 0. 0. 0. 4000. 250." } }, // the order is not forced
+        { "cluster params 1 2 3 4 500 6000", { "cluster 1. 2. 3. 4. 500. 6000." } },
+        { "cluster 1 2 3 4 500 7000 99", { "cluster 1. 2. 3. 4. 500. 7000." } },
+        { "early width 40", { "early width 40." } },
+        { "early foo 3", {}, { "error invalid message : early foo 3 " } },
+        { "direct", {}, { "error invalid message : direct " } },
+        { "direct gains 0 0 0", {}, { "error invalid message : direct gains 0 0 0 " } },
+        { "direct gain 0 0 0 0", {}, { "error invalid message : direct gain 0 0 0 0 " } },
+        { "cluster start foo", {}, { "error invalid message : cluster start foo " } },
+        { "reverb foo 1", {}, { "error invalid message : reverb foo 1 " } },
+        { "reverb", {}, { "error invalid message : reverb " } },
+        { "roomsize 10", {}, { "error invalid message : roomsize 10 " } },
+        { "tr0 1 2", {}, { "error invalid message : tr0 1. 2. " } },
+    };
+    auto box = settled();
+    for (const auto& exchange : exchanges) {
+        box.send (exchange.sent);
+        settle();
+        EXPECT_EQ (box.leftOutlet(), exchange.heard) << exchange.sent;
+        EXPECT_EQ (box.console(), exchange.said) << exchange.sent;
+    }
+}
+
+TEST_P (MessagesIn, LinearGainsHaveAFloor)
+{
+    auto box = settled();
+    box.send ("room g0 0");
+    settle();
+    EXPECT_NEAR (box.record<t_halcyra_control>()->room[0], -69.2f, 0.05f);
+}
+
+TEST_P (MessagesIn, AFilterAttributeWithABadListSaysNothing)
+{
+    auto box = settled();
+    const auto before = stateOf (box);
+    bench::setAttribute (*box, "direct", bench::Atoms (3));
+    settle();
+    EXPECT_EQ (box.console(), Messages());
+    EXPECT_EQ (stateOf (box), before);
+}
+
+TEST_P (MessagesIn, WorkForTheSceneToo)
+{
+    const Exchange exchanges[] = {
+        { "source 1 xyz 0 2 0", { "source 1 aed 0. 0. 2." } },
+        { "source 1 x++ 1", { "source 1 aed 26.565048 0. 2.236068" } },
+        { "source 0 xyz 0 2 0", {}, { "error invalid source index 0" } },
+        { "source 9 xyz 0 2 0", {}, { "error invalid source index 9" } },
+        { "source 1 30 0 1", {}, { "error invalid message : source 1 30 0 1 " } },
+        { "source 1 foo 1", {}, { "error invalid message : source 1 foo 1 " } },
+        { "source 1 xyz 1 2",
+          {},
+          { "error not enough source coordinates. expected 3 coordinates",
+            "error invalid message : source 1 xyz 1 2 " } },
+        { "source 1 xyz 1 foo 2",
+          {},
+          { "error error reading source coordinates", "error invalid message : source 1 xyz 1 foo 2 " } },
+        { "source 1 xyz 0 3 0 9",
+          { "source 1 aed 0. 0. 3." },
+          { "warn too many source coordinates. only 3 coordinates will be read" } },
+        { "source 1 ambrel3 -90", { "source 1 aed 90. 0. 3." } },
+        { "speaker 1 xyz 0 1 0", { "speakers aed 0. 0. 1. 30. 0. 1." } },
+        { "speaker 3 xyz 0 1 0", {}, { "error invalid speaker index 3" } },
+        { "speaker 2 visible 0.5", {} },
+        { "speakers xyz 1 2 3",
+          {},
+          { "error not enough loudspeakers positions. expected 2 loudspeakers positions",
+            "error invalid message : speakers xyz 1 2 3 " } },
+        { "speakers 0 1 0 90 1 0",
+          { "speakers aed 0. 0. 1. 90. 0. 1." },
+          { "warn using default coordinate type (ade)" } },
+        { "listener xyz 1 2 3 4", {}, { "warn too many listener positions. only 1 position will be read" } },
+        { "listener foo 2", {}, { "error unknown coordinate type", "error invalid message : listener foo 2 " } },
+        { "areas 1 clear", {}, { "error invalid areas index 1" } },
+        { "numareas 1", {} },
+        { "areas 1 xyz 0 0 0 1 0 0 1 1 0", {} },
+        { "area 1 xyz 0 0", {}, { "error error reading positions", "error invalid message : areas xyz 0 0 " } },
+        { "numanchors 1", {} },
+        { "anchor 2 xyz 0 0 0", {}, { "error invalid anchor index 2" } },
+        { "anchor 1 xyz 0 0 0 1 1 1", {}, { "error invalid message : areas xyz 0 0 0 1 1 1 " } },
+        { "rotate 0 a", {}, { "error invalid rotate message" } },
+        { "rotate -1 0 0 0", {}, { "error invalid source index -1" } },
+        { "xsnapshot a b", {}, { "error invalid message : xsnapshot a b " } },
+        { "store", {}, { "error invalid message : store " } },
+        { "writesnapshot", {}, {} }, // cancelled
+        { "writesnapshot none", {}, {} },
+        { "writesnapshot 3", {}, { "error invalid message : writesnapshot 3 " } },
+        { "writesnapshot nowhere.xml", {}, { "error no snapshot" } },
+        { "format foo", {}, { "warn unknown coordinate type: foo. using default coordinate type (ade)" } },
+        { "backgroundimage nothere.png", {}, { "error Couldnt locate file: nothere.png" } },
+    };
+    auto box = settled ("@numsources 2 @numspeakers 2");
+    for (const auto& exchange : exchanges) {
+        box.send (exchange.sent);
+        settle();
+        EXPECT_EQ (box.leftOutlet(), exchange.heard) << exchange.sent;
+        EXPECT_EQ (box.console(), exchange.said) << exchange.sent;
+    }
+}
+
+TEST_P (MessagesIn, TwoRelativeMovesInOneTurnAddUp)
+{
+    for (const auto* defer : { "defer 0", "defer 1" }) {
+        auto box = settled();
+        box.send (defer);
+        box.send ("source 1 xyz 0 1 0");
+        box.send ("source 1 x++ 1");
+        box.send ("source 1 x++ 1");
+        settle();
+        EXPECT_EQ (box.leftOutlet().back().substr (0, 21), "source 1 aed 63.43495") << defer;
+    }
+}
+
+TEST_P (MessagesIn, KeysOfASourceReachItsAttributes)
+{
+    auto box = settled ("@numsources 2");
+    for (const auto* message :
+         { "source 1 aperture 40", "source 2 yaw 30", "source 1 radius 2", "source 1 name 3.5", "source 2 name bob",
+           "source 1 color 1 0 0.5 1", "source 2 orientationmode follow", "source 1 visible 0",
+           "source 1 showaperture 1", "source 1 showcoordinates 0", "source 1 lookat 0 1 0" })
+        EXPECT_EQ (saying (box, message), Messages()) << message;
+    EXPECT_EQ (box.attribute ("aperture"), "40. 80.");
+    EXPECT_EQ (box.attribute ("yaw"), "0. 30.");
+    EXPECT_EQ (box.attribute ("radius"), "2. 1.");
+    EXPECT_EQ (box.attribute ("name"), "\"3\" bob");
+    EXPECT_EQ (box.attribute ("sourcecolor"), "1. 0. 0.5 1. 0.49019608 1. 0. 1.");
+    EXPECT_EQ (box.attribute ("orientationmode"), "yawconstraint follow");
+}
+
+TEST_P (MessagesIn, NumbersThatAreNoneNeverEnterTheState)
+{
+    const auto list = [] (std::initializer_list<double> values) {
+        bench::Atoms atoms;
+        for (const auto value : values)
+            atom_setfloat (&atoms.emplace_back(), value);
+        return atoms;
+    };
+    const auto withWord = [] (const char* word, bench::Atoms values, int index = -1) {
+        bench::Atoms atoms (index < 0 ? 1 : 2);
+        if (index >= 0)
+            atom_setlong (&atoms[0], index);
+        atom_setsym (&atoms.back(), gensym (word));
+        atoms.insert (atoms.end(), values.begin(), values.end());
+        return atoms;
+    };
+    auto box = settled ("@numsources 2 @numspeakers 2");
+    const auto before = stateOf (box);
+    for (const double bad : { std::nan (""), std::numeric_limits<double>::infinity(), 1e300 }) {
+        box.send ("direct", withWord ("gains", list ({ bad, 0, 0, 0 })));
+        box.send ("early", withWord ("start", list ({ bad })));
+        box.send ("reverb", withWord ("gain", list ({ bad })));
+        box.send ("roomsize", list ({ bad }));
+        box.send ("source", withWord ("xyz", list ({ bad, 0, 0 }), 1));
+        box.send ("source", withWord ("color", list ({ bad, 0, 0, 1 }), 1));
+        box.send ("source", withWord ("yaw", list ({ bad }), 1));
+        box.send ("speakers", withWord ("xyz", list ({ bad, 0, 0, 0, 0, 0 })));
+        box.send ("listener", withWord ("yaw", list ({ bad })));
+        box.send ("sourcespositions", list ({ bad, 0, 0 }));
+        box.send ("xoffset", list ({ bad }));
+        box.send ("windowtopleft", list ({ bad, bad }));
+        box.send ("listenerposition", list ({ bad, bad, 0 }));
+        box.send ("shoeboxcorners", list ({ bad, bad, 0, 0, 0, 0 }));
+        settle();
+    }
+    EXPECT_EQ (stateOf (box), before);
+    EXPECT_FALSE (box.console().empty());
+    EXPECT_EQ (saying (box, "gain 1"), Messages()); // and an ordinary one still lands
+    EXPECT_EQ (box.attribute ("gain"), "1.");
+}
+
+TEST_P (MessagesIn, HugeListsHarmNothing)
+{
+    auto box = settled ("@numsources 2");
+    const bench::Atoms many (10000, [] {
+        t_atom atom{};
+        atom_setlong (&atom, 99999999999LL);
+        return atom;
+    }());
+    for (const auto& row : bench::methodsOf (*box))
+        if (row.kinds == std::vector<std::string>{ "A_GIMME" })
+            box.send (row.message, many);
+    for (const auto& name : bench::visibleAttributes (*box))
+        box.send (name, many);
+    settle();
+    box.leftOutlet();
+    EXPECT_EQ (bench::attributeOf (*box, "numsources").value().size(), 1u);
+    box.console();
+    EXPECT_EQ (saying (box, "source 1 name bob"), Messages());
+}

@@ -1,0 +1,159 @@
+#include "ControlTest.h"
+
+#include "max/AttributeServices.h"
+
+CONTROL_TESTS (SavedState);
+
+namespace
+{
+
+constexpr const char* changes[] = {
+    "gain 5",
+    "tr0 4",
+    "direct 1 2 3 4 500 5000",
+    "early_start 12",
+    "reverb_start 120",
+    "infinite 1",
+    "source 1 aed 10 20 3",
+    "source 2 name bob",
+    "source 2 color 1 0 0 1",
+    "listener xyz 1 2 3",
+    "listener yaw 30",
+    "speaker 1 xyz 3 2 1",
+    "showradius 1",
+    "gridmode none",
+    "zoom 2.5",
+    "format xyz",
+    "viewpoint front",
+    "yaw 20 40",
+    "backgroundcolor 0.1 0.2 0.3 1",
+    "windowtopleft 10 20",
+    "windowtitle hall",
+    "showspeakerslabel 0",
+    "numareas 3",
+};
+
+}
+
+TEST_P (SavedState, GoesIntoAnotherObjectOfTheSameSizes)
+{
+    auto first = settled ("@numsources 2 @numspeakers 2");
+    auto second = settled ("@numsources 2 @numspeakers 2");
+    for (const auto* change : changes)
+        first.send (change);
+    settle();
+    EXPECT_EQ (first.console(), Messages());
+    ASSERT_NE (stateOf (first), stateOf (second));
+    ASSERT_TRUE (bench::setState (*second, bench::stateOf (*first).value()));
+    settle();
+    first.leftOutlet();
+    second.leftOutlet();
+    first.send ("dump");
+    second.send ("dump");
+    EXPECT_EQ (first.dumpOutlet(), second.dumpOutlet());
+}
+
+TEST_P (SavedState, StagesThatCrossTheirNeighboursNeedMorePasses)
+{
+    struct Row
+    {
+        std::vector<const char*> before; // what the receiver holds
+        int passes;
+    };
+    const Row rows[] = {
+        { {}, 1 },
+        { { "cluster_start 70" }, 2 }, // cluster_end stops at it
+        { { "cluster_end 290", "early_end 110", "early_start 100", "cluster_start 120" }, 3 }, // the whole chain
+    };
+    for (const auto& row : rows) {
+        auto first = settled();
+        auto second = settled();
+        for (const auto* change : { "cluster_end 60", "early_start 2" })
+            first.send (change);
+        for (const auto* change : row.before)
+            second.send (change);
+        settle();
+        const auto state = bench::stateOf (*first).value();
+        for (int pass = 1; pass <= row.passes; ++pass) {
+            EXPECT_NE (stateOf (first), stateOf (second)) << row.passes << " passes, before pass " << pass;
+            bench::setState (*second, state);
+            settle();
+        }
+        EXPECT_EQ (stateOf (first), stateOf (second)) << row.passes << " passes";
+    }
+}
+
+TEST_P (SavedState, OfAnotherLengthChangesNothing)
+{
+    auto box = settled();
+    const auto before = stateOf (box);
+    auto atoms = bench::stateOf (*box).value();
+    const auto count = atoms.size();
+    atoms.push_back (atoms.front());
+    bench::setState (*box, atoms);
+    settle();
+    EXPECT_EQ (box.console(), Messages{ "error setvalueof error (received " + std::to_string (count + 1) + " atoms. " +
+                                        std::to_string (count) + " atoms were expected)" });
+    EXPECT_EQ (stateOf (box), before);
+}
+
+TEST_P (SavedState, TravelsByDictionary)
+{
+    auto first = settled ("@numsources 2 @numspeakers 2");
+    auto second = settled ("@numsources 2 @numspeakers 2");
+    for (const auto* change : changes)
+        first.send (change);
+    settle();
+    transcript();
+    ASSERT_TRUE (patch.connect (*first, 1, *second)); // the dump outlet into the inlet
+    first.send ("dumpdict");
+    settle();
+    EXPECT_EQ (stateOf (first), stateOf (second));
+}
+
+TEST_P (SavedState, TravelsByPreset)
+{
+    auto box = settled ("@numsources 2");
+    box.send ("gain 7");
+    settle();
+    const auto preset = bench::presetOf (*box);
+    const bench::Atoms values (preset.begin() + 3, preset.end());
+    EXPECT_EQ (bench::textOf (values), stateOf (box));
+    EXPECT_EQ (preset[2].a_w.w_sym, gensym ("recallpreset"));
+    box.send ("gain 1");
+    settle();
+    box.send ("recallpreset", values);
+    settle();
+    EXPECT_EQ (box.attribute ("gain"), "7.");
+}
+
+TEST_P (SavedState, BadDictionariesAreToldAndSendNothing)
+{
+    auto box = settled();
+    EXPECT_EQ (saying (box, "dumpdict gain 3"), Messages{ "error invalid message : dumpdict gain 3 " });
+    EXPECT_EQ (box.dumpOutlet(), Messages());
+    EXPECT_EQ (saying (box, "dumpdict nothing"), Messages{ "error no attribute nothing" });
+    EXPECT_EQ (saying (box, "dictionary nowhere"), Messages{ "error unable to reference dictionary named nowhere" });
+}
+
+TEST_P (SavedState, ResetGoesBackToDefaultsButForFixedAttributes)
+{
+    auto box = settled ("@numsources 2");
+    for (const auto* change : { "showradius 1", "zoom 3", "radius 2 2", "windowtitle hall" })
+        box.send (change);
+    settle();
+    for (const auto* name : { "showradius", "zoom", "radius", "windowtitle" }) {
+        t_atom word{};
+        atom_setsym (&word, gensym (name));
+        orvanemax_reset ((*box).object, nullptr, 1, &word);
+    }
+    settle();
+    EXPECT_EQ (box.attribute ("showradius"), "0");
+    EXPECT_EQ (box.attribute ("zoom"), "1.");
+    EXPECT_EQ (box.attribute ("radius"), "2. 2.");
+    EXPECT_EQ (box.attribute ("windowtitle"), "hall");
+    orvanemax_reset ((*box).object, nullptr, 0, nullptr);
+    settle();
+    EXPECT_EQ (box.attribute ("numsources"), "2");
+    EXPECT_EQ (box.attribute ("gain"), "0.");
+}
