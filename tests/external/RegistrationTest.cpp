@@ -1,0 +1,92 @@
+#include "ControlTest.h"
+
+#include "external/ControlAttributes.h"
+#include "external/ViewerAttributes.h"
+#include "max/ClassRegistration.h"
+#include "max/MaxXmlDocumentation.h"
+
+#include <algorithm>
+
+CONTROL_TESTS (Registration);
+
+TEST_P (Registration, MessagesStandInTheirOrder)
+{
+    auto box = settled();
+    std::string names;
+    for (const auto& row : bench::methodsOf (*box))
+        names += row.message + " ";
+    EXPECT_EQ (
+        names,
+        "generatexml version postattributes getvalueof setvalueof preset recallpreset exportdict dumpdict "
+        "dictionary dump reset assist writesnapshot readsnapshot clearsnapshot store recall xsnapshot listener rotate "
+        "areas area anchor adjustzoom roomsize bang source direct room early cluster reverb loudspeakers "
+        "speakers loudspeaker speaker open wclose dblclick ");
+}
+
+TEST_P (Registration, AttributesStandInTheirOrderWithWhatTheirRowsSay)
+{
+    auto box = settled();
+    std::vector<const orvanemax::AttributeRow*> rows;
+    for (const auto& attribute : halcyra::controlAttributes())
+        rows.push_back (&attribute.row);
+    for (const auto& attribute : halcyra::viewerAttributes())
+        rows.push_back (&attribute.row);
+    const auto visible = bench::visibleAttributes (*box);
+    std::vector<std::string> expected;
+    for (const auto* row : rows) {
+        expected.emplace_back (row->name);
+        const auto words = bench::propertyOf (*box, row->name, "label");
+        ASSERT_TRUE (words) << row->name;
+        EXPECT_EQ (words->at (0).a_w.w_sym, gensym (row->label)) << row->name; // blanks and all, in one symbol
+        const auto minimum = bench::propertyOf (*box, row->name, "minvalue");
+        EXPECT_EQ (minimum && ! minimum->empty(), row->hasBounds) << row->name;
+    }
+    const auto first = std::find (visible.begin(), visible.end(), expected.front());
+    EXPECT_EQ (std::vector<std::string> (first, visible.end()), expected);
+}
+
+TEST_P (Registration, PropertiesAreTheOnesThatUsersKnow)
+{
+    auto box = settled();
+    struct Row
+    {
+        const char *attribute, *property, *value;
+    };
+    for (const auto& row : {
+             Row{ "numsources", "order", "1" },
+             Row{ "windowtitle", "order", "25" },
+             Row{ "numsources", "dontreset", "1" },
+             Row{ "radius", "dontreset", "1" },
+             Row{ "radius", "units", "m" },
+             Row{ "windowtopleft", "units", "px" },
+             Row{ "direct", "default", "0. 0. 0. 0. 250. 4000." },
+             Row{ "gain", "minvalue", "-30." },
+             Row{ "tr0", "maxvalue", "30." },
+             Row{ "gridmode", "enumvals", "none circular square" },
+             Row{ "gridmode", "style", "enum" },
+             Row{ "backgroundcolor", "style", "rgba" },
+             Row{ "gain", "category", "reverb" },
+             Row{ "windowtitle", "category", "\"window options\"" },
+             Row{ "format", "category", "viewer" },
+             Row{ "backgroundcolor", "default", "0.7 0.7 0.7 1." },
+         })
+        EXPECT_EQ (box.property (row.attribute, row.property), row.value) << row.attribute << " " << row.property;
+    EXPECT_EQ (bench::propertyOf (*box, "aperture", "default").value().size(), 250u);
+}
+
+TEST_P (Registration, TheReferencePageHoldsAllMessagesAndAttributes)
+{
+    auto box = settled ("@windowtitle \"<&>\"");
+    const auto page = MaxXmlDocumentation ((*box).object, "./_c74_ref.xsl", orvanemax::SortMode::byName).page();
+    for (const auto& row : bench::methodsOf (*box)) {
+        const bool hidden = row.kinds == std::vector<std::string>{ "A_CANT" } && row.message != "dblclick";
+        const auto name = row.message == "dictionary" ? std::string ("readdict") : row.message;
+        EXPECT_EQ (page.find ("<method name=\"" + name + "\">") != std::string::npos, ! hidden) << name;
+    }
+    for (const auto& attribute : halcyra::viewerAttributes())
+        EXPECT_NE (page.find (std::string ("<attribute name=\"") + attribute.row.name + "\""), std::string::npos)
+            << attribute.row.name;
+    for (const auto* piece : { "<o>halcyra~.control</o>", "<!--METADATA-->", "<objarglist>",
+                               "<seealso name=\"halcyra~\" />", "<enum name=\"circular\" />", "type=\"float\"" })
+        EXPECT_NE (page.find (piece), std::string::npos) << piece;
+}
