@@ -86,7 +86,7 @@ void measure (benchmark::State& state, Step&& step)
     std::size_t turn = 0;
     const std::size_t before = allocations;
     const auto start = Clock::now();
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         step (turn++ % numInputs);
     const double each = nanosecondsSince (start) / static_cast<double> (turn);
     const std::size_t allocated = allocations - before;

@@ -59,7 +59,7 @@ void measure (benchmark::State& state, Point3Array (*make) (std::size_t, Random&
     while (sets.size() < numSets)
         sets.push_back (make (static_cast<std::size_t> (state.range (0)), random));
     std::size_t turn = 0;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize (work (sets[turn++ % numSets]));
 }
 

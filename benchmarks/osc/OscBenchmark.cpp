@@ -12,7 +12,7 @@ void rowOfAddresses (benchmark::State& state)
 {
     const char* const row[] = { "/numdelays", "/min", "/max", "/distr", "/sum", "/minmax", "/minsum" };
     const qel::OSCMessage message (qel::String ("/minsum"));
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         for (const char* const address : row)
             benchmark::DoNotOptimize (message.matches (address));
 }
@@ -21,7 +21,7 @@ void rowOfAddresses (benchmark::State& state)
 void manyStars (benchmark::State& state)
 {
     const qel::String text (std::string (static_cast<std::size_t> (state.range (0)), 'a'));
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize (qel::matchOscPattern ("*a*a*a*a*a*a*a*b", text));
 }
 

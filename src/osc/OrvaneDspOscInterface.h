@@ -11,7 +11,7 @@ namespace qel
 /** The face by which a component is driven and inspected with messages. To answer one more address in a class:
     1. a row in the class's table: signature letters, address, what it does; 2. its state in getOscState.
     Signatures are tested before addresses, which keeps the look-up off the path of messages with wrong arguments.
-    Message thread; a caller of another thread that reads the state holds the mutex. */
+    Message thread; a program that comes to the state from another thread as well holds the mutex around each call. */
 class OscInterface : public MaxConsoleNotifier
 {
 public:
@@ -26,6 +26,8 @@ public:
     /** Called by who embeds the component when a preset was loaded into it or exported from it. */
     virtual void oscPresetLoaded() {}
     virtual void oscPresetExported() {}
+
+    [[nodiscard]] std::recursive_mutex& mutex() noexcept { return oscMutex; }
 
 protected:
     std::recursive_mutex oscMutex;

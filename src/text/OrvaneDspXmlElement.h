@@ -50,8 +50,8 @@ public:
 
     [[nodiscard]] bool hasAttribute (const String& name) const noexcept;
     [[nodiscard]] String textAttribute (const String& name, const String& fallback = {}) const;
-    /** The number that the text begins with; the fallback if it is missing or begins with none. Beyond an int's range
-        it is the nearest int. */
+    /** The number that the text begins with, 0 if it begins with none; the fallback only if the attribute is missing.
+        Beyond an int's range it is the nearest int. */
     [[nodiscard]] int intAttribute (const String& name, int fallback = 0) const noexcept;
     /** As above, in any locale; "inf", "nan" and numbers beyond a double's range come as what they are. */
     [[nodiscard]] double doubleAttribute (const String& name, double fallback = 0.0) const noexcept;

@@ -1,5 +1,5 @@
 #include "common/OrvaneDspAlloc.h"
-#include "common/OrvaneDspException.h"
+#include "support/core/Raised.h"
 
 #include <gtest/gtest.h>
 
@@ -11,25 +11,6 @@ constexpr bool hasSanitizer = true;
 #else
 constexpr bool hasSanitizer = false;
 #endif
-
-namespace
-{
-
-template <typename Operation>
-std::string messageOf (Operation&& operation)
-{
-    testing::internal::CaptureStderr();
-    std::string message = "nothing";
-    try {
-        operation();
-    } catch (const qel::Exception& e) {
-        message = e.what();
-    }
-    testing::internal::GetCapturedStderr();
-    return message;
-}
-
-}
 
 TEST (Alloc, GivesAlignedStorageForEverySize)
 {
@@ -55,7 +36,7 @@ TEST (Alloc, CountsBytesUpToTheLargestNumber)
 {
     EXPECT_EQ (qel::byteCount (SIZE_MAX / 8, 8), SIZE_MAX / 8 * 8);
     EXPECT_EQ (qel::byteCount (0, 8), 0u);
-    EXPECT_EQ (messageOf ([] { (void)qel::byteCount (SIZE_MAX / 8 + 1, 8); }), "allocation overflow.");
+    EXPECT_EQ (raised ([] { (void)qel::byteCount (SIZE_MAX / 8 + 1, 8); }), "allocation overflow.");
 }
 
 TEST (Alloc, TellsWhenThereIsNoMemory)
@@ -63,9 +44,9 @@ TEST (Alloc, TellsWhenThereIsNoMemory)
     if (hasSanitizer)
         GTEST_SKIP() << "the sanitizer ends the process instead";
     volatile std::size_t tooMuch = SIZE_MAX / 4;
-    EXPECT_EQ (messageOf ([&] { qel::free (qel::allocate (tooMuch)); }), "bad allocation");
+    EXPECT_EQ (raised ([&] { qel::free (qel::allocate (tooMuch)); }), "bad allocation");
 
     void* const p = qel::allocate (8);
-    EXPECT_EQ (messageOf ([&] { qel::free (qel::reallocate (p, tooMuch)); }), "bad allocation");
+    EXPECT_EQ (raised ([&] { qel::free (qel::reallocate (p, tooMuch)); }), "bad allocation");
     qel::free (p);
 }

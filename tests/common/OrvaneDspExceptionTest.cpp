@@ -43,7 +43,7 @@ TEST (Exception, IsSilentWhenItIsCopiedOrToldToBe)
 {
     CaptureStderr();
     const Exception silent ("quiet", {}, false);
-    const Exception copy = silent;
+    const Exception copy = silent; // NOLINT(performance-unnecessary-copy-initialization): it is what is tested
     EXPECT_STREQ (copy.what(), "quiet");
     EXPECT_EQ (GetCapturedStderr(), "");
 }
@@ -65,7 +65,8 @@ TEST (Exception, TakesOverTheTextOfAnother)
 TEST (ExceptionDeathTest, EndsTheProcessIfAskedTo)
 {
     GTEST_FLAG_SET (death_test_style, "threadsafe");
-    EXPECT_EXIT (Exception ("no way on", {}, true, true), testing::ExitedWithCode (1), "Exception occurred: no way on");
+    EXPECT_EXIT ({ const Exception last ("no way on", {}, true, true); }, testing::ExitedWithCode (1),
+                 "Exception occurred: no way on");
 }
 
 namespace

@@ -25,6 +25,12 @@ protected:
             three[i].number = static_cast<int> (i);
     }
 
+    void addAll()
+    {
+        for (std::size_t i = 0; i < three.size(); ++i)
+            listeners.add (&three[i]);
+    }
+
     std::vector<int> called()
     {
         std::vector<int> order;
@@ -54,8 +60,7 @@ TEST_F (ListenersTest, AreCalledFromTheLastAddressToTheFirstEachOnce)
 
 TEST_F (ListenersTest, MayRemoveThemselvesDuringTheWalk)
 {
-    for (auto& l : three)
-        listeners.add (&l);
+    addAll();
     int calls = 0;
     listeners.call ([&] (Listener& l) {
         ++calls;
@@ -67,8 +72,7 @@ TEST_F (ListenersTest, MayRemoveThemselvesDuringTheWalk)
 
 TEST_F (ListenersTest, MayRemoveOthersDuringTheWalk)
 {
-    for (auto& l : three)
-        listeners.add (&l);
+    addAll();
     std::vector<int> order;
     listeners.call ([&] (Listener& l) {
         order.push_back (l.number);

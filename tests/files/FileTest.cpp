@@ -1,7 +1,7 @@
-#include "common/OrvaneDspException.h"
 #include "files/OrvaneDspFile.h"
 #include "files/OrvaneDspFileWriter.h"
 #include "files/OrvaneDspNoSuchFile.h"
+#include "support/core/Raised.h"
 #include "support/files/ScratchFolder.h"
 
 #include <gtest/gtest.h>
@@ -22,24 +22,13 @@ qel::MemoryOutput bytesOf (const std::string& text)
     return output;
 }
 
-template <typename Operation>
-std::string messageOf (Operation&& operation)
-{
-    try {
-        operation();
-    } catch (const qel::Exception& e) {
-        return e.what();
-    }
-    return "nothing was raised";
-}
-
 TEST (File, AnEmptyOneIsNotThereAndIsGladlyRemoved)
 {
     const File none;
     EXPECT_FALSE (none.exists());
     EXPECT_TRUE (none.remove());
     EXPECT_TRUE (none.readAll().empty());
-    EXPECT_EQ (messageOf ([&] { none.createFolder(); }), "Cannot create directory \"\"");
+    EXPECT_EQ (raised ([&] { none.createFolder(); }), "Cannot create directory \"\"");
 }
 
 TEST (File, KnowsWhatStandsAtItsPath)
@@ -188,7 +177,7 @@ TEST (FileWriter, TellsWhatItCannotWrite)
 {
     const ScratchFolder scratch;
     const auto inFile = scratch.write ("file", "x").child ("folder/file");
-    EXPECT_EQ (messageOf ([&] { qel::FileWriter writer (inFile); }),
+    EXPECT_EQ (raised ([&] { qel::FileWriter writer (inFile); }),
                "Couldnt create or write in folder \"" + inFile.parent().path().str() + "\"");
     qel::FileWriter ontoFolder (scratch.file ("."));
     EXPECT_FALSE (ontoFolder.write (bytesOf ("x")) || ontoFolder.finish());

@@ -56,48 +56,15 @@ Values written (const Point3& p, CoordinateType type)
 
 TEST (CoordinateTypes, HaveTheirNumbersNamesAndCounts)
 {
-    struct Row
-    {
-        CoordinateType type;
-        int number;
-        const char* name;
-        std::size_t count;
-    };
-    const Row rows[] = {
-        { CoordinateType::xyz, 0, "xyz", 3 },
-        { CoordinateType::xy, 1, "xy", 2 },
-        { CoordinateType::addX, 2, "x++", 1 },
-        { CoordinateType::addY, 3, "y++", 1 },
-        { CoordinateType::addZ, 4, "z++", 1 },
-        { CoordinateType::ade, 5, "ade", 3 },
-        { CoordinateType::aed, 6, "aed", 3 },
-        { CoordinateType::ae, 7, "ae", 2 },
-        { CoordinateType::ad, 8, "ad", 2 },
-        { CoordinateType::az, 9, "az", 1 },
-        { CoordinateType::azim, 10, "azim", 1 },
-        { CoordinateType::addAzim, 11, "azim++", 1 },
-        { CoordinateType::elev, 12, "elev", 1 },
-        { CoordinateType::addElev, 13, "elev++", 1 },
-        { CoordinateType::azimelev, 14, "azimelev", 2 },
-        { CoordinateType::dist, 15, "dist", 1 },
-        { CoordinateType::addDist, 16, "dist++", 1 },
-        { CoordinateType::scaleDist, 17, "dist*=", 1 },
-        { CoordinateType::ambrel3, 18, "ambrel3", 3 },
-        { CoordinateType::wfs, 19, "wfs", 2 },
-        { CoordinateType::x, 20, "x", 1 },
-        { CoordinateType::y, 21, "y", 1 },
-        { CoordinateType::z, 22, "z", 1 },
-        { CoordinateType::sofacartesian, 23, "sofacartesian", 3 },
-        { CoordinateType::sofaspherical, 24, "sofaspherical", 3 },
-        { CoordinateType::none, 25, "none", 0 },
-    };
-    ASSERT_EQ (std::size (rows), allTypes().size());
-    for (const auto& row : rows) {
-        EXPECT_EQ (static_cast<int> (row.type), row.number) << row.name;
-        EXPECT_STREQ (nameOfCoordinateType (row.type), row.name);
-        EXPECT_EQ (coordinateCount (row.type), row.count) << row.name;
-        EXPECT_LE (row.count, maxCoordinateValues);
-    }
+    std::string inOrder;
+    for (const auto type : allTypes())
+        inOrder += nameOfCoordinateType (type) + std::string (" ") + std::to_string (coordinateCount (type)) + ", ";
+    EXPECT_EQ (inOrder, "xyz 3, xy 2, x++ 1, y++ 1, z++ 1, ade 3, aed 3, ae 2, ad 2, az 1, azim 1, azim++ 1, elev 1, "
+                        "elev++ 1, azimelev 2, dist 1, dist++ 1, dist*= 1, ambrel3 3, wfs 2, x 1, y 1, z 1, "
+                        "sofacartesian 3, sofaspherical 3, none 0, ");
+    EXPECT_STREQ (nameOfCoordinateType (CoordinateType::ade), "ade");
+    EXPECT_STREQ (nameOfCoordinateType (CoordinateType::scaleDist), "dist*=");
+    EXPECT_STREQ (nameOfCoordinateType (CoordinateType::none), "none");
 }
 
 TEST (CoordinateTypes, AreFoundByTheirNameIfMessagesMayUseThem)

@@ -25,8 +25,8 @@ TEST (Wrapping, StaysInItsRangeForNumbersOfAnySize)
     EXPECT_EQ (wrapDegrees (-90), 270);
     EXPECT_EQ (wrapDegrees (1270), 190);
     EXPECT_EQ (wrapDegrees (-1e-7f), 0) << "a turn more is a whole turn";
-    for (float size = 1e-6f; size < 1e38f; size *= 7.3f)
-        for (const float number : { size, -size, largest, -largest }) {
+    for (int exponent = -20; exponent < 127; ++exponent)
+        for (const float number : { std::ldexp (1.3f, exponent), std::ldexp (-1.3f, exponent), largest, -largest }) {
             EXPECT_GE (wrapDegrees (number), 0) << number;
             EXPECT_LT (wrapDegrees (number), 360) << number;
             EXPECT_GE (wrapRadians (number), -pi) << number;
@@ -56,8 +56,10 @@ TEST (Azimuth, RunsClockwiseFromTheFront)
 
 TEST (Azimuth, IsTheInverseOfTheInternalAngle)
 {
-    for (float degrees = -179.5f; degrees < 180; degrees += 0.37f)
+    for (int step = -485; step <= 485; ++step) {
+        const float degrees = static_cast<float> (step) * 0.37f;
         EXPECT_NEAR (userAzimuth (internalAngle (degrees)), degrees, 1e-4f);
+    }
 }
 
 TEST (Elevation, IsPlusStraightUpAndZeroAtTheOrigin)

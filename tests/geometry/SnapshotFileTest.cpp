@@ -1,5 +1,5 @@
-#include "common/OrvaneDspException.h"
 #include "geometry/OrvaneDspCoordinatesSnapshot.h"
+#include "support/core/Raised.h"
 #include "support/files/ScratchFolder.h"
 
 #include <gmock/gmock.h>
@@ -24,20 +24,9 @@ protected:
         return scratch.write ("given.xml", "<ambrel.viewer>" + children + "</ambrel.viewer>");
     }
 
-    template <typename Operation>
-    std::string complaintOf (Operation&& operation)
-    {
-        try {
-            operation();
-        } catch (const qel::Exception& e) {
-            return e.what();
-        }
-        return "";
-    }
-
     std::string complaintOfReading (const qel::File& file)
     {
-        return complaintOf ([&] { store.read (file); });
+        return raised ([&] { store.read (file); });
     }
 
     ScratchFolder scratch;
@@ -144,9 +133,9 @@ TEST_F (SnapshotFile, IsWrittenInItsFixedForm)
 TEST_F (SnapshotFile, RefusesToWriteNothingOrOverAFile)
 {
     const auto file = scratch.write ("there.xml", "old");
-    EXPECT_EQ (complaintOf ([&] { store.write (file, "", true); }), "no snapshot");
+    EXPECT_EQ (raised ([&] { store.write (file, "", true); }), "no snapshot");
     store.store ("a", { { 1, 2, 3 } });
-    EXPECT_EQ (complaintOf ([&] { store.write (file, "", false); }),
+    EXPECT_EQ (raised ([&] { store.write (file, "", false); }),
                "file " + file.path().quoted().str() + " already exists");
     EXPECT_FALSE (store.write (scratch.file ("."), "", true)) << "a folder";
     EXPECT_FALSE (store.write (qel::File ("/proc/snapshots.xml"), "", true)) << "nobody may write there";

@@ -1,5 +1,6 @@
 #include "math/OrvaneDspVector.h"
 #include "CountedNew.h"
+#include "support/core/Raised.h"
 
 #include <gmock/gmock.h>
 
@@ -136,16 +137,9 @@ struct Fragile
 template <typename Operation>
 std::string failure (Fault kind, Operation&& operation)
 {
-    testing::internal::CaptureStderr();
     fault = kind;
-    std::string message = "nothing";
-    try {
-        operation();
-    } catch (const qel::Exception& e) {
-        message = e.what();
-    }
+    const auto message = raised (operation);
     fault = Fault::none;
-    testing::internal::GetCapturedStderr();
     return message;
 }
 

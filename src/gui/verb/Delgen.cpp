@@ -32,7 +32,8 @@ void normalise (qel::Vector<float>& positions, float first, float last)
 Delgen::Delgen (std::uint32_t numDelays, float minimum, float maximum, float) : numdelays (limitedCount (numDelays))
 {
     makeTemplate();
-    setMinMax (minimum, maximum, defaultDistr);
+    if (! changeMinMax ({ minimum, maximum, defaultDistr }))
+        computeDelays();
 }
 
 qel::Vector<float> Delgen::setMinMax (float minimum, float maximum, float distribution)

@@ -1,0 +1,22 @@
+#pragma once
+#include "common/OrvaneDspException.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+
+/** The message of what an operation raises, or "nothing". Its report to the error stream is kept back. */
+template <typename Operation>
+std::string raised (Operation&& operation)
+{
+    std::string message = "nothing";
+    testing::internal::CaptureStderr();
+    try {
+        std::forward<Operation> (operation)();
+    } catch (const qel::Exception& e) {
+        message = e.what();
+    }
+    testing::internal::GetCapturedStderr();
+    return message;
+}
