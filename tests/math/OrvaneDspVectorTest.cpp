@@ -138,7 +138,7 @@ template <typename Operation>
 std::string failure (Fault kind, Operation&& operation)
 {
     fault = kind;
-    const auto message = raised (operation);
+    auto message = raised (operation);
     fault = Fault::none;
     return message;
 }
