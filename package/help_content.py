@@ -1,0 +1,453 @@
+"""What the package's patchers say: one table of rows for each page. patchers.py lays them out.
+
+A page: tab (help only), title, digest, columns of sections (heading, rows), the object's text, and what its outlets
+are connected to (hear: words routed to a print each; answers: a chain below the right outlet).
+
+Rows:
+    ("say", text)                        a comment
+    ("send", message, remark)            a message box to our object
+    ("attr", attribute, remark)          a control for one attribute
+    ("from", feeders, message, remark)   controls that fill ($1) or fire a message to our object; known by their text
+    ("object", name, text, remark)       another box, known by a name
+    ("to", name, message, remark)        a message box to that box
+"""
+
+MIN_SIZES = "halcyra~.control @numsources 2 @numspeakers 4"
+
+BASIC = {
+    "tab": "basic",
+    "title": "halcyra~.control",
+    "digest": "The control interface of a room reverberator: a window with three tabs, and the same settings as messages. It makes no sound: connect its left outlet to halcyra~, a separate object.",
+    "object": "halcyra~.control @numsources 2 @numspeakers 4 @windowtitle Help",
+    "columns": [
+        [
+            ("The window", [
+                ("send", "open", "opens the window, or brings it to the front; a double click on the box does the same"),
+                ("send", "wclose", "hides it; the object goes on working"),
+                ("attr", "windowtitle", "one word"),
+                ("attr", "windowtopleft", "where it opens, in pixels"),
+                ("attr", "windowmoveable", ""),
+            ]),
+            ("Settings", [
+                ("attr", "gain", "level of the late reverberation, dB"),
+                ("from", ["flonum 0.1 30"], "tr0 $1", "decay time in seconds: an exact value by message"),
+                ("send", "reverb tr0 1.5", "the same in the words of the reverberator"),
+                ("send", "getgain", "asks for a value: it answers on the right outlet. Every attribute has its get"),
+                ("send", "bang", "sends all reverb settings again, for instance to a reverberator that was just loaded"),
+            ]),
+        ],
+        [
+            ("Sizes", [
+                ("say", "numsources (1 to 64), numspeakers (1 to 64) and numinternals (2 to 16) are fixed when the box is made: type them into the box as @numsources 4. A saved state fits only an object of the same sizes."),
+                ("send", "getnumsources", "how many sources there are"),
+            ]),
+            ("What comes out", [
+                ("say", "Left: every change that was heard or made in the window, as the messages that halcyra~ takes, such as reverb tr0 2. or source 1 aed 30. 0. 1. A value that is already set is not sent again, so two objects may be connected in a ring."),
+                ("say", "Right: answers to get messages, to dump and to dumpdict."),
+            ]),
+            ("Good to know", [
+                ("say", "The mouse moves a slider in steps; a message sets the exact value. What is out of range is clipped, what makes no sense is refused in the Max window and changes nothing."),
+                ("send", "version", "posts the version in the Max window"),
+                ("attr", "useopengl", "draws the window with OpenGL"),
+                ("attr", "showfps", "shows how fast it draws"),
+            ]),
+        ],
+    ],
+}
+
+TIME = {
+    "tab": "time structure",
+    "title": "Time structure",
+    "digest": "Early reflections, then a cluster of denser ones, then the late reverberation: three stages on one time axis. Times are in milliseconds and stay in order: a stage cannot begin before the one it follows.",
+    "object": MIN_SIZES,
+    "hear": ["reverb", "early", "cluster"],
+    "columns": [
+        [
+            ("Room size", [
+                ("from", ["flonum 10 15000"], "roomsize $1", "cubic metres; sets all times at once. Takes a float, so write 2000. with its point"),
+            ]),
+            ("Early reflections", [
+                ("attr", "early_start", "ms"),
+                ("attr", "early_end", "ms"),
+                ("attr", "early_distr", "0.5 is even"),
+                ("attr", "early_shape", "0 to 1: falling or rising"),
+                ("attr", "early_width", "degrees"),
+                ("send", "early start 18.5", "the same by the reverberator's words: start, end, distr, shape, width"),
+            ]),
+            ("Cluster", [
+                ("attr", "cluster_start", "ms, up to 300"),
+                ("attr", "cluster_end", "ms, up to 300"),
+                ("attr", "cluster_distr", "0.5 is even"),
+                ("send", "cluster end 90", "likewise: start, end, distr"),
+            ]),
+        ],
+        [
+            ("Late reverberation", [
+                ("attr", "reverb_start", "ms, 1 to 500"),
+                ("attr", "modaldensity", "0.2 to 4"),
+                ("attr", "tr0", "decay time, seconds"),
+                ("attr", "trl", "low frequencies: times tr0"),
+                ("attr", "trm", "middle frequencies: times tr0"),
+                ("attr", "trh", "high frequencies: times tr0"),
+                ("attr", "fl", "low to middle, Hz"),
+                ("attr", "fh", "middle to high, Hz"),
+                ("attr", "roomairabsorption", "highs fade in the air"),
+                ("attr", "roomairrolloff", "from this frequency, Hz"),
+                ("attr", "infinite", "freezes the tail"),
+                ("send", "reverb air 1", "the reverberator's words: start, gain, tr0, trl, trm, trh, fl, fh, air, airfreq, modaldensity, infinite"),
+            ]),
+            ("Back to the start", [
+                ("send", "reset", "the time structure and the four filters return to their defaults"),
+            ]),
+        ],
+    ],
+}
+
+FILTERS = {
+    "tab": "filters",
+    "title": "Filters",
+    "digest": "Four filters of three bands: direct sound, room, early reflections, cluster. Each has an overall gain, a low, a middle and a high gain in dB, and two crossover frequencies in Hz.",
+    "object": MIN_SIZES,
+    "hear": ["direct", "room", "early", "cluster"],
+    "columns": [
+        [
+            ("All six values", [
+                ("say", "In this order: overall gain (-200 to 30 dB), low, middle, high gain (-30 to 30 dB), low/middle and middle/high frequency (20 to 20000 Hz)."),
+                ("send", "direct 0 0 0 -6 250 4000", ""),
+                ("send", "room 0 -3 0 -9 300 3500", ""),
+                ("send", "early params 0 0 -2 -6 250 4000", "params or hlshelf may stand in front"),
+                ("send", "cluster hlshelf 0 0 0 -12 200 5000", ""),
+            ]),
+        ],
+        [
+            ("Some of them", [
+                ("send", "direct gains -3 0 0 -6", "the four gains; the frequencies stay"),
+                ("send", "room freqs 177 5657", "the two frequencies; the gains stay"),
+                ("send", "early Gh -9", "one: G0, Gl, Gm, Gh in dB, fl, fh in Hz"),
+                ("send", "cluster gh 0.5", "g0, gl, gm, gh are linear gains of power: 0.5 is -3 dB"),
+                ("from", ["flonum -30 30"], "room Gl $1", "from a number"),
+                ("send", "getroom", "asks for the six values"),
+            ]),
+            ("In the window", [
+                ("say", "Drag a dot of a curve up or down for a gain, one of the two vertical lines sideways for a frequency; the wheel moves the one that was taken last."),
+                ("say", "The slider of the overall gain goes from -60 to 10 dB; a message reaches the whole range."),
+            ]),
+        ],
+    ],
+}
+
+SCENE = {
+    "tab": "scene",
+    "title": "Scene",
+    "digest": "Sources, speakers and a listener, in metres or in degrees and metres: x to the right, y to the front, z up; azimuth 0 is in front and grows clockwise. Indices begin at 1.",
+    "object": "halcyra~.control @numsources 2 @numspeakers 4 @numareas 1 @numanchors 1",
+    "hear": ["source", "speakers"],
+    "columns": [
+        [
+            ("Sources", [
+                ("send", "sourcespositions -1 1 0 1 1 0", "x y z of all sources in one list. For many sources send this one list and not a message for each: it is far lighter"),
+                ("send", "source 1 aed 30 0 1", "one source: azimuth, elevation, distance"),
+                ("send", "source 2 xyz 0.5 1 0", "also xy, x, y, z, ad, ae, ade, az, azim, elev, dist, ambrel3, wfs"),
+                ("from", ["number -180 180"], "source 1 azim $1", "keeps elevation and distance"),
+                ("send", "source 1 azim++ 10", "a step; also elev++, dist++, dist*=, x++, y++, z++"),
+                ("send", "source 1 name voice", "also yaw, aperture, radius, visible, color (four numbers), lookat (x y z)"),
+                ("send", "source 2 color 0.2 0.6 1 1", "red, green, blue, alpha from 0 to 1"),
+                ("attr", "format", "how positions leave"),
+            ]),
+            ("Everything", [
+                ("send", "rotate 0 15 0 0", "the whole scene (1, 2, ... for one source): yaw, pitch, roll in degrees"),
+                ("send", "adjustzoom", "fits all into the view"),
+            ]),
+        ],
+        [
+            ("Speakers", [
+                ("send", "speakers ad -45 1 45 1 135 1 -135 1", "all at once; loudspeakers is the same"),
+                ("send", "speakerspositions -1 1 0 1 1 0 1 -1 0 -1 -1 0", "x y z of all"),
+                ("send", "speaker 1 aed -30 0 1", "one; loudspeaker is the same"),
+                ("send", "loudspeakers xy -1 1 1 1 1 -1 -1 -1", ""),
+                ("send", "loudspeaker 2 name right", "also color, visible"),
+            ]),
+            ("Listener, areas, anchors", [
+                ("send", "listener xyz 0 0 0", ""),
+                ("send", "listener yaw 20", "also pitch, roll; rpy takes roll, pitch, yaw"),
+                ("attr", "showareas", "areas: see numareas"),
+                ("send", "area 1 xy -1 1 1 1 1 2 -1 2", "the corners; areas is the same"),
+                ("send", "areas 1 name stage", "also color, visible, clear"),
+                ("attr", "showanchors", "anchors: see numanchors"),
+                ("send", "anchor 1 xyz 0 2 0", "a fixed mark"),
+            ]),
+            ("From a fast process", [
+                ("attr", "defer", "1: scene messages wait for the main thread. Use it when they come from a metro in overdrive"),
+            ]),
+        ],
+    ],
+}
+
+VIEW = {
+    "tab": "view",
+    "title": "View",
+    "digest": "What the scene tab shows and what the mouse may do there. All of these are attributes: use the controls, messages, the inspector, or write them into the box.",
+    "object": "halcyra~.control @numsources 2 @numspeakers 4",
+    "remark": "open the window and turn to its third tab",
+    "columns": [
+        [
+            ("View", [
+                ("attr", "viewpoint", "top or front"),
+                ("attr", "zoom", "from 0.1"),
+                ("attr", "autozoom", ""),
+                ("attr", "zoomlock", "the zoom stays"),
+                ("attr", "rightclicklock", "no menu"),
+                ("attr", "showviewer", "0 saves drawing time"),
+                ("attr", "showlegend", ""),
+            ]),
+            ("Objects", [
+                ("attr", "showsources", ""),
+                ("attr", "showsourceslabel", ""),
+                ("attr", "showaperture", ""),
+                ("attr", "showradius", ""),
+                ("attr", "showspeakers", ""),
+                ("attr", "showspeakerslabel", ""),
+                ("attr", "showspeakershull", "needs some processor time"),
+                ("attr", "showlistener", ""),
+                ("attr", "showheadphones", ""),
+            ]),
+        ],
+        [
+            ("The mouse may move", [
+                ("attr", "sourceseditable", ""),
+                ("attr", "speakerseditable", ""),
+                ("attr", "listenereditable", ""),
+                ("attr", "circularconstraint", "only around the centre"),
+                ("attr", "radiusconstraint", "never closer than allowed"),
+            ]),
+            ("Grid and background", [
+                ("attr", "gridmode", "none, circular, square"),
+                ("attr", "gridspacing", "metres"),
+                ("attr", "gridlines", ""),
+                ("attr", "showangulardivisions", ""),
+                ("attr", "numangulardivisions", ""),
+                ("attr", "backgroundimage", "a PNG or JPEG file, or none"),
+                ("attr", "backgroundimagescale", ""),
+                ("attr", "backgroundimageopacity", ""),
+            ]),
+            ("Levels", [
+                ("attr", "showsourceslevels", ""),
+                ("send", "sourceslevels -12 -20", "dB for each source, from a meter of your own"),
+            ]),
+        ],
+    ],
+}
+
+KEYS = {
+    "tab": "keys and mouse",
+    "title": "Keys and mouse",
+    "digest": "In the scene tab of the window. Click into the scene first, so that it hears the keys.",
+    "object": MIN_SIZES,
+    "remark": "try it: open the window and turn to its third tab",
+    "columns": [
+        [
+            ("Mouse", [
+                ("say", "Click: selects a source. Shift and click adds to the selection or takes from it. A drag moves all selected sources."),
+                ("say", "Drag on empty space: a rectangle selects the sources in it."),
+                ("say", "Right click: a menu for what may be moved, what is shown, and the view."),
+                ("say", "In the top view a drag changes x and y, in the front view x and z; the third coordinate stays."),
+                ("say", "Double click on a slider of the first tab: its default."),
+            ]),
+            ("Wheel", [
+                ("say", "Zooms."),
+                ("say", "With a source selected: shift raises or lowers it; with the apertures shown, ctrl changes the aperture and alt turns the source."),
+                ("say", "With the listener selected and editable: alt turns it."),
+            ]),
+        ],
+        [
+            ("Keys", [
+                ("say", "tab: selects the next source"),
+                ("say", "ctrl + a: selects all sources"),
+                ("say", "v: top view or front view"),
+                ("say", "g: next kind of grid"),
+                ("say", "a, s, l: shows or hides apertures, speakers, the listener"),
+                ("say", "c: moves only around the centre, or freely"),
+                ("say", "+ and -: zoom;  = goes back to 1"),
+                ("say", "arrows: shift the view"),
+            ]),
+            ("Start", [
+                ("send", "open", ""),
+                ("send", "sourceseditable 1", "if the mouse does not move sources, somebody locked them"),
+            ]),
+        ],
+    ],
+}
+
+SNAPSHOTS = {
+    "tab": "snapshots",
+    "title": "Snapshots",
+    "digest": "A snapshot keeps the positions of the scene under a name. Snapshots live in the object: neither pattr nor preset nor the patcher saves them, so write them to a file.",
+    "object": MIN_SIZES,
+    "hear": ["source", "speakers"],
+    "columns": [
+        [
+            ("Keep", [
+                ("send", "source 1 aed -60 0 1, source 2 aed 60 0 1, store wide", "1: a scene, stored as wide"),
+                ("send", "source 1 aed -10 0 2, source 2 aed 10 0 2, store far", "2: another, stored as far"),
+            ]),
+            ("Come back", [
+                ("send", "recall wide", "3: back to the first"),
+                ("from", ["flonum 0 1"], "xsnapshot wide far $1", "4: between the two, from 0 to 1"),
+            ]),
+        ],
+        [
+            ("Files", [
+                ("send", "writesnapshot", "all snapshots into an XML file; asks where. A file name may follow"),
+                ("send", "clearsnapshot far", "forgets one; without a name, all"),
+                ("send", "clearsnapshot", ""),
+                ("send", "readsnapshot", "reads such a file; asks which. A file name may follow"),
+            ]),
+        ],
+    ],
+}
+
+STATE = {
+    "tab": "state",
+    "title": "State",
+    "digest": "How the settings are kept: with the patcher, in presets, in dictionaries, in a file.",
+    "object": "halcyra~.control @numsources 2 @numspeakers 4",
+    "varname": "verb",
+    "answers": ["route dictionary", "prepend dictionary", "dict", "dict.view"],
+    "columns": [
+        [
+            ("pattr and preset", [
+                ("say", "Saved: all attributes, that is every reverb setting, the filters, the positions, the view and the window. Not saved: snapshots, the corners of areas, the places of anchors, names and colours of speakers, what is shown or hidden one by one, the room size slider, the selection."),
+                ("say", "A state fits only an object with the same sizes (numsources, numspeakers, numinternals); another one is refused as a whole, with a message."),
+                ("object", "states", "pattrstorage verb-states", "", {"varname": "verb-states"}),
+                ("object", "auto", "autopattr", "takes every box that has a scripting name; this object's is verb", {"varname": "auto"}),
+                ("to", "states", "store 1", ""),
+                ("to", "states", "recall 1", ""),
+                ("object", "presets", "preset", "shift and click stores, click recalls"),
+            ]),
+        ],
+        [
+            ("Dictionaries and lists", [
+                ("send", "dumpdict", "all attributes as a dictionary, on the right outlet"),
+                ("send", "dumpdict gain tr0 room", "only these. Copy it at once, as the dict below does: it is empty afterwards"),
+                ("object", "settings", "dict verb-settings", "the settings of the next message"),
+                ("to", "settings", "set gain -6., set tr0 3.2", "first put something in"),
+                ("send", "dictionary verb-settings", "sets what it holds"),
+                ("send", "dump gain", "one attribute with its name; without a name, all in one list"),
+            ]),
+            ("Files and defaults", [
+                ("send", "exportdict", "all attributes into a JSON file; asks where. A file name may follow"),
+                ("send", "postattributes gain", "posts it in the Max window; without a name, all"),
+                ("send", "reset", "the time structure and the filters return to their defaults"),
+            ]),
+        ],
+    ],
+    "cords": [("presets", 0, "verb")],
+}
+
+NOTES = {
+    "tab": "?",
+    "title": "See also",
+    "digest": "The reference page of halcyra~.control lists every message and every attribute with its range.",
+    "columns": [
+        [
+            ("In Max", [
+                ("say", "pattrstorage and autopattr: many states, and ways between them."),
+                ("say", "preset: a few states, by a click."),
+                ("say", "dict: settings by name, from a file or from other objects."),
+                ("say", "route: takes what leaves the left outlet apart."),
+            ]),
+        ],
+        [
+            ("In this package", [
+                ("say", "Extras > Halcyra Overview leads to the examples."),
+                ("say", "halcyra~ is the reverberator itself, a separate object that is not part of this package."),
+            ]),
+        ],
+    ],
+}
+
+HELP = [BASIC, TIME, FILTERS, SCENE, VIEW, KEYS, SNAPSHOTS, STATE, NOTES]
+
+FIRST_STEPS = {
+    "title": "First steps",
+    "digest": "One object, a few settings, and a chain of two: what the first one sends, the second understands.",
+    "object": "halcyra~.control @numsources 2 @numspeakers 2",
+    "remark": "put halcyra~ where the print is",
+    "columns": [
+        [
+            ("A small room and a large one", [
+                ("send", "open", "the window shows what you change"),
+                ("send", "roomsize 200., tr0 0.6, gain -6", "a small room"),
+                ("send", "roomsize 9000., tr0 3.5, gain 0", "a large one"),
+                ("send", "room gains 0 0 0 -9", "darker"),
+                ("send", "reset", "back to the defaults"),
+            ]),
+            ("A second object hears the first", [
+                ("object", "second", "halcyra~.control @numsources 2 @numspeakers 2 @windowtitle Second", ""),
+                ("to", "second", "open", "its window follows the first"),
+            ]),
+        ],
+    ],
+    "cords": [("verb", 0, "second")],
+}
+
+MOVING = {
+    "title": "A moving source",
+    "digest": "Steps on a clock: a metro turns one source, a number moves the other.",
+    "object": "halcyra~.control @numsources 2 @numspeakers 4 @defer 1",
+    "hear": ["source"],
+    "columns": [
+        [
+            ("Movement", [
+                ("send", "source 1 aed 0 0 1, source 2 aed 180 0 2", "the start"),
+                ("from", ["toggle", "metro 50"], "source 1 azim++ 2", "40 degrees a second"),
+                ("from", ["flonum 0.2 5"], "source 2 dist $1", "metres"),
+                ("send", "sourcespositions -1 1 0 1 1 0", "all sources in one list"),
+                ("attr", "format", "how positions leave"),
+            ]),
+        ],
+    ],
+}
+
+CROSSFADE = {
+    "title": "From scene to scene",
+    "digest": "Two snapshots and a way between them, in steps of a line or by hand.",
+    "object": "halcyra~.control @numsources 3 @numspeakers 4",
+    "hear": ["source"],
+    "columns": [
+        [
+            ("First store both", [
+                ("send", "sourcespositions -2 1 0 0 2 0 2 1 0, store apart", ""),
+                ("send", "sourcespositions -0.2 1 0 0 1 0 0.2 1 0, store together", ""),
+            ]),
+            ("Then go", [
+                ("from", ["line 0. 50", "flonum 0 1"], "xsnapshot apart together $1", "0 is apart, 1 is together; line makes a point every 50 ms"),
+                ("to", "line 0. 50", "0., 1. 4000", "there in four seconds"),
+                ("to", "line 0. 50", "1., 0. 4000", "and back"),
+            ]),
+        ],
+    ],
+}
+
+EXAMPLES = {"halcyra-first-steps": FIRST_STEPS, "halcyra-moving-source": MOVING, "halcyra-scene-to-scene": CROSSFADE}
+
+OVERVIEW = {
+    "title": "Halcyra",
+    "digest": "halcyra~.control sets up a room reverberator: in its window, and by messages.",
+    "columns": [
+        [
+            ("Start here", [
+                ("to", "loader", "load halcyra~.control.maxhelp", "the help, one topic a tab"),
+            ]),
+            ("Examples", [
+                ("to", "loader", "load halcyra-first-steps.maxpat", "a few settings, and two objects in a chain"),
+                ("to", "loader", "load halcyra-moving-source.maxpat", "positions on a clock"),
+                ("to", "loader", "load halcyra-scene-to-scene.maxpat", "snapshots and the way between them"),
+                ("object", "loader", "pcontrol", ""),
+            ]),
+            ("What it needs", [
+                ("say", "halcyra~, the reverberator that makes the sound, is a separate object and not part of this package. Without it everything here works, and is silent."),
+            ]),
+        ],
+    ],
+}

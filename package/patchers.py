@@ -1,0 +1,283 @@
+#!/usr/bin/env python3
+"""Writes the package's patchers (help, overview, examples) into a package folder: patchers.py FOLDER
+
+What they say stands in help_content.py as rows; here is how rows become boxes and cords. The files are written when
+the package is made and are not checked in: thousands of lines of coordinates would hide the hundred that matter, and
+nobody could review them.
+"""
+
+import json
+import sys
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+
+import help_content
+
+COLUMN_WIDTH = 470
+ROW = 30
+MARGIN = 20
+GUTTER = 12  # between a column's left edge and its boxes; the cords run down here
+COMMENT_GAP = 10
+CONTROL_WIDTH = 200
+OBJECT = "halcyra~.control"
+
+# Class of a box: inlets, and the type of each outlet. `route` and `t` depend on their words.
+PORTS = {
+    "comment": (1, []),
+    "message": (2, [""]),
+    "attrui": (1, [""]),
+    "toggle": (1, ["int"]),
+    "button": (1, ["bang"]),
+    "flonum": (1, ["", "bang"]),
+    "number": (1, ["", "bang"]),
+    "preset": (1, ["preset", "int", "preset", "int"]),
+    "dict.view": (1, []),
+    OBJECT: (1, ["", ""]),
+    "autopattr": (1, ["", "", "", ""]),
+    "dict": (2, ["dictionary", "", "", ""]),
+    "line": (3, ["", "", "bang"]),
+    "loadbang": (1, ["bang"]),
+    "metro": (2, ["bang"]),
+    "pattrstorage": (1, [""]),
+    "pcontrol": (1, [""]),
+    "prepend": (1, [""]),
+    "print": (1, []),
+}
+# Classes that draw themselves: their size.
+PICTURES = {"toggle": (22, 22), "button": (22, 22), "flonum": (60, 22), "number": (60, 22), "preset": (100, 40), "dict.view": (300, 150)}
+
+
+def ports(text):
+    words = text.split()
+    if words[0] == "route":
+        return len(words) if len(words) > 2 else 2, [""] * len(words)
+    return PORTS[words[0]]
+
+
+def text_width(text):
+    return max(40.0, round(6.2 * len(text) + 14))
+
+
+def text_height(text, width):
+    per_line = int((width - 8) / 5.9)
+    lines = 0
+    for paragraph in text.split("\n"):
+        used, count = 0, 1
+        for word in paragraph.split():
+            if used and used + 1 + len(word) > per_line:
+                used, count = 0, count + 1
+            used += len(word) + (1 if used else 0)
+        lines += count
+    return 20.0 + 14.0 * (lines - 1)
+
+
+class Page:
+    """One patcher: boxes and cords, laid out in columns from rows."""
+
+    def __init__(self):
+        self.boxes = []
+        self.lines = []
+        self.named = {}
+        self.place = {}
+        self.pending = []  # messages to other boxes than our object
+
+    def box(self, maxclass, x, y, width, height, **own):
+        kind = own.get("text", maxclass) if maxclass == "newobj" else maxclass
+        inlets, outlets = (0, []) if "patcher" in own else ports(kind)
+        entry = {"id": f"obj-{len(self.boxes) + 1}", "maxclass": maxclass, "numinlets": inlets, "numoutlets": len(outlets)}
+        if outlets:
+            entry["outlettype"] = outlets
+        entry["patching_rect"] = [float(x), float(y), float(width), float(height)]
+        if maxclass in ("toggle", "button", "flonum", "number"):
+            entry["parameter_enable"] = 0
+        entry.update(own)
+        self.boxes.append({"box": entry})
+        self.place[entry["id"]] = (x, y, width, height)
+        return entry["id"]
+
+    def cord(self, source, destination, outlet=0, inlet=0, midpoints=None):
+        line = {"source": [source, outlet], "destination": [destination, inlet]}
+        if midpoints:
+            line["midpoints"] = [float(p) for p in midpoints]
+        self.lines.append({"patchline": line})
+
+    def comment(self, text, x, y, width, size=12.0, bold=False):
+        height = text_height(text, width) if size == 12.0 else size * 1.6
+        self.box("comment", x, y, width, height, text=text, fontsize=size, fontface=1 if bold else 0)
+        return height
+
+    def object(self, text, x, y, **own):
+        """A box by what it says: a class that draws itself, or an object with arguments."""
+        kind = text.split()[0]
+        if kind in PICTURES:
+            width, height = PICTURES[kind]
+            limits = dict(zip(("minimum", "maximum"), map(float, text.split()[1:]))) if kind in ("flonum", "number") else {}
+            return self.box(kind, x, y, width, height, **limits, **own)
+        return self.box("newobj", x, y, text_width(text), 22, text=text, **own)
+
+    def height_of(self, name):
+        return self.place[name][3]
+
+    def row(self, row, x, y):
+        """Lays one row out; returns what it feeds our object with, or None, and its height."""
+        kind, *rest = row
+        room = COLUMN_WIDTH - 2 * GUTTER
+        if kind == "say":
+            return None, self.comment(rest[0], x, y, room) + 8
+        if kind == "object":
+            name, text, remark, *own = rest
+            made = self.named[name] = self.object(text, x, y, **(own[0] if own else {}))
+        elif kind == "attr":
+            name, remark = rest
+            made = self.box("attrui", x, y, CONTROL_WIDTH, 22, attr=name, text_width=120.0)
+        elif kind == "send":
+            text, remark = rest
+            made = self.box("message", x, y, text_width(text), 22, text=text)
+        elif kind == "to":
+            target, text, remark = rest
+            made = self.box("message", x, y, text_width(text), 22, text=text)
+            self.pending.append((made, target))
+        elif kind == "from":  # feeders one above the other, then the message that they fill or fire
+            feeders, text, remark = rest
+            top, above = y, None
+            for feeder in feeders:
+                made = self.named[feeder] = self.object(feeder, x, y)
+                if above:
+                    self.cord(above, made)
+                above, y = made, y + ROW
+            made = self.box("message", x, y, text_width(text), 22, text=text)
+            self.cord(above, made)
+            return made, y - top + self.remark(remark, x, y, made)
+        return (made if kind in ("attr", "send") else None), self.remark(remark, x, y, made)
+
+    def remark(self, text, x, y, beside):
+        _, _, width, height = self.place[beside]
+        if not text:
+            return max(ROW, height + 8)
+        left = x + max(width, CONTROL_WIDTH) + COMMENT_GAP
+        used = self.comment(text, left, y, x + COLUMN_WIDTH - 2 * GUTTER - left)
+        return max(ROW, height + 8, used + 8)
+
+    def column(self, sections, x, y):
+        """Lays sections out one below the other; returns the boxes that feed our object and the lower edge."""
+        feeds = []
+        for heading, rows in sections:
+            self.comment(heading, x, y, COLUMN_WIDTH - 2 * GUTTER, 14.0, bold=True)
+            y += 28
+            for row in rows:
+                feed, height = self.row(row, x + GUTTER, y)
+                if feed:
+                    feeds.append((feed, x))
+                y += height
+            y += 10
+        return feeds, y
+
+    def fill(self, content):
+        self.comment(content["title"], MARGIN, 12, COLUMN_WIDTH, 20.0, bold=True)
+        y = 50 + self.comment(content["digest"], MARGIN, 48, len(content["columns"]) * COLUMN_WIDTH) + 10
+        feeds, bottom = [], y
+        for number, sections in enumerate(content["columns"]):
+            made, lower = self.column(sections, MARGIN + number * COLUMN_WIDTH, y)
+            feeds, bottom = feeds + made, max(bottom, lower)
+        if "object" in content:
+            bottom = self.tail(content, feeds, bottom)
+        self.other_cords(content)
+        return max(x + width for x, _, width, _ in self.place.values()) + MARGIN, bottom + MARGIN
+
+    def tail(self, content, feeds, bottom):
+        """Our object below the columns, everything wired to it by the gutters, and what its outlets go to."""
+        bus, x, y = bottom + 6, MARGIN + GUTTER, bottom + 20
+        own = {"varname": content["varname"]} if "varname" in content else {}
+        verb = self.named["verb"] = self.object(content["object"], x, y, **own)
+        self.comment(content.get("remark", "double-click it when the patcher is locked: its window opens"), x + self.place[verb][2] + COMMENT_GAP, y, 400)
+        for feed, left in feeds:
+            fx, fy, _, height = self.place[feed]
+            turn, out, gutter = fy + height + 4, fx + 9, left + 4
+            self.cord(feed, verb, midpoints=[out, turn, gutter, turn, gutter, bus, x + 9, bus])
+        return self.outlets(content, verb, x, y + 50)
+
+    def outlets(self, content, verb, x, y):
+        right = x + self.place[verb][2] + 40
+        heard = content.get("hear", [])
+        if heard:
+            text = "route " + " ".join(heard)
+            route = self.object(text, x, y)
+            right = max(right, x + self.place[route][2] + 40)
+            self.cord(verb, route)
+            left = x
+            for number, word in enumerate(heard):
+                printed = self.object(f"print {word}", left, y + 44)
+                self.cord(route, printed, outlet=number)
+                left += self.place[printed][2] + 12
+        else:
+            self.cord(verb, self.object("print to-halcyra~", x, y))
+        answers = content.get("answers", ["print answers"])
+        above, outlet = verb, 1
+        for text in answers:
+            made = self.object(text, right, y)
+            self.cord(above, made, outlet=outlet)
+            above, outlet, y = made, 0, y + self.height_of(made) + 12
+        return y + 80
+
+    def other_cords(self, content):
+        for source, outlet, destination in content.get("cords", []):
+            self.cord(self.named[source], self.named[destination], outlet=outlet)
+        for message, target in self.pending:
+            self.cord(message, self.named[target])
+
+
+def patcher(page, width, height, **own):
+    return {
+        "fileversion": 1,
+        "appversion": {"major": 8, "minor": 0, "revision": 0, "architecture": "x64", "modernui": 1},
+        "classnamespace": "box",
+        "rect": own.pop("rect", [100.0, 100.0, float(width), float(height)]),
+        "gridsize": [15.0, 15.0],
+        **own,
+        "boxes": page.boxes,
+        "lines": page.lines,
+    }
+
+
+def single(content):
+    page = Page()
+    width, height = page.fill(content)
+    return {"patcher": patcher(page, width, height)}
+
+
+def tabbed(contents):
+    """Each content becomes a tab of its own; a tab sees no other tab's boxes. The last one is called "?"."""
+    root, tabs = Page(), []
+    for content in contents:
+        page = Page()
+        tabs.append((content["tab"], page, page.fill(content)))
+    width = max(w for _, _, (w, _) in tabs)
+    height = max(h for _, _, (_, h) in tabs)
+    x = MARGIN
+    for number, (name, page, _) in enumerate(tabs):
+        inner = patcher(page, width, height, rect=[0.0, 26.0, float(width), float(height)], showontab=1)
+        text = f'p "{name}"' if " " in name else f"p {name}"
+        varname = "q_tab" if name == "?" else "basic_tab" + (f"[{number}]" if number else "")
+        root.box("newobj", x, MARGIN, text_width(text), 22, text=text, patcher=inner, varname=varname)
+        x += text_width(text) + 10
+    return {"patcher": patcher(root, width, height + 26, showrootpatcherontab=0, showontab=0)}
+
+
+def write(path, content):
+    path.parent.mkdir(parents=True, exist_ok=True)
+    path.write_text(json.dumps(content, indent=1) + "\n", encoding="utf-8")
+
+
+def main():
+    if len(sys.argv) != 2:
+        sys.exit(f"usage: {sys.argv[0]} FOLDER")
+    folder = Path(sys.argv[1])
+    write(folder / "help" / f"{OBJECT}.maxhelp", tabbed(help_content.HELP))
+    write(folder / "extras" / "Halcyra Overview.maxpat", single(help_content.OVERVIEW))
+    for name, content in help_content.EXAMPLES.items():
+        write(folder / "examples" / f"{name}.maxpat", single(content))
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,214 @@
+"""The package as it is made: its patchers are sound, and all that their boxes say is understood by the object.
+
+Called as PackageTest.py FOLDER PATCHBENCH; FOLDER is filled by package/contents."""
+
+import json
+import re
+import subprocess
+import sys
+import tempfile
+import unittest
+import xml.etree.ElementTree as ElementTree
+from pathlib import Path
+
+FOLDER, BENCH = Path(sys.argv[1]), Path(sys.argv[2]).resolve()
+OBJECT = "halcyra~.control"
+PATCHERS = sorted(p for p in FOLDER.rglob("*") if p.suffix in (".maxpat", ".maxhelp"))
+# What a message may not print: the host's and the object's ways to complain.
+COMPLAINT = re.compile(r'^\S+ (error|bug|warn|new failed)\b|doesn\'t understand')
+# Service messages and those that only the host sends.
+NOT_FOR_USERS = {"generatexml", "preset", "recallpreset"}
+
+
+def load(path):
+    return json.loads(path.read_text(encoding="utf-8"))["patcher"]
+
+
+def pages():
+    """Every patcher of every file, tabs included, with a name for failures."""
+    for path in PATCHERS:
+        root = load(path)
+        yield path.name, root
+        for box in root["boxes"]:
+            if "patcher" in box["box"]:
+                yield f'{path.name}, {box["box"]["text"]}', box["box"]["patcher"]
+
+
+def boxes_of(page):
+    return {b["box"]["id"]: b["box"] for b in page["boxes"]}
+
+
+def cords_of(page):
+    return [(tuple(c["patchline"]["source"]), tuple(c["patchline"]["destination"])) for c in page["lines"]]
+
+
+def is_object(box):
+    return box["maxclass"] == "newobj" and box["text"].split()[0] == OBJECT
+
+
+def overlap(a, b):
+    (ax, ay, aw, ah), (bx, by, bw, bh) = a["patching_rect"], b["patching_rect"]
+    return ax < bx + bw and bx < ax + aw and ay < by + bh and by < ay + ah
+
+
+def split_message(text):
+    """The messages of a box: parted by commas, which a backslash would protect."""
+    return [part.strip() for part in re.split(r"(?<!\\),", text)]
+
+
+def in_reading_order(boxes):
+    return sorted(boxes, key=lambda box: (box["patching_rect"][0] // 470, box["patching_rect"][1]))
+
+
+def played(page, folder):
+    """Bench commands for all that is connected to the page's objects, each preceded by a comment that names it."""
+    boxes, cords = boxes_of(page), cords_of(page)
+    commands = []
+    for box in boxes.values():
+        if is_object(box):
+            commands.append(f'new {box["id"]} {box["text"]}')
+        if box["maxclass"] == "newobj" and box["text"].startswith("dict "):
+            commands.append(f'dict {box["text"].split()[1]} gain -6.')
+    for box in in_reading_order(boxes.values()):
+        for target in (boxes[d[0]] for s, d in cords if s[0] == box["id"] and is_object(boxes[d[0]])):
+            if box["maxclass"] == "attrui":
+                commands += [f'send {target["id"]} get{box["attr"]}']
+            elif box["maxclass"] == "message":
+                feeders = [boxes[s[0]] for s, d in cords if d[0] == box["id"]]
+                value = "1" if feeders and feeders[0]["maxclass"] in ("toggle", "number") else "1."
+                for message in split_message(box["text"].replace("$1", value)):
+                    if message.split()[0] in ("writesnapshot", "readsnapshot", "exportdict"):
+                        commands.append(f"dialog {folder}/{message.split()[0][-4:]}")
+                    commands.append(f'send {target["id"]} {message}')
+    return commands
+
+
+def bench(commands, folder):
+    run = subprocess.run([BENCH, "--window", "offscreen"], input="\n".join(commands) + "\n", cwd=folder, text=True, capture_output=True, timeout=120)
+    return run.returncode, run.stdout.splitlines(), run.stderr
+
+
+class Patchers(unittest.TestCase):
+    def test_all_expected_files_are_there(self):
+        self.assertEqual({p.name for p in PATCHERS} & {f"{OBJECT}.maxhelp", "Halcyra Overview.maxpat"}, {f"{OBJECT}.maxhelp", "Halcyra Overview.maxpat"})
+        self.assertGreaterEqual(len(PATCHERS), 4)
+
+    def test_boxes_are_well_formed_and_have_ids_of_their_own(self):
+        for name, page in pages():
+            with self.subTest(name):
+                boxes = [b["box"] for b in page["boxes"]]
+                self.assertEqual(len({b["id"] for b in boxes}), len(boxes))
+                varnames = [b["varname"] for b in boxes if "varname" in b]
+                self.assertEqual(len(set(varnames)), len(varnames))
+                for box in boxes:
+                    self.assertEqual(len(box.get("outlettype", [])), box["numoutlets"], box)
+                    self.assertTrue(box["maxclass"] != "message" or box["text"], box)
+
+    def test_cords_join_existing_ports_once(self):
+        for name, page in pages():
+            with self.subTest(name):
+                boxes, cords = boxes_of(page), cords_of(page)
+                self.assertEqual(len(set(cords)), len(cords))
+                for (source, outlet), (destination, inlet) in cords:
+                    self.assertLess(outlet, boxes[source]["numoutlets"])
+                    self.assertLess(inlet, boxes[destination]["numinlets"])
+
+    def test_every_control_is_connected(self):
+        for name, page in pages():
+            with self.subTest(name):
+                used = {s[0] for s, _ in cords_of(page)}
+                for box in boxes_of(page).values():
+                    if box["maxclass"] in ("message", "attrui", "flonum", "number", "toggle", "button"):
+                        self.assertIn(box["id"], used, box)
+
+    def test_boxes_lie_apart_and_inside_the_window(self):
+        for name, page in pages():
+            with self.subTest(name):
+                boxes = list(boxes_of(page).values())
+                for number, box in enumerate(boxes):
+                    x, y, width, height = box["patching_rect"]
+                    self.assertTrue(x >= 0 and y >= 0 and width > 0 and height > 0, box)
+                    if not page.get("showrootpatcherontab") == 0:
+                        self.assertLessEqual(x + width, page["rect"][2], box)
+                        self.assertLessEqual(y + height, page["rect"][3], box)
+                    for other in boxes[number + 1 :]:
+                        self.assertFalse(overlap(box, other), (box, other))
+
+    def test_help_has_its_tabs(self):
+        root = load(FOLDER / "help" / f"{OBJECT}.maxhelp")
+        tabs = [b["box"] for b in root["boxes"]]
+        names = [t["text"][2:].strip('"') for t in sorted(tabs, key=lambda t: t["patching_rect"][0])]
+        self.assertEqual((names[0], names[-1]), ("basic", "?"))
+        self.assertLessEqual({"time structure", "filters", "scene", "snapshots", "state"}, set(names))
+        self.assertTrue(all(t["patcher"]["showontab"] == 1 for t in tabs))
+        self.assertEqual(root["lines"], [])
+
+    def test_links_lead_to_files_of_the_package(self):
+        names = {p.name for p in PATCHERS}
+        links = [b["text"].split(" ", 1)[1] for _, page in pages() for b in boxes_of(page).values() if b["maxclass"] == "message" and b["text"].startswith("load ")]
+        self.assertTrue(links)
+        self.assertLessEqual(set(links), names)
+
+
+class OnTheBench(unittest.TestCase):
+    def test_everything_that_is_connected_to_the_object_is_understood(self):
+        for name, page in pages():
+            with self.subTest(name), tempfile.TemporaryDirectory() as folder:
+                # What readsnapshot reads is what writesnapshot wrote.
+                commands = [c.replace(f"{folder}/shot", f"{folder}/snapshots.xml") for c in played(page, folder)]
+                if not commands:
+                    continue
+                status, lines, complaints = bench(commands, folder)
+                self.assertEqual((status, complaints), (0, ""))
+                self.assertEqual([line for line in lines if COMPLAINT.search(line)], [])
+
+    def test_a_message_that_is_not_understood_would_be_seen(self):
+        page = {"boxes": [{"box": {"id": "obj-1", "maxclass": "message", "text": "gain 1, frobnicate 3", "patching_rect": [0, 0, 1, 1]}},
+                          {"box": {"id": "obj-2", "maxclass": "newobj", "text": OBJECT, "patching_rect": [0, 50, 1, 1]}}],
+                "lines": [{"patchline": {"source": ["obj-1", 0], "destination": ["obj-2", 0]}}]}
+        with tempfile.TemporaryDirectory() as folder:
+            _, lines, _ = bench(played(page, folder), folder)
+        self.assertEqual(len([line for line in lines if COMPLAINT.search(line)]), 1)
+
+    def test_controls_and_arguments_name_attributes_of_the_class(self):
+        _, lines, _ = bench([f"new x {OBJECT}", "attrs x"], FOLDER)
+        attributes = {line.split()[2] for line in lines if line.startswith("x attr ")}
+        self.assertIn("gain", attributes)
+        for name, page in pages():
+            for box in boxes_of(page).values():
+                words = re.findall(r"@(\w+)", box["text"]) if is_object(box) else []
+                with self.subTest(name, box=box["id"]):
+                    self.assertLessEqual(set(words + ([box["attr"]] if "attr" in box else [])), attributes)
+
+    def test_help_shows_every_message_for_users(self):
+        _, lines, _ = bench([f"new x {OBJECT}", "methods x"], FOLDER)
+        methods = {line.split()[2] for line in lines if line.startswith("x method ") and "A_CANT" not in line}
+        root = load(FOLDER / "help" / f"{OBJECT}.maxhelp")
+        shown = {m.split()[0] for t in root["boxes"] for b in boxes_of(t["box"]["patcher"]).values() if b["maxclass"] == "message" for m in split_message(b["text"])}
+        self.assertIn("source", methods)
+        self.assertEqual(methods - NOT_FOR_USERS - shown, set())
+
+
+class Files(unittest.TestCase):
+    def test_metadata(self):
+        info = json.loads((FOLDER / "package-info.json").read_text())
+        self.assertEqual((info["name"], info["version"]), ("halcyra", "4.9.2"))
+        self.assertIn(info["homepatcher"], {p.name for p in (FOLDER / "extras").iterdir()})
+        self.assertIn("GNU", (FOLDER / "license.txt").read_text()[:2000])
+
+    def test_icon_is_a_png_of_500_by_500(self):
+        head = (FOLDER / "icon.png").read_bytes()[:24]
+        self.assertEqual((head[1:4], int.from_bytes(head[16:20], "big"), int.from_bytes(head[20:24], "big")), (b"PNG", 500, 500))
+
+    def test_reference_page_is_of_the_object(self):
+        page = ElementTree.parse(FOLDER / "docs" / f"{OBJECT}.maxref.xml").getroot()
+        self.assertEqual(page.get("name"), OBJECT)
+        self.assertGreater(len(page.findall("attributelist/attribute")), 50)
+
+    def test_nothing_names_a_path_of_this_machine(self):
+        for path in (p for p in FOLDER.rglob("*") if p.is_file() and p.suffix != ".png"):
+            self.assertNotIn(str(FOLDER.resolve().parent), path.read_text(encoding="utf-8"), path)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
