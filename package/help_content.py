@@ -42,7 +42,7 @@ BASIC = {
                 ("send", "getnumsources", "how many sources there are"),
             ]),
             ("What comes out", [
-                ("say", "Left: every change that was heard or made in the window, as the messages that halcyra~ takes, such as reverb tr0 2. or source 1 aed 30. 0. 1. A value that is already set is not sent again, so two objects may be connected in a ring."),
+                ("say", "Left: every change that was heard or made in the window, as the messages that halcyra~ takes, such as reverb tr0 2. or source 1 aed 30. 0. 1. A reverb value that is already set is not sent again; a position always is, so do not connect two objects in a ring."),
                 ("say", "Right: answers to get messages, to dump and to dumpdict."),
             ]),
             ("Good to know", [
@@ -64,13 +64,13 @@ TIME = {
     "columns": [
         [
             ("Room size", [
-                ("from", ["flonum 10 15000"], "roomsize $1", "cubic metres; sets all times at once. Takes a float, so write 2000. with its point"),
+                ("from", ["flonum 10 15000"], "roomsize $1", "cubic metres; sets all times and the density at once. Takes a float, so write 2000. with its point"),
             ]),
             ("Early reflections", [
                 ("attr", "early_start", "ms"),
                 ("attr", "early_end", "ms"),
                 ("attr", "early_distr", "0.5 is even"),
-                ("attr", "early_shape", "0 to 1: falling or rising"),
+                ("attr", "early_shape", "below 0.5 they fall, above they rise"),
                 ("attr", "early_width", "degrees"),
                 ("send", "early start 18.5", "the same by the reverberator's words: start, end, distr, shape, width"),
             ]),
@@ -218,7 +218,7 @@ VIEW = {
                 ("attr", "speakerseditable", ""),
                 ("attr", "listenereditable", ""),
                 ("attr", "circularconstraint", "only around the centre"),
-                ("attr", "radiusconstraint", "never closer than allowed"),
+                ("attr", "radiusconstraint", "a drag keeps the distance"),
             ]),
             ("Grid and background", [
                 ("attr", "gridmode", "none, circular, square"),

@@ -45,7 +45,7 @@ PORTS = {
     "print": (1, []),
 }
 # Classes that draw themselves: their size.
-PICTURES = {"toggle": (22, 22), "button": (22, 22), "flonum": (60, 22), "number": (60, 22), "preset": (100, 40), "dict.view": (300, 150)}
+PICTURES = {"toggle": (22, 22), "button": (22, 22), "flonum": (60, 22), "number": (60, 22), "preset": (100, 40), "dict.view": (300, 80)}
 
 
 def ports(text):
@@ -217,8 +217,8 @@ class Page:
         for text in answers:
             made = self.object(text, right, y)
             self.cord(above, made, outlet=outlet)
-            above, outlet, y = made, 0, y + self.height_of(made) + 12
-        return y + 80
+            above, outlet, y = made, 0, y + self.height_of(made) + 10
+        return max(top + height for _, top, _, height in self.place.values())
 
     def other_cords(self, content):
         for source, outlet, destination in content.get("cords", []):
