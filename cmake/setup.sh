@@ -35,14 +35,31 @@ install_packages_by()
         { tail -n 20 "${TMPDIR:-/tmp}/halcyra-install.log" >&2; echo "The packages could not be installed." >&2; exit 1; }
 }
 
-# build PRESET [TARGET ...]: configures once, then brings the targets up to date.
-build()
+# configured PRESET [OPTION ...]: configures the preset's tree with these options, unless that has been done.
+configured()
 {
     local preset=$1 tree=$root/build/$1
     shift
-    if [ ! -f "$tree/build.ninja" ]; then
-        echo "Configuring $preset" >&2
-        (cd "$root" && cmake --preset "$preset") >&2 || exit 1
-    fi
+    [ -f "$tree/build.ninja" ] && holds_options "$tree/CMakeCache.txt" "$@" && return
+    echo "Configuring $preset" >&2
+    (cd "$root" && cmake --preset "$preset" "$@") >&2 || exit 1
+}
+
+# holds_options CACHE [-DNAME=VALUE ...]
+holds_options()
+{
+    local cache=$1 option
+    shift
+    for option; do
+        option=${option#-D}
+        grep -q "^${option%%=*}:[A-Z]*=${option#*=}\$" "$cache" || return 1
+    done
+}
+
+# build PRESET [TARGET ...]: brings the targets of a configured tree up to date, all of them if none is named.
+build()
+{
+    local tree=$root/build/$1
+    shift
     cmake --build "$tree" ${1:+--target "$@"} >&2 || exit 1
 }

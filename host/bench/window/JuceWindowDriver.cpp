@@ -38,7 +38,7 @@ juce::TabbedComponent* tabsIn (juce::Component& component)
     for (auto* child : component.getChildren()) {
         if (auto* tabs = dynamic_cast<juce::TabbedComponent*> (child))
             return tabs;
-        if (auto* tabs = tabsIn (*child))
+        if (auto* tabs = child != nullptr ? tabsIn (*child) : nullptr)
             return tabs;
     }
     return nullptr;
