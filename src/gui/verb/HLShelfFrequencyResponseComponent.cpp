@@ -10,8 +10,6 @@ namespace
 {
 
 const juce::Colour curveColour{ 0x9E2A9DA5 };
-const juce::Colour gridColour{ 0xFF808080 };
-constexpr float gridFontHeight = 10;
 
 /** The field that each handle moves, in the order of the handles. */
 constexpr float HLShelfParameters::*handleFields[] = { &HLShelfParameters::Gl, &HLShelfParameters::Gm,
