@@ -37,7 +37,9 @@ t_dictionary* makeAttributeDictionary (const ClassRecord& type, const BoxArgumen
             putAtoms (d, attribute->visible.name, preset->value);
     }
     for (const auto& group : arguments.groups) {
-        putAtoms (d, group.attribute, group.values);
+        // A name alone says nothing: the default stands.
+        if (! group.values.empty() || dictionary_hasentry (d, group.attribute) == 0)
+            putAtoms (d, group.attribute, group.values);
         dictionaryOf (d)->attributeWords.insert (group.attribute);
     }
     return d;

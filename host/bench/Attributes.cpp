@@ -87,13 +87,14 @@ t_atom filtered (const Filter& filter, FieldType::Family family, t_atom atom)
     if (atom.a_type != A_LONG && atom.a_type != A_FLOAT)
         return atom;
     const auto before = atom_getfloat (&atom);
+    if (std::isnan (before))
+        return atom; // within no bounds, and no integer either: the setter's own affair
     auto value = before * filter.scale;
     if (filter.useMin && value < filter.min)
         value = filter.min;
     if (filter.useMax && value > filter.max)
         value = filter.max;
-    const bool changed = value != before && ! std::isnan (value);
-    if (changed)
+    if (value != before)
         atom_setfloat (&atom, value);
     if (family == FieldType::Family::integer && atom.a_type == A_FLOAT)
         atom_setlong (&atom, atom_getlong (&atom));

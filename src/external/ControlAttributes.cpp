@@ -10,6 +10,7 @@
 #include "max/OrvanemaxSymbols.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace halcyra
 {
@@ -68,29 +69,45 @@ constexpr SizeRow sizes[] = {
     { &Words::numinternals, &Control::numinternals, false, "could not dynamically change number of internal channels" },
 };
 
-/** The attribute's filter has clipped it; the record's room must not depend on that. */
-t_atom_long within (const SizeRow& size, t_atom_long value)
+const AttributeRow& rowOf (const SizeRow& size)
 {
-    for (const auto& attribute : table)
-        if (gensym (attribute.row.name) == symbol (size.name))
-            return std::clamp (value, static_cast<t_atom_long> (attribute.row.low),
-                               static_cast<t_atom_long> (attribute.row.high));
-    return value;
+    return std::find_if (std::begin (table), std::end (table),
+                         [&] (const ControlAttribute& a) { return gensym (a.row.name) == symbol (size.name); })
+        ->row;
 }
 
-void setSize (t_halcyra_control* x, const SizeRow& size, t_atom_long wish)
+/** The attribute's filter has clipped the size; the record's room must not depend on that. */
+void storeSize (t_halcyra_control* x, const SizeRow& size, t_atom_long wish)
 {
-    if (x->constructed) {
-        if (wish != x->*size.value)
-            tellError (x, size.complaint);
-        return;
-    }
-    x->*size.value = within (size, wish);
+    const auto& row = rowOf (size);
+    x->*size.value = std::clamp (wish, static_cast<t_atom_long> (row.low), static_cast<t_atom_long> (row.high));
     x->sourcespositionssize = static_cast<std::int32_t> (3 * x->numsources);
     x->speakerspositionssize = static_cast<std::int32_t> (3 * x->numspeakers);
     x->sourcecolorsize = 4 * x->numsources;
+}
+
+void setSize (t_halcyra_control* x, const SizeRow& size, Atoms atoms)
+{
+    if (x->constructed) {
+        if (atoms.integer (0) != x->*size.value)
+            tellError (x, size.complaint);
+        return;
+    }
+    if (! atoms.fit ("n"))
+        return;
+    storeSize (x, size, atoms.integer (0));
     if (size.notifies)
         object_notify (x, modified(), nullptr);
+}
+
+/** Two values, of which anything but a number counts 0; one that is infinite or no number spoils all. */
+void setTopLeft (t_halcyra_control* x, Atoms atoms)
+{
+    if (std::any_of (atoms.begin(), atoms.end(), isBadFloat))
+        return;
+    x->windowtopleft[0] = atoms.number (0);
+    x->windowtopleft[1] = atoms.number (1);
+    x->window->setTopLeft (x->windowtopleft);
 }
 
 /** On the main thread; the name says which attribute of the window. */
@@ -101,11 +118,9 @@ void setWindowOption (t_halcyra_control* x, t_symbol* name, short argc, t_atom* 
         if (name == symbols().windowtitle && atoms.fit ("s")) {
             x->windowtitle = atoms.symbol (0);
             x->window->setTitle (x->windowtitle->s_name);
-        } else if (name == symbols().windowtopleft && atoms.areNumbers()) {
-            x->windowtopleft[0] = atoms.number (0);
-            x->windowtopleft[1] = atoms.number (1);
-            x->window->setTopLeft (x->windowtopleft);
-        } else if (name == symbols().windowmoveable && atoms.areNumbers()) {
+        } else if (name == symbols().windowtopleft) {
+            setTopLeft (x, atoms);
+        } else if (name == symbols().windowmoveable && atoms.fit ("n")) {
             x->windowmoveable = atoms.number (0) != 0 ? 1 : 0;
             x->window->setMoveable (x->windowmoveable != 0);
         }
@@ -130,7 +145,7 @@ void setAttribute (t_halcyra_control* x, t_symbol* name, t_clong argc, t_atom* a
 {
     for (const auto& size : sizes)
         if (symbol (size.name) == name)
-            return setSize (x, size, Atoms (argc, argv).integer (0));
+            return setSize (x, size, Atoms (argc, argv));
     if (isReverbValue (name))
         return halcyra_control_defer_msg (x, name, argc, argv);
     if (! isWindowOption (name))
@@ -144,6 +159,12 @@ void setAttribute (t_halcyra_control* x, t_symbol* name, t_clong argc, t_atom* a
 }
 
 ControlAttributeTable controlAttributes() noexcept { return { table, std::size (table) }; }
+
+void fillSizeDefaults (t_halcyra_control* x)
+{
+    for (const auto& size : sizes)
+        storeSize (x, size, std::atoi (rowOf (size).defaultText));
+}
 
 }
 

@@ -24,6 +24,9 @@ struct ControlAttributeTable
 /** All of them, in order of registration. */
 [[nodiscard]] ControlAttributeTable controlAttributes() noexcept;
 
+/** The sizes that an object has when it is told none. */
+void fillSizeDefaults (t_halcyra_control* x);
+
 }
 
 /** Their one setter. Sizes are taken until the object is made, reverb values go to the gate, and the window's are set

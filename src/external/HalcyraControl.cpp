@@ -1,6 +1,7 @@
 #include "external/HalcyraControl.h"
 
 #include "common/OrvaneDspException.h"
+#include "external/ControlAttributes.h"
 #include "external/DeferredMessages.h"
 #include "external/MaxHalcyraListener.h"
 #include "external/Registration.h"
@@ -48,6 +49,7 @@ void allocateArrays (t_halcyra_control* x)
 /** What the record must hold before the first attribute is read. */
 void fillDefaults (t_halcyra_control* x)
 {
+    fillSizeDefaults (x);
     fillViewerDefaults (x);
     for (auto& filter : x->filters)
         filter = HLShelfParameters();

@@ -76,7 +76,7 @@ bool zoomLock (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 
 bool frameOption (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
-    if (atoms.empty())
+    if (! atoms.fit ("n"))
         return false;
     const bool on = atoms.number (0) != 0;
     field<std::int32_t> (x, row) = on ? 1 : 0;

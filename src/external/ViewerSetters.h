@@ -67,11 +67,11 @@ bool word (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
     return true;
 }
 
-/** A colour of the plane; a value that is missing or no number counts 0. */
+/** A colour of the plane; a value that is missing or a word counts 0, and an infinite one or none spoils all. */
 template <auto set>
 bool colour (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
-    if (atoms.empty())
+    if (atoms.empty() || std::any_of (atoms.begin(), atoms.end(), orvanemax::isBadFloat))
         return true;
     auto* rgba = &field<double> (x, row);
     for (std::size_t i = 0; i < 4; ++i)

@@ -128,6 +128,8 @@ bool isNumber (const t_atom& atom) noexcept
     return type == A_LONG || (type == A_FLOAT && std::isfinite (static_cast<float> (atom_getfloat (&atom))));
 }
 
+bool isBadFloat (const t_atom& atom) noexcept { return atom_gettype (&atom) == A_FLOAT && ! isNumber (atom); }
+
 std::string fixedText (double value)
 {
     std::array<char, 400> digits{}; // the largest double has 309 of them before the point

@@ -51,6 +51,9 @@ private:
 /** A long or a finite 32-bit float. */
 [[nodiscard]] bool isNumber (const t_atom& atom) noexcept;
 
+/** A float that is infinite, not a number, or beyond 32 bits. */
+[[nodiscard]] bool isBadFloat (const t_atom& atom) noexcept;
+
 /** A float in decimals, always with a point, whatever the locale: six decimals, as printf's %f has them. */
 [[nodiscard]] std::string fixedText (double value);
 

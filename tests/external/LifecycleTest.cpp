@@ -61,6 +61,16 @@ TEST_P (Lifecycle, SizesAreTakenClippedAndThenFixed)
     EXPECT_EQ (box.attribute ("numsources"), "64");
 }
 
+TEST_P (Lifecycle, SizesThatAreNoNumbersStayTheDefaults)
+{
+    auto box = settled ("@numsources foo @numspeakers @numinternals 3 4 @tr0 @windowtopleft");
+    EXPECT_EQ (box.attribute ("numsources"), "6");
+    EXPECT_EQ (box.attribute ("numspeakers"), "6");
+    EXPECT_EQ (box.attribute ("numinternals"), "8");
+    EXPECT_EQ (box.attribute ("windowtopleft"), "50. 800.");
+    EXPECT_EQ (bench::attributeOf (*box, "sourcespositions").value().size(), 18u);
+}
+
 TEST_P (Lifecycle, AFreshObjectHidesAperturesAndShowsItsDefaults)
 {
     auto box = settled ("@showaperture 1 @numsources 2 @name bob eve @gain 3");

@@ -52,6 +52,22 @@ TEST_P (MessagesIn, AreAppliedAndEchoed)
     }
 }
 
+TEST_P (MessagesIn, SetTheWindowsOptionsFromWhateverReadsAsANumber)
+{
+    const char* rows[][3] = {
+        { "windowtopleft 7 foo", "windowtopleft", "7. 0." },   { "windowtopleft foo 8 9", "windowtopleft", "0. 8." },
+        { "windowtopleft", "windowtopleft", "0. 8." },         { "windowtopleft 5", "windowtopleft", "5. 0." },
+        { "windowmoveable 0 foo", "windowmoveable", "0" },     { "windowmoveable foo", "windowmoveable", "0" },
+        { "windowmoveable 7", "windowmoveable", "1" },         { "windowtitle 3", "windowtitle", "Halcyra" },
+        { "windowtitle \"a b\" c", "windowtitle", "\"a b\"" },
+    };
+    auto box = settled();
+    for (const auto& [message, attribute, value] : rows) {
+        EXPECT_EQ (saying (box, message), Messages()) << message;
+        EXPECT_EQ (box.attribute (attribute), value) << message;
+    }
+}
+
 TEST_P (MessagesIn, LinearGainsHaveAFloor)
 {
     auto box = settled();
@@ -189,10 +205,21 @@ TEST_P (MessagesIn, NumbersThatAreNoneNeverEnterTheState)
         box.send ("sourcespositions", list ({ bad, 0, 0 }));
         box.send ("xoffset", list ({ bad }));
         box.send ("windowtopleft", list ({ bad, bad }));
+        box.send ("windowtopleft", list ({ 3, bad }));
+        box.send ("backgroundcolor", list ({ 0.7, 0.7, 0.7, bad }));
+        box.send ("sourcecolor", list ({ bad, 0, 0, 1, bad, 0, 0, 1 }));
+        box.send ("speakerspositions", list ({ bad, 0, 0 }));
+        box.send ("listeneryaw", list ({ bad }));
+        box.send ("backgroundimageangle", list ({ bad }));
         box.send ("listenerposition", list ({ bad, bad, 0 }));
         box.send ("shoeboxcorners", list ({ bad, bad, 0, 0, 0, 0 }));
         settle();
     }
+    // Infinity is clipped where there is a range; what is no number is nowhere within one.
+    for (const auto* name : { "windowmoveable", "showfps", "zoom", "gain", "infinite", "numangulardivisions", "yaw",
+                              "aperture", "radius", "sourceslevels", "speakerslevels", "numsources", "direct" })
+        box.send (name, list ({ std::nan (""), std::nan (""), 0, 0, 0, 0 }));
+    settle();
     EXPECT_EQ (stateOf (box), before);
     EXPECT_FALSE (box.console().empty());
     EXPECT_EQ (saying (box, "gain 1"), Messages()); // and an ordinary one still lands
