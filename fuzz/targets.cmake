@@ -1,6 +1,14 @@
 # The fuzz targets, read both by fuzz/ and by tests/corpus/. To add one: write its LLVMFuzzerTestOneInput, add a line
-# here (sources are files of fuzz/), and put at least one input into tests/corpus/<target>/.
+# here (sources are files of fuzz/), and put at least one input into tests/corpus/<target>/. With RANDOM n the suite plays
+# n inputs of a fixed seed as well.
 halcyra_add_fuzz_target(snapshots LINK halcyra::qel SOURCES SnapshotFileFuzz.cpp)
 halcyra_add_fuzz_target(xml LINK halcyra::qel SOURCES XmlReaderFuzz.cpp)
 halcyra_add_fuzz_target(osc_address LINK halcyra::qel SOURCES OscAddressFuzz.cpp)
 halcyra_add_fuzz_target(osc_pattern LINK halcyra::qel SOURCES OscPatternFuzz.cpp)
+if(TARGET control_on_bench)
+    set(object ControlFuzz.cpp FuzzBytes.cpp)
+    set(objectParts halcyra::control_on_bench halcyra::bench_window)
+    halcyra_add_fuzz_target(coordinates LINK ${objectParts} SOURCES CoordinatesFuzz.cpp ${object} RANDOM 2000)
+    halcyra_add_fuzz_target(setvalueof LINK ${objectParts} SOURCES SetValueOfFuzz.cpp ${object})
+    halcyra_add_fuzz_target(session LINK ${objectParts} SOURCES SessionFuzz.cpp ${object} RANDOM 60)
+endif()

@@ -1,0 +1,76 @@
+#pragma once
+#include "external/HalcyraControl.h"
+#include "host/bench/Bench.h"
+#include "host/bench/Inspect.h"
+
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+
+/** Where the window of the measured object is. */
+enum class Window
+{
+    never,
+    closed, // was open, and hides
+    open,
+    scene // open, and shows the scene's page
+};
+
+/** An object with 64 sources and 64 speakers on the bench, its window in memory, and beside it a minimal class that
+    only defers and sends one message. */
+class ControlBenchmark
+{
+public:
+    explicit ControlBenchmark (Window window = Window::never);
+
+    /** Sends a message and pumps until all that it caused is over, repaints included. */
+    void send (t_symbol* selector, const bench::Atoms& atoms);
+    void send (const char* text);
+
+    /** The floor: the minimal class's deferred message, in a host without windows to pump. */
+    void sendMinimal();
+
+    [[nodiscard]] t_halcyra_control& record() const;
+
+    bench::Bench patch;
+    bench::Box* box = nullptr;
+    bench::Box* minimal = nullptr;
+
+private:
+    bench::Atoms value = bench::Atoms (1);
+    double turn = 0;
+};
+
+inline double seconds()
+{
+    return std::chrono::duration<double> (std::chrono::steady_clock::now().time_since_epoch()).count();
+}
+
+/** Operator new so far. */
+long allocations();
+
+/** Does the work and its floor in turn. The columns: `ratio` of their times, with the floor taken so many times, the
+    floor's time in microseconds, and the work's allocations less the floor's. */
+template <typename Work, typename Floor>
+void compare (benchmark::State& state, Work&& work, Floor&& floor, double floors = 1)
+{
+    double workTime = 0, floorTime = 0;
+    long made = 0;
+    for ([[maybe_unused]] const auto turn : state) {
+        const auto before = allocations();
+        const double start = seconds();
+        floor();
+        const double middle = seconds();
+        const auto between = allocations();
+        work();
+        const double end = seconds();
+        made += (allocations() - between) - (between - before);
+        floorTime += middle - start;
+        workTime += end - middle;
+        state.SetIterationTime (end - middle);
+    }
+    const auto turns = static_cast<double> (state.iterations());
+    state.counters["ratio"] = workTime / (floorTime * floors);
+    state.counters["floor_us"] = floorTime * 1e6 / turns;
+    state.counters["allocations"] = static_cast<double> (made) / turns;
+}
