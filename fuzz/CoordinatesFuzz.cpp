@@ -9,11 +9,6 @@ using orvanemax::Atoms;
 namespace
 {
 
-bool isFinite (const qel::Point3& point)
-{
-    return std::isfinite (point.x) && std::isfinite (point.y) && std::isfinite (point.z);
-}
-
 bool areEqual (const qel::Point3& a, const qel::Point3& b) { return a.x == b.x && a.y == b.y && a.z == b.z; }
 
 /** One object for the life of the process: reading positions changes nothing of it. */
@@ -34,7 +29,7 @@ void readOne (FuzzBytes& input, Atoms atoms)
     qel::Point3 point{ 1, 2, 3 };
     const auto before = point;
     const bool good = input.oneOf (readersOfOne) (control(), point, atoms);
-    require (isFinite (point) && (good || areEqual (point, before)));
+    require (qel::isFinite (point) && (good || areEqual (point, before)));
 }
 
 void readMany (FuzzBytes& input, Atoms atoms)
@@ -43,7 +38,7 @@ void readMany (FuzzBytes& input, Atoms atoms)
     qel::Point3Array points (3);
     if (read (control(), points, atoms))
         for (const auto& point : points)
-            require (isFinite (point));
+            require (qel::isFinite (point));
 }
 
 /** Formats are set by any word, and any finite point is written in them as finite numbers or not at all. */
@@ -55,7 +50,7 @@ void write (FuzzBytes& input)
                        static_cast<float> (input.number()) };
     t_atom written[qel::maxCoordinateValues] = {};
     auto* end = written;
-    if (isFinite (point) && halcyra::writeInFormat (x, point, end))
+    if (qel::isFinite (point) && halcyra::writeInFormat (x, point, end))
         for (const auto* atom = written; atom != end; ++atom)
             require (std::isfinite (atom_getfloat (atom)));
 }

@@ -2,6 +2,8 @@
 #include "FuzzBytes.h"
 #include "host/bench/WindowDriver.h"
 
+#include <juce_gui_basics/juce_gui_basics.h>
+
 #include <algorithm>
 
 namespace
@@ -99,7 +101,7 @@ public:
     {
         while (! input.isOver())
             step();
-        fuzz.patch.settle();
+        settle();
         for (const auto& name : fuzz.patch.names())
             ControlFuzz::requireFiniteState (*fuzz.patch.find (name));
     }
@@ -125,7 +127,13 @@ private:
 
     bench::Thread thread() { return input.choice (8) == 7 ? bench::Thread::scheduler : bench::Thread::main; }
 
-    void settle() { fuzz.patch.settle(); }
+    /** With what is out of date in the windows drawn, as a window system asks for. */
+    void settle()
+    {
+        fuzz.patch.settle();
+        for (int i = 0; i < juce::ComponentPeer::getNumPeers(); ++i)
+            juce::ComponentPeer::getPeer (i)->performAnyPendingRepaintsNow();
+    }
 
     /** Valid but for what may be replaced, left out or repeated. */
     void sendGood()

@@ -37,6 +37,12 @@ void* operator new (std::size_t size)
 void operator delete (void* memory) noexcept { std::free (memory); }
 void operator delete (void* memory, std::size_t) noexcept { std::free (memory); }
 
+void paintWindows()
+{
+    for (int i = 0; i < juce::ComponentPeer::getNumPeers(); ++i)
+        juce::ComponentPeer::getPeer (i)->performAnyPendingRepaintsNow();
+}
+
 ControlBenchmark::ControlBenchmark (Window window)
 {
     patch.load (minimal_main);
@@ -52,6 +58,7 @@ ControlBenchmark::ControlBenchmark (Window window)
     if (window == Window::scene) {
         bench::windowDriver()->turnPage (box->object, 3);
         patch.settle();
+        paintWindows();
     }
 }
 
@@ -59,12 +66,14 @@ void ControlBenchmark::send (t_symbol* selector, const bench::Atoms& atoms)
 {
     patch.send (*box, selector, atoms);
     patch.settle();
+    paintWindows();
 }
 
 void ControlBenchmark::send (const char* text)
 {
     patch.send (*box, text);
     patch.settle();
+    paintWindows();
 }
 
 void ControlBenchmark::sendMinimal()

@@ -46,6 +46,9 @@ inline double seconds()
     return std::chrono::duration<double> (std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
+/** Draws what is out of date in the windows, as a window system asks for from time to time. */
+void paintWindows();
+
 /** Operator new so far. */
 long allocations();
 

@@ -64,6 +64,7 @@ void firstOpen (benchmark::State& state)
     const auto open = [&] {
         bench.patch.send (*made, "open");
         bench.patch.settle();
+        paintWindows();
     };
     measureOpen (state, bench, makeAnother, open);
 }
@@ -89,6 +90,7 @@ void idle (benchmark::State& state)
 {
     const auto share = [] (Window window) {
         ControlBenchmark bench (window);
+        paintWindows();
         const double start = processorSeconds();
         bench.patch.wait (1000);
         return 100 * (processorSeconds() - start);

@@ -24,6 +24,7 @@ Record& theRecord()
     return all;
 }
 
+MAX_FORMAT (1, 0)
 std::string formatted (const char* format, va_list arguments)
 {
     va_list again;

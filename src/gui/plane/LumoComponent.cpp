@@ -41,17 +41,25 @@ void Component::applyLookAndFeel()
 
 void Component::SetOpenGLEnabled (bool enabled)
 {
-    if (openGLContext == nullptr) {
-        if (! enabled)
-            return;
-        openGLContext = std::make_unique<juce::OpenGLContext>();
-    }
-    openGLContext->detach();
-    if (enabled) {
-        openGLContext->setContinuousRepainting (true);
-        openGLContext->attachTo (*this);
-    }
+    openGLIsWanted = enabled;
+    if (openGLContext != nullptr)
+        openGLContext->detach();
+    attachOpenGL();
 }
+
+void Component::attachOpenGL()
+{
+    const auto* peer = getPeer();
+    const bool canAttach = peer != nullptr && peer->getNativeHandle() != nullptr;
+    if (! openGLIsWanted || ! canAttach || IsOpenGLEnabled())
+        return;
+    if (openGLContext == nullptr)
+        openGLContext = std::make_unique<juce::OpenGLContext>();
+    openGLContext->setContinuousRepainting (true);
+    openGLContext->attachTo (*this);
+}
+
+void Component::parentHierarchyChanged() { attachOpenGL(); }
 
 bool Component::IsOpenGLEnabled() const noexcept
 {

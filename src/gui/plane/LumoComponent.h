@@ -19,8 +19,10 @@ public:
     /** "v2" and "V2", "v3" and "V3" choose a look, any other text keeps the present one. Applies it. */
     virtual void SetLookAndFeelVersion (const juce::String& text);
 
-    /** While on, JUCE renders this component through OpenGL, frame after frame. */
+    /** While on, JUCE renders this component through OpenGL, frame after frame, in a native window. A window in memory
+        has nothing that OpenGL could draw on. */
     void SetOpenGLEnabled (bool enabled);
+    /** True while a context is attached. */
     [[nodiscard]] bool IsOpenGLEnabled() const noexcept;
 
     /** Shows the frame statistics; only a component with no parent, or right in a top-level window, draws them. */
@@ -46,6 +48,7 @@ public:
     [[nodiscard]] static juce::Font MakeFont (float height);
 
     void paintOverChildren (juce::Graphics& g) override;
+    void parentHierarchyChanged() override;
 
 private:
     /** One instance of each look serves all components of the process. */
@@ -58,9 +61,11 @@ private:
 
     [[nodiscard]] juce::Rectangle<int> overlayArea() const;
     void applyLookAndFeel();
+    void attachOpenGL();
 
     std::unique_ptr<juce::OpenGLContext> openGLContext;
     LookAndFeelHolder lookAndFeelHolder;
+    bool openGLIsWanted = false;
     bool showFps = false;
     double paintStartTime = 0, renderTime = 0, frameRate = 0, lastPaintTime = 0;
 

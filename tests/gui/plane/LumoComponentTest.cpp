@@ -96,6 +96,8 @@ TEST (LumoComponent, NamesItsRenderers)
     Stage stage (component);
     EXPECT_EQ (component.GetRendererNames().size(), 2);
     EXPECT_EQ (component.GetRendererName(), component.GetRendererNames()[0]);
+    component.SetOpenGLEnabled (true); // there is no native window to draw on
+    EXPECT_FALSE (component.IsOpenGLEnabled());
     component.SetOpenGLEnabled (false);
     EXPECT_FALSE (component.IsOpenGLEnabled());
 }
