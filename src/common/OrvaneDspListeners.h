@@ -8,7 +8,8 @@ namespace qel
 {
 
 /** Listeners, not owned: sorted by pointer, each once, null ignored. They are called from the last to the first, and
-    one that is called may remove itself or others. One thread. */
+    one that is called may remove itself or others; one that removes others before itself may be called again, as the
+    walk goes on by index. One thread. */
 template <typename Listener>
 class Listeners
 {
@@ -36,12 +37,8 @@ public:
     template <typename Function>
     void call (Function&& function)
     {
-        for (auto next = list.end(); next != list.begin();) {
-            Listener* const called = *--next;
-            function (*called);
-            next =
-                std::lower_bound (list.begin(), list.end(), called, std::less<Listener*>()); // the list may differ now
-        }
+        for (std::size_t next = list.size(); next > 0; next = std::min (next, list.size())) // the list may differ now
+            function (*list[--next]);
     }
 
 private:

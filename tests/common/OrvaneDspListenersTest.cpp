@@ -72,14 +72,24 @@ TEST_F (ListenersTest, MayRemoveThemselvesDuringTheWalk)
 
 TEST_F (ListenersTest, MayRemoveOthersDuringTheWalk)
 {
-    addAll();
-    std::vector<int> order;
-    listeners.call ([&] (Listener& l) {
-        order.push_back (l.number);
-        listeners.remove (&three[0]);
-        listeners.remove (&three[1]);
-    });
-    EXPECT_THAT (order, ElementsAre (2));
+    struct Case
+    {
+        std::vector<std::size_t> removed; // by the first that is called
+        std::vector<int> order;
+    };
+    const Case cases[] = {
+        { { 2, 1 }, { 2, 0 } }, { { 0 }, { 2, 2, 1 } }, { { 0, 1 }, { 2, 2 } }, { { 0, 1, 2 }, { 2 } }
+    };
+    for (const auto& c : cases) {
+        addAll();
+        std::vector<int> order;
+        listeners.call ([&] (Listener& l) {
+            order.push_back (l.number);
+            for (const auto i : c.removed)
+                listeners.remove (&three[i]);
+        });
+        EXPECT_EQ (order, c.order);
+    }
 }
 
 namespace
