@@ -3,6 +3,7 @@
 #include "MinimalClass.h"
 #include "host/bench/window/JuceWindowDriver.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <new>
@@ -26,6 +27,13 @@ private:
 }
 
 long allocations() { return news; }
+
+double median (std::vector<double>& times)
+{
+    const auto middle = times.begin() + static_cast<std::ptrdiff_t> (times.size() / 2);
+    std::nth_element (times.begin(), middle, times.end());
+    return *middle;
+}
 
 void* operator new (std::size_t size)
 {
@@ -56,7 +64,7 @@ ControlBenchmark::ControlBenchmark (Window window)
     if (window == Window::closed)
         send ("wclose");
     if (window == Window::scene) {
-        bench::windowDriver()->turnPage (box->object, 3);
+        bench::windowDriver()->turnPage (box->object, 2);
         patch.settle();
         paintWindows();
     }

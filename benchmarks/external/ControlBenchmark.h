@@ -6,6 +6,7 @@
 #include <benchmark/benchmark.h>
 
 #include <chrono>
+#include <vector>
 
 /** Where the window of the measured object is. */
 enum class Window
@@ -52,12 +53,15 @@ void paintWindows();
 /** Operator new so far. */
 long allocations();
 
-/** Does the work and its floor in turn. The columns: `ratio` of their times, with the floor taken so many times, the
-    floor's time in microseconds, and the work's allocations less the floor's. */
+/** The middle one, which a busy machine does not shift as it does a mean. */
+double median (std::vector<double>& times);
+
+/** Does the work and its floor in turn. The columns, of medians: `ratio` of their times, with the floor taken so many
+    times; both times in microseconds; and in the mean the work's allocations less the floor's. */
 template <typename Work, typename Floor>
 void compare (benchmark::State& state, Work&& work, Floor&& floor, double floors = 1)
 {
-    double workTime = 0, floorTime = 0;
+    std::vector<double> workTimes, floorTimes;
     long made = 0;
     for ([[maybe_unused]] const auto turn : state) {
         const auto before = allocations();
@@ -68,12 +72,13 @@ void compare (benchmark::State& state, Work&& work, Floor&& floor, double floors
         work();
         const double end = seconds();
         made += (allocations() - between) - (between - before);
-        floorTime += middle - start;
-        workTime += end - middle;
+        floorTimes.push_back (middle - start);
+        workTimes.push_back (end - middle);
         state.SetIterationTime (end - middle);
     }
-    const auto turns = static_cast<double> (state.iterations());
+    const auto workTime = median (workTimes), floorTime = median (floorTimes);
     state.counters["ratio"] = workTime / (floorTime * floors);
-    state.counters["floor_us"] = floorTime * 1e6 / turns;
-    state.counters["allocations"] = static_cast<double> (made) / turns;
+    state.counters["work_us"] = workTime * 1e6;
+    state.counters["floor_us"] = floorTime * 1e6;
+    state.counters["allocations"] = static_cast<double> (made) / static_cast<double> (state.iterations());
 }
