@@ -43,6 +43,10 @@ private:
     ::Display* display;
 };
 
+/** A request may come late: a window or frame that a window manager has just taken away is no fault of ours. Xlib's
+    own handler would end the process, and the host with it. */
+int passOverError (::Display*, XErrorEvent*) { return 0; }
+
 }
 
 std::unique_ptr<NativeWindow> makePlatformWindow() { return std::make_unique<X11Window>(); }
@@ -51,6 +55,8 @@ void startJuceInHost()
 {
     if (juce::MessageManager::getInstanceWithoutCreating() == nullptr)
         juce::MessageManager::getInstance();
+
+    XSetErrorHandler (passOverError);
 
     // Atoms live as long as the server has clients: the connection stays open until JUCE has its own.
     Connection connection;
