@@ -1,6 +1,6 @@
 # JUCE, compiled once into one static library with the modules that the product uses and no others.
 
-find_package(JUCE CONFIG REQUIRED)
+find_path(JUCE_MODULES_DIR juce_core/juce_core.h PATHS /usr/share/juce/modules NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 
 set(juceModules juce_core juce_events juce_data_structures juce_graphics juce_gui_basics juce_opengl)
 add_library(halcyra_juce STATIC)
@@ -27,7 +27,16 @@ foreach(module IN LISTS juceModules)
     target_compile_definitions(halcyra_juce PUBLIC JUCE_MODULE_AVAILABLE_${module}=1)
 endforeach()
 target_compile_options(halcyra_juce PRIVATE -w)
-if(NOT WIN32)
+if(WIN32)
+    find_package(PNG REQUIRED)
+    find_package(JPEG REQUIRED)
+    set(ZLIB_USE_STATIC_LIBS ON)
+    find_package(ZLIB REQUIRED)
+    target_compile_definitions(halcyra_juce PUBLIC _WIN32_WINNT=0x0a00)
+    target_link_libraries(halcyra_juce PUBLIC
+        PNG::PNG JPEG::JPEG ZLIB::ZLIB
+        opengl32 gdi32 ole32 oleaut32 shlwapi comdlg32 version uuid wininet ws2_32 imm32 rpcrt4 winmm dwmapi shcore dxgi)
+else()
     find_package(PkgConfig REQUIRED)
     pkg_check_modules(JUCE_LINUX REQUIRED IMPORTED_TARGET freetype2 libpng libjpeg zlib gl)
     find_package(Threads REQUIRED)

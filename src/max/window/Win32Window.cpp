@@ -1,0 +1,92 @@
+#include "max/window/Win32Window.h"
+
+#include <windows.h>
+
+namespace
+{
+
+constexpr DWORD frameStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_VISIBLE;
+constexpr const char* dialogClass = "#32770";
+
+HWND windowOf (void* handle) { return static_cast<HWND> (handle); }
+
+/** The module that holds this code: the external, not the program that loaded it. */
+HINSTANCE thisModule()
+{
+    HMODULE module = nullptr;
+    GetModuleHandleExA (GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                        reinterpret_cast<LPCSTR> (&thisModule), &module);
+    return module;
+}
+
+/** The frame's dialog procedure: a dialog without one would not even notice its close button. */
+INT_PTR CALLBACK answer (HWND frame, UINT message, WPARAM, LPARAM)
+{
+    if (message != WM_CLOSE)
+        return FALSE;
+    const auto* window = reinterpret_cast<const Win32Window*> (GetWindowLongPtrA (frame, GWLP_USERDATA));
+    if (window != nullptr && window->onCloseButton)
+        window->onCloseButton();
+    return TRUE;
+}
+
+}
+
+std::unique_ptr<NativeWindow> makePlatformWindow() { return std::make_unique<Win32Window>(); }
+
+void startJuceInHost()
+{
+    // JUCE's message window, its timers and hooks point into this module: it stays until the process ends.
+    HMODULE module = nullptr;
+    GetModuleHandleExA (GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
+                        reinterpret_cast<LPCSTR> (&thisModule), &module);
+    if (juce::MessageManager::getInstanceWithoutCreating() == nullptr)
+        juce::MessageManager::getInstance();
+    juce::Desktop::getInstance();
+}
+
+Win32Window::~Win32Window() { destroy(); }
+
+bool Win32Window::create (const juce::String& title, juce::Rectangle<int> frame)
+{
+    destroy();
+    auto* const created =
+        CreateWindowExA (WS_EX_ACCEPTFILES, dialogClass, title.toRawUTF8(), frameStyle, frame.getX(), frame.getY(),
+                         frame.getWidth(), frame.getHeight(), nullptr, nullptr, thisModule(), nullptr);
+    if (created == nullptr)
+        return false;
+
+    handle = created;
+    SetWindowLongPtrA (created, GWLP_USERDATA, reinterpret_cast<LONG_PTR> (this));
+    SetWindowLongPtrA (created, DWLP_DLGPROC, reinterpret_cast<LONG_PTR> (&answer));
+    return true;
+}
+
+void Win32Window::show()
+{
+    ShowWindow (windowOf (handle), IsIconic (windowOf (handle)) ? SW_RESTORE : SW_SHOW);
+    BringWindowToTop (windowOf (handle));
+}
+
+void Win32Window::hide() { ShowWindow (windowOf (handle), SW_HIDE); }
+
+void Win32Window::destroy()
+{
+    if (handle == nullptr)
+        return;
+    attach (nullptr); // a peer must go before the window in which it stands
+    DestroyWindow (windowOf (std::exchange (handle, nullptr)));
+}
+
+void Win32Window::setTitle (const juce::String& title) { SetWindowTextA (windowOf (handle), title.toRawUTF8()); }
+
+void Win32Window::attach (juce::Component* component)
+{
+    if (component != nullptr)
+        component->addToDesktop (0, handle);
+    else if (content != nullptr)
+        content->removeFromDesktop();
+    content = component;
+}
+
+bool Win32Window::isOccupied() const { return content != nullptr && content->isOnDesktop(); }
