@@ -28,9 +28,9 @@ foreach(module IN LISTS juceModules)
 endforeach()
 target_compile_options(halcyra_juce PRIVATE -w)
 if(WIN32)
+    set(CMAKE_FIND_LIBRARY_SUFFIXES .a) # not .dll.a
     find_package(PNG REQUIRED)
     find_package(JPEG REQUIRED)
-    set(ZLIB_USE_STATIC_LIBS ON)
     find_package(ZLIB REQUIRED)
     target_compile_definitions(halcyra_juce PUBLIC _WIN32_WINNT=0x0a00)
     target_link_libraries(halcyra_juce PUBLIC

@@ -2,4 +2,16 @@
 #include "host/bench/patchbench/Program.h"
 #include "host/bench/patchbench/Windows.h"
 
-int main (int argc, char** argv) { return patchbench::run (argc, argv, { findExternal, makeWindows }); }
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <stdio.h>
+#endif
+
+int main (int argc, char** argv)
+{
+#ifdef _WIN32
+    _setmode (_fileno (stdout), _O_BINARY); // lines end as they do everywhere else
+#endif
+    return patchbench::run (argc, argv, { findExternal, makeWindows });
+}

@@ -83,7 +83,8 @@ void Note (j_common_ptr info, int level)
 void BeginJpeg (JpegReader& reader)
 {
     jpeg_create_decompress (&reader.info);
-    jpeg_mem_src (&reader.info, static_cast<const unsigned char*> (reader.bytes->getData()), reader.bytes->getSize());
+    jpeg_mem_src (&reader.info, static_cast<const unsigned char*> (reader.bytes->getData()),
+                  static_cast<unsigned long> (reader.bytes->getSize()));
     jpeg_read_header (&reader.info, TRUE);
 }
 
