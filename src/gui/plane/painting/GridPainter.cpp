@@ -15,30 +15,36 @@ juce::Rectangle<float> Bounds (const ViewTransform& view)
     return { 0, 0, static_cast<float> (view.width), static_cast<float> (view.height) };
 }
 
+/** One fill for all dashes of a line: they do not meet, and hundreds of fills a line would be slow. */
+void Stroke (juce::Graphics& g, const juce::Path& path, bool dashed)
+{
+    const juce::PathStrokeType stroke (1.0f);
+    if (! dashed)
+        return g.strokePath (path, stroke);
+    constexpr float lengths[] = { dashLength, dashLength };
+    juce::Path dashes;
+    stroke.createDashedStroke (dashes, path, lengths, 2);
+    g.fillPath (dashes);
+}
+
 void DrawLine (juce::Graphics& g, juce::Line<double> line, const Surface& surface)
 {
     const auto visible = VisiblePart (line, Bounds (surface.viewTransform).expanded (2));
     if (! visible)
         return;
-    constexpr float dashes[] = { dashLength, dashLength };
-    if (surface.grid.dashed)
-        g.drawDashedLine (*visible, dashes, 2, 1.0f);
-    else
-        g.drawLine (*visible, 1.0f);
+    if (! surface.grid.dashed)
+        return g.drawLine (*visible, 1.0f);
+    juce::Path path;
+    path.startNewSubPath (visible->getStart());
+    path.lineTo (visible->getEnd());
+    Stroke (g, path, true);
 }
 
 void DrawCircle (juce::Graphics& g, juce::Point<float> centre, double radius, const Surface& surface)
 {
     const auto circle = VisibleCircle (centre, radius, Bounds (surface.viewTransform).expanded (2));
-    if (circle.isEmpty())
-        return;
-    const juce::PathStrokeType stroke (1.0f);
-    if (! surface.grid.dashed)
-        return g.strokePath (circle, stroke);
-    constexpr float dashes[] = { dashLength, dashLength };
-    juce::Path dashed;
-    stroke.createDashedStroke (dashed, circle, dashes, 2);
-    g.fillPath (dashed);
+    if (! circle.isEmpty())
+        Stroke (g, circle, surface.grid.dashed);
 }
 
 void DrawCircles (juce::Graphics& g, juce::Point<float> origin, const Surface& surface)

@@ -75,7 +75,7 @@ void DrawDirections (juce::Graphics& g, const Surface& surface)
     if (! surface.axis.labelVisible)
         return;
     const auto& view = surface.viewTransform;
-    const auto area = Bounds (surface).reduced (2);
+    const juce::Rectangle<int> area (2, 2, view.width - 2, view.height - 2);
     g.setColour (surface.axis.colour);
     g.setFont (lumo::Component::MakeFont (14.0f));
     g.drawText (view.topView ? "front" : "top", area, Justification::centredTop);
