@@ -109,7 +109,7 @@ protected:
     void NotifyOptionsChanged();
     /** How most setters end. */
     void SettingChanged();
-    /** Compares and stores; ends as most setters do if that changed something. */
+    /** Compares and stores; tells the listeners always, repaints only what changed. */
     template <typename Value>
     void SetOption (Value& stored, const Value& value);
     /** How the setters that move objects end. */
@@ -137,7 +137,7 @@ template <typename Value>
 void PlaneBase::SetOption (Value& stored, const Value& value)
 {
     if (stored == value)
-        return;
+        return NotifyOptionsChanged();
     stored = value;
     SettingChanged();
 }

@@ -175,8 +175,6 @@ void PlaneComponent::SelectNextSource()
 
 void PlaneComponent::SetCircularConstraint (bool on, bool repaintNow)
 {
-    if (surface.options.circularConstraint == on)
-        return;
     surface.options.circularConstraint = on;
     MarkStaticLayerDirty();
     NotifyOptionsChanged();

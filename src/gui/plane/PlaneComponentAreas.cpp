@@ -62,8 +62,6 @@ void PlaneComponent::SetAreasVisible (bool visible) { SetOption (surface.options
 
 void PlaneComponent::SetAreasMonitoring (bool on)
 {
-    if (surface.options.areasMonitoring == on)
-        return;
     SetOption (surface.options.areasMonitoring, on);
     ReportListenerAreas();
     for (std::size_t i = 0; i < scene.speakers.size(); ++i)
