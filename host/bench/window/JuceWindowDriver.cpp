@@ -8,7 +8,7 @@ namespace
 {
 
 const char* const noWindow = "it has no window";
-const char* const notOpen = "its window is not open";
+const char* const notOpen = "it is not on the screen";
 
 std::unique_ptr<juce::ScopedJuceInitialiser_GUI> startJuce (JuceWindowDriver::Place place)
 {

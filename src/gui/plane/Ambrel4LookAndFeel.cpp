@@ -167,4 +167,11 @@ void drawThumb (juce::Graphics& g, juce::Point<float> centre, float radius, juce
     drawShadedShape (g, roundedPath (area, radius), base, slider.isEnabled() ? 0.9f : 0.3f);
 }
 
+juce::Component* menuParent (const juce::PopupMenu::Options& options)
+{
+    const auto* const target = options.getTargetComponent();
+    auto* const top = target != nullptr ? target->getTopLevelComponent() : nullptr;
+    return top != nullptr && top->getProperties()["menusOpenInside"] ? top : options.getParentComponent();
+}
+
 }

@@ -34,6 +34,10 @@ void drawShadedShape (juce::Graphics& g, const juce::Path& shape, juce::Colour b
 /** A round slider thumb. */
 void drawThumb (juce::Graphics& g, juce::Point<float> centre, float radius, juce::Slider& slider);
 
+/** Where a menu opens: on the desktop (null), but inside a top-level component whose property "menusOpenInside" is
+    set, since a window in memory has no desktop. */
+[[nodiscard]] juce::Component* menuParent (const juce::PopupMenu::Options& options);
+
 /** Text of sliders and labels has this height. */
 inline constexpr float textHeight = 12.0f;
 
@@ -47,6 +51,10 @@ public:
     Ambrel4LookAndFeel() { Ambrel4::setColours (*this); }
 
     juce::Label* createSliderTextBox (juce::Slider& slider) override { return Ambrel4::createSliderTextBox (slider); }
+    juce::Component* getParentComponentForMenuOptions (const juce::PopupMenu::Options& options) override
+    {
+        return Ambrel4::menuParent (options);
+    }
     juce::Font getSliderPopupFont (juce::Slider&) override { return { Ambrel4::textHeight }; }
     void drawLinearSlider (juce::Graphics& g, int x, int y, int width, int height, float position, float least,
                            float greatest, juce::Slider::SliderStyle style, juce::Slider& slider) override

@@ -187,3 +187,29 @@ TEST_F (OffscreenWindowTest, CloseButtonIsHandedOn)
     EXPECT_EQ (pressed, 1);
     EXPECT_TRUE (back.isShowing());
 }
+
+TEST_F (OffscreenWindowTest, MenusOpenInsideTheWindowAndTakeTheKeys)
+{
+    struct Look : juce::LookAndFeel_V2
+    {
+        juce::Component* getParentComponentForMenuOptions (const juce::PopupMenu::Options& options) override
+        {
+            return options.getTargetComponent()->getTopLevelComponent();
+        }
+    } look;
+    back.setSize (300, 300);
+    Stage stage (back);
+    juce::PopupMenu menu;
+    menu.setLookAndFeel (&look);
+    menu.addItem (1, "one");
+    menu.addItem (2, "two");
+    int chosen = -1;
+    menu.showMenuAsync (juce::PopupMenu::Options().withTargetComponent (back).withMousePosition(),
+                        [&chosen] (int id) { chosen = id; });
+    pumpGui();
+    ASSERT_NE (juce::Component::getCurrentlyModalComponent(), nullptr);
+    stage.key ("cursor down");
+    stage.key ("cursor down");
+    stage.key ("return");
+    EXPECT_EQ (chosen, 2);
+}
