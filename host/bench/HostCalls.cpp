@@ -1,4 +1,5 @@
 #include "host/bench/HostCalls.h"
+#include "host/bench/WindowDriver.h"
 #include <cstdint>
 
 // The host calls functions by types that it knows only at run time; a checker of function types cannot follow.
@@ -109,6 +110,7 @@ HOST_CALL void* callUntyped (method function, void* x, const std::array<void*, 8
 
 HOST_CALL void callDeferred (method function, void* ob, t_symbol* sym, Atoms& atoms)
 {
+    const ObjectAtWork atWork (ob);
     as<void (*) (void*, t_symbol*, std::int64_t, t_atom*)> (function) (ob, sym, wide (countOf (atoms)), dataOf (atoms));
 }
 

@@ -57,4 +57,21 @@ public:
 WindowDriver* windowDriver();
 void setWindowDriver (WindowDriver* driver);
 
+/** The object whose deferred call runs on this thread, or null: a window that is made meanwhile is its own. */
+void* objectAtWork();
+
+/** Makes an object the one at work as long as this lives. */
+class ObjectAtWork
+{
+public:
+    explicit ObjectAtWork (void* object);
+    ~ObjectAtWork();
+
+    ObjectAtWork (const ObjectAtWork&) = delete;
+    ObjectAtWork& operator= (const ObjectAtWork&) = delete;
+
+private:
+    void* const before;
+};
+
 }

@@ -31,6 +31,7 @@ void describe (CLI::App& app, Options& options)
                                                       { "offscreen", WindowPlace::offscreen } };
     const std::map<std::string, bench::DeferMedium> modes{ { "queue", bench::DeferMedium::queue },
                                                            { "now", bench::DeferMedium::now } };
+    app.allow_windows_style_options (false); // a path may begin with a slash everywhere
     app.add_option ("--window", options.window, "Where windows go (auto: on the display if there is one)")
         ->transform (CLI::CheckedTransformer (windows))
         ->option_text ("auto|native|offscreen");

@@ -1,0 +1,233 @@
+#include "host/bench/patchbench/Win32Input.h"
+#include <cmath>
+#include <cstdlib>
+#include <utility>
+#include <vector>
+
+namespace
+{
+constexpr DWORD betweenMoves = 20;     // ms; a GUI may pass over moves that come faster than pictures
+constexpr DWORD betweenClicks = 600;   // ms; presses further apart never join into a double click
+constexpr float unitsOfWheel = 512.0F; // of a turn by 1
+
+struct KeyRow
+{
+    const char* name;
+    WORD code;
+};
+
+constexpr KeyRow modifierKeys[] = { { "ctrl", VK_CONTROL }, { "shift", VK_SHIFT }, { "alt", VK_MENU } };
+
+constexpr KeyRow namedKeys[] = {
+    { "spacebar", VK_SPACE },   { "return", VK_RETURN },      { "escape", VK_ESCAPE }, { "backspace", VK_BACK },
+    { "cursor left", VK_LEFT }, { "cursor right", VK_RIGHT }, { "cursor up", VK_UP },  { "cursor down", VK_DOWN },
+    { "page up", VK_PRIOR },    { "page down", VK_NEXT },     { "home", VK_HOME },     { "end", VK_END },
+    { "delete", VK_DELETE },    { "insert", VK_INSERT },      { "tab", VK_TAB },
+};
+
+void sendKey (WORD code, bool down)
+{
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = code;
+    input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
+    SendInput (1, &input, sizeof (input));
+    pumpMessages();
+}
+
+void sendMouse (DWORD flags, int wheel = 0)
+{
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    input.mi.mouseData = static_cast<DWORD> (wheel);
+    SendInput (1, &input, sizeof (input));
+    pumpMessages();
+}
+
+/** Holds modifier keys down as long as it lives. */
+class HeldKeys
+{
+public:
+    explicit HeldKeys (std::vector<WORD> keys) : held (std::move (keys))
+    {
+        for (const auto code : held)
+            sendKey (code, true);
+    }
+
+    ~HeldKeys()
+    {
+        for (const auto code : held) {
+            // Alt alone, pressed and let go, would open the window's menu and wait in it.
+            if (code == VK_MENU) {
+                sendKey (VK_CONTROL, true);
+                sendKey (VK_CONTROL, false);
+            }
+            sendKey (code, false);
+        }
+    }
+
+    HeldKeys (const HeldKeys&) = delete;
+    HeldKeys& operator= (const HeldKeys&) = delete;
+
+private:
+    std::vector<WORD> held;
+};
+
+std::vector<WORD> keysOf (const bench::PointerEvent& event)
+{
+    std::vector<WORD> keys;
+    for (const auto& [isHeld, code] :
+         { std::pair<bool, WORD> (event.ctrl, VK_CONTROL), std::pair<bool, WORD> (event.shift, VK_SHIFT),
+           std::pair<bool, WORD> (event.alt, VK_MENU) })
+        if (isHeld)
+            keys.push_back (code);
+    return keys;
+}
+
+/** The words of a description between its plus signs. */
+std::vector<std::string> partsOf (const std::string& description)
+{
+    const std::string separator = " + ";
+    std::vector<std::string> parts;
+    std::size_t start = 0;
+    for (auto end = description.find (separator); end != std::string::npos; end = description.find (separator, start)) {
+        parts.push_back (description.substr (start, end - start));
+        start = end + separator.size();
+    }
+    parts.push_back (description.substr (start));
+    return parts;
+}
+
+template <std::size_t count>
+WORD codeIn (const KeyRow (&rows)[count], const std::string& name)
+{
+    for (const auto& row : rows)
+        if (name == row.name)
+            return row.code;
+    return 0;
+}
+
+/** Of a key without modifiers; 0 if there is none. */
+WORD codeOf (const std::string& name)
+{
+    if (const auto code = codeIn (namedKeys, name))
+        return code;
+    const auto number = name.size() > 1 && name[0] == 'F' ? std::atoi (name.c_str() + 1) : 0;
+    if (number >= 1 && number <= 24)
+        return static_cast<WORD> (VK_F1 + number - 1);
+    if (name.size() != 1)
+        return 0;
+    const auto scanned = VkKeyScanW (static_cast<unsigned char> (name[0]));
+    return scanned == -1 ? WORD{ 0 } : static_cast<WORD> (scanned & 0xff);
+}
+
+void bringIntoView (HWND window, POINT place)
+{
+    auto* const frame = GetAncestor (window, GA_ROOT);
+    auto* const there = WindowFromPoint (place);
+    DWORD process = 0;
+    if (there != nullptr)
+        GetWindowThreadProcessId (there, &process);
+    if (process != GetCurrentProcessId()) // a menu of ours may lie over it
+        SetForegroundWindow (frame);
+}
+
+void giveFocus (HWND window)
+{
+    if (GetFocus() == window)
+        return;
+    SetForegroundWindow (GetAncestor (window, GA_ROOT));
+    SetFocus (window);
+    pumpMessages();
+}
+}
+
+bool pumpMessages()
+{
+    bool worked = false;
+    MSG message;
+    while (PeekMessageW (&message, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage (&message);
+        DispatchMessageW (&message);
+        worked = true;
+    }
+    return worked;
+}
+
+void Win32Input::press (DWORD flag)
+{
+    while (GetTickCount() - lastPress < betweenClicks) {
+        Sleep (10);
+        pumpMessages();
+    }
+    sendMouse (flag);
+    lastPress = GetTickCount();
+}
+
+void Win32Input::click (DWORD downFlag, DWORD upFlag)
+{
+    sendMouse (downFlag);
+    lastPress = GetTickCount();
+    sendMouse (upFlag);
+}
+
+void Win32Input::pointer (HWND window, const bench::PointerEvent& event)
+{
+    using Action = bench::PointerEvent::Action;
+    POINT place{ static_cast<int> (std::lround (event.x)), static_cast<int> (std::lround (event.y)) };
+    ClientToScreen (window, &place);
+    if (release == 0)
+        bringIntoView (window, place);
+
+    const HeldKeys keys (keysOf (event));
+    Sleep (betweenMoves);
+    SetCursorPos (place.x, place.y);
+    pumpMessages();
+
+    const DWORD downFlag = event.right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN;
+    const DWORD upFlag = event.right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP;
+    switch (event.action) {
+    case Action::down:
+        press (downFlag);
+        release = upFlag;
+        break;
+    case Action::up:
+        if (release != 0)
+            sendMouse (std::exchange (release, 0));
+        break;
+    case Action::doubleClick:
+        press (downFlag);
+        sendMouse (upFlag);
+        click (downFlag, upFlag);
+        break;
+    case Action::wheel:
+        giveFocus (window);
+        sendMouse (MOUSEEVENTF_WHEEL, static_cast<int> (std::lround (event.wheelDelta * unitsOfWheel)));
+        break;
+    case Action::move:
+    case Action::drag:
+        break;
+    }
+}
+
+bool Win32Input::key (HWND window, const std::string& description)
+{
+    auto parts = partsOf (description);
+    const auto code = codeOf (parts.back());
+    parts.pop_back();
+    std::vector<WORD> modifiers;
+    for (const auto& part : parts)
+        modifiers.push_back (codeIn (modifierKeys, part));
+    for (const auto modifier : modifiers)
+        if (modifier == 0)
+            return false;
+    if (code == 0)
+        return false;
+
+    giveFocus (window);
+    const HeldKeys keys (modifiers);
+    sendKey (code, true);
+    sendKey (code, false);
+    return true;
+}

@@ -1,0 +1,7 @@
+#pragma once
+#include <string>
+#include <windows.h>
+
+/** Has the window drawn anew and writes what stands on the screen of it to a PNG; what its frame cuts off comes out
+    black. False if the file cannot be written. */
+bool writePictureOf (HWND window, const std::string& file);

@@ -1,0 +1,41 @@
+#pragma once
+#include "host/bench/WindowDriver.h"
+#include "host/bench/patchbench/Win32Input.h"
+#include <map>
+#include <windows.h>
+
+/** The hands and eyes of the bench on Windows. It knows the dialog frames that objects make by the messages that
+    Windows sends them, works with the real pointer and the real keyboard, and takes pictures off the screen.
+    A page is not turned by it: what a frame holds is drawn by the external, and only a click at the tab's place
+    reaches it. At most one driver at a time; main thread. */
+class Win32WindowDriver : public bench::WindowDriver
+{
+public:
+    Win32WindowDriver();
+    ~Win32WindowDriver() override;
+
+    Win32WindowDriver (const Win32WindowDriver&) = delete;
+    Win32WindowDriver& operator= (const Win32WindowDriver&) = delete;
+
+    void setSink (Sink sink) override { tell = std::move (sink); }
+    bool pump() override;
+    std::string turnPage (void* object, int page) override;
+    std::string pointer (void* object, const bench::PointerEvent& event) override;
+    std::string key (void* object, const std::string& description) override;
+    std::string writePicture (void* object, const std::string& file) override;
+
+private:
+    static LRESULT CALLBACK seeMessage (int code, WPARAM wParam, LPARAM lParam);
+    void see (const CWPRETSTRUCT& message);
+    void seeCreation (HWND frame, const CREATESTRUCTW& creation);
+    void report (HWND frame, const std::string& what) const;
+
+    /** The window in which the object's component stands; null, and a complaint, if that is not on view. */
+    HWND contentOf (void* object, std::string& complaint) const;
+
+    Sink tell;
+    HHOOK hook = nullptr;
+    Win32Input input;
+    std::map<HWND, void*> owners;
+    bool frontTold = false; // since the last pump
+};
