@@ -17,8 +17,9 @@ namespace
 
 using namespace orvanemax;
 
-constexpr auto* author = "The halcyra authors";
-constexpr auto* copyright = "Copyright (c) 2026 the halcyra authors. Free software under the GPL, version 3 or later.";
+constexpr auto* author = "The halcyra developers";
+constexpr auto* copyright =
+    "Copyright (c) 2026 the halcyra developers. Free software under the GPL, version 3 or later.";
 
 /** Calls back for each entry of a documentation list, with its key and its atoms. */
 template <typename Use>
