@@ -21,7 +21,8 @@ BlockHead* allocate (t_ptr_size size)
 {
     if (size > PTRDIFF_MAX - sizeof (BlockHead))
         return nullptr;
-    auto* head = static_cast<BlockHead*> (std::malloc (sizeof (BlockHead) + size));
+    // An empty block has a byte too: its address must lie inside of what was allocated, or it counts as lost.
+    auto* head = static_cast<BlockHead*> (std::malloc (sizeof (BlockHead) + std::max<t_ptr_size> (size, 1)));
     if (head != nullptr)
         *head = { size, ours };
     return head;
