@@ -86,8 +86,9 @@ juce::Path VisibleCircle (juce::Point<float> at, double radius, juce::Rectangle<
             .toFloat();
     };
     path.startNewSubPath (pointAt (start));
-    for (double angle = start + step; angle < angles.getEnd(); angle += step)
-        path.lineTo (pointAt (angle));
+    const auto chords = static_cast<int> (std::max (0.0, std::ceil ((angles.getEnd() - start) / step - 1)));
+    for (int i = 1; i <= chords; ++i)
+        path.lineTo (pointAt (start + i * step));
     path.lineTo (pointAt (angles.getEnd()));
     return path;
 }

@@ -20,8 +20,8 @@ juce::Rectangle<int> Bounds (const Surface& surface)
 juce::AffineTransform PlacementOf (const BackgroundImage& picture, const ViewTransform& view)
 {
     const int halfWidth = view.width / 2; // for both directions: the picture hangs from the top
-    const float scale =
-        static_cast<float> (static_cast<int> (static_cast<float> (halfWidth) * view.zoom) - view.Margin() / 2 - 1);
+    const int pixels = static_cast<int> (static_cast<float> (halfWidth) * view.zoom) - view.Margin() / 2 - 1;
+    const auto scale = static_cast<float> (pixels);
     const auto shift = [&] (float offset, int extent) {
         return static_cast<float> (halfWidth) - std::trunc ((offset + 1) * scale * static_cast<float> (extent));
     };
