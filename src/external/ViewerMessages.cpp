@@ -305,7 +305,7 @@ void rotate (void* object, t_symbol*, t_clong argc, t_atom* argv)
         const Atoms atoms (argc, argv);
         const auto index = atoms.integer (0);
         const auto yaw = atoms.number (1), pitch = atoms.number (2), roll = atoms.number (3);
-        if (index < 0 || index > x->numsources)
+        if (index < 0) // the plane passes over one that is past the end
             return orvanemax::tellError (x, "invalid source index " + std::to_string (index));
         if (index == 0)
             x->plane->RotateAllSources (yaw, pitch, roll, true);
