@@ -1,8 +1,7 @@
 #include "ControlTest.h"
 
 #include "gui/plane/PlaneComponent.h"
-
-#include <filesystem>
+#include "support/files/ScratchFolder.h"
 
 /** A whole piece of work: a scene is made, dressed, stored, saved and freed, and a new object takes it over. */
 CONTROL_TESTS (WholePiece);
@@ -68,8 +67,8 @@ int differingPixels (const juce::Image& a, const juce::Image& b)
 
 TEST_P (WholePiece, IsTakenOverByANewObjectDownToThePixel)
 {
-    const auto file = std::filesystem::temp_directory_path() /
-                      ("halcyra-piece-" + std::string (deferModeName ({ GetParam(), 0 })) + ".xml");
+    const ScratchFolder folder;
+    const auto file = folder / "piece.xml";
     auto first = settled (sizes);
     const auto fresh = sceneOf (first);
     for (const auto* message : work) {
@@ -80,7 +79,7 @@ TEST_P (WholePiece, IsTakenOverByANewObjectDownToThePixel)
         first.send (message);
         settle();
     }
-    first.send ("writesnapshot " + file.u8string());
+    first.send ("writesnapshot \"" + file.u8string() + '"');
     settle();
     EXPECT_EQ (first.console(), Messages{ "post file " + file.u8string() + " properly written" });
 
@@ -95,7 +94,7 @@ TEST_P (WholePiece, IsTakenOverByANewObjectDownToThePixel)
     auto second = settled (sizes);
     ASSERT_TRUE (bench::setState (*second, state));
     settle();
-    second.send ("readsnapshot " + file.u8string());
+    second.send ("readsnapshot \"" + file.u8string() + '"');
     settle();
     EXPECT_EQ (second.console(), Messages{ "post file " + file.u8string() + " properly loaded" });
     second.dumpOutlet();
@@ -108,5 +107,4 @@ TEST_P (WholePiece, IsTakenOverByANewObjectDownToThePixel)
     second.send ("recall close");
     settle();
     EXPECT_EQ (second.leftOutlet().at (0), "source 1 aed 0. 0. 0.5");
-    std::filesystem::remove (file);
 }

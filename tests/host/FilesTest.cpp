@@ -1,26 +1,17 @@
 #include "host/bench/Bench.h"
+#include "support/files/ScratchFolder.h"
 #include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <gmock/gmock.h>
 
 namespace
 {
-namespace fs = std::filesystem;
-
 class BenchFiles : public testing::Test
 {
 protected:
-    BenchFiles() : folder (fs::temp_directory_path() / "bench files test")
-    {
-        fs::create_directories (folder);
-        std::ofstream (folder / "there.json") << "{}";
-    }
-
-    ~BenchFiles() override { fs::remove_all (folder); }
+    BenchFiles() { folder.write ("there.json", "{}"); }
 
     bench::Bench patch;
-    fs::path folder;
+    ScratchFolder folder;
     char name[MAX_PATH_CHARS] = "file.json";
     char whole[MAX_PATH_CHARS] = {};
     std::int16_t path = 0;

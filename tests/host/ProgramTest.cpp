@@ -2,8 +2,7 @@
 #include "ExampleClass.h"
 #include "host/bench/patchbench/Commands.h"
 #include "host/bench/patchbench/Completion.h"
-#include <filesystem>
-#include <fstream>
+#include "support/files/ScratchFolder.h"
 #include <gmock/gmock.h>
 
 namespace
@@ -23,16 +22,15 @@ int statusOf (std::vector<const char*> arguments)
 
 TEST (Patchbench, EndsWithTheStatusOfWhatWentWrong)
 {
-    const auto script = std::filesystem::temp_directory_path() / "patchbench status test.patch";
-    std::ofstream (script) << "new a bench.example\nsend a nonsense\n";
-    const auto file = script.string();
+    const ScratchFolder folder;
+    folder.write ("status test.patch", "new a bench.example\nsend a nonsense\n");
+    const auto file = (folder / "status test.patch").string();
     EXPECT_EQ (statusOf ({ file.c_str() }), 0);
     EXPECT_EQ (statusOf ({ "--defer-medium", "now", "--trace", file.c_str(), file.c_str() }), 1); // "a" is there
     EXPECT_EQ (statusOf ({ "no such file" }), 1);
     EXPECT_EQ (statusOf ({ "--window", "sideways", file.c_str() }), 2);
     EXPECT_EQ (statusOf ({ "--bogus" }), 2);
     EXPECT_EQ (statusOf ({ "--help" }), 0);
-    std::filesystem::remove (script);
 }
 
 TEST (Patchbench, CompletesVerbsNamesMessagesAndAttributes)

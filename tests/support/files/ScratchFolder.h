@@ -20,9 +20,10 @@ public:
     ScratchFolder& operator= (const ScratchFolder&) = delete;
     ~ScratchFolder() { std::filesystem::remove_all (path); }
 
+    [[nodiscard]] std::filesystem::path operator/ (const std::string& name) const { return path / name; }
     [[nodiscard]] qel::File file (const std::string& name) const { return qel::File ((path / name).string()); }
 
-    [[nodiscard]] qel::File write (const std::string& name, const std::string& bytes) const
+    qel::File write (const std::string& name, const std::string& bytes) const
     {
         std::ofstream (path / name, std::ios::binary) << bytes;
         return file (name);
