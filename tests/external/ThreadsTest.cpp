@@ -1,9 +1,37 @@
 #include "ControlTest.h"
 
-CONTROL_TESTS (Threads);
+#include <array>
+
+class Threads : public ControlTest
+{
+protected:
+    TestBox settledWith (const std::array<const char*, 2>& setting)
+    {
+        auto box = settled ("@numsources 2 @numspeakers 2");
+        for (const auto* message : setting)
+            box.send (message);
+        settle();
+        transcript();
+        return box;
+    }
+
+    void expectAllLeftOnTheMainThread (TestBox& box)
+    {
+        const auto left = take (bench::Event::Kind::out, box->name);
+        EXPECT_GT (left.size(), 30u);
+        for (const auto& event : left)
+            EXPECT_TRUE (event.onMainThread) << bench::lineOf (event);
+        EXPECT_EQ (box.console(), Messages());
+        EXPECT_EQ (box.attribute ("gain"), "3.");
+        EXPECT_EQ (box.attribute ("showradius"), "1");
+    }
+};
+INSTANTIATE_TEST_SUITE_P (DeferMedium, Threads, bothDeferModes, deferModeName);
 
 namespace
 {
+
+constexpr int rounds = 3;
 
 /** One message of each kind that touches the component, an outlet or a window. */
 constexpr const char* messages[] = {
@@ -40,48 +68,46 @@ constexpr const char* messages[] = {
     "backgroundcolor 1 0 0 1",
 };
 
+/** Whether calls are deferred, and whether the scene is shown as it changes, in every pairing. */
+constexpr std::array<const char*, 2> settings[] = {
+    { "display 0", "defer 0" },
+    { "display 0", "defer 1" },
+    { "display 1", "defer 0" },
+    { "display 1", "defer 1" },
+};
+
 }
 
 TEST_P (Threads, WhatComesFromTheSchedulerLeavesOnTheMainThread)
 {
-    for (const auto* display : { "display 0", "display 1" })
-        for (const auto* defer : { "defer 0", "defer 1" }) {
-            auto box = settled ("@numsources 2 @numspeakers 2");
-            box.send (display);
-            box.send (defer);
-            settle();
-            transcript();
-            for (const auto* message : messages)
-                box.send (message, bench::Thread::scheduler);
-            settle();
-            const auto left = take (bench::Event::Kind::out, box->name);
-            EXPECT_GT (left.size(), 30u);
-            for (const auto& event : left)
-                EXPECT_TRUE (event.onMainThread) << bench::lineOf (event);
-            EXPECT_EQ (box.attribute ("gain"), "3.");
-            EXPECT_EQ (box.attribute ("showradius"), "1");
-            box.free();
-        }
+    for (const auto& setting : settings) {
+        auto box = settledWith (setting);
+        for (const auto* message : messages)
+            box.send (message, bench::Thread::scheduler);
+        settle();
+        expectAllLeftOnTheMainThread (box);
+        box.free();
+    }
 }
 
 TEST_P (Threads, BothAtOnceDisturbNeither)
 {
-    auto box = settled ("@numsources 2 @numspeakers 2");
-    for (const auto* defer : { "defer 0", "defer 1" }) {
-        box.send (defer);
-        for (int i = 0; i < 20; ++i) {
-            auto& target = *box;
-            patch.postToScheduler ([this, &target, i] {
-                patch.send (target, std::string ("gain ") + std::to_string (i % 7));
-                patch.send (target, "source 1 aed " + std::to_string (10 * i) + " 0 1");
-            });
-            box.send ("source 2 aed " + std::to_string (i) + " 0 2");
-            box.send ("tr0 " + std::to_string (1 + i % 5));
-            settle();
-        }
+    for (const auto& setting : settings) {
+        auto box = settledWith (setting);
+        patch.postToScheduler ([this, &target = *box] {
+            for (int round = 0; round < rounds; ++round)
+                for (const auto* message : messages)
+                    patch.send (target, message);
+        });
+        for (int round = 0; round < rounds; ++round)
+            for (const auto* message : messages) {
+                box.send (message);
+                settle();
+            }
+        patch.runOnScheduler ([] {});
+        settle();
+        expectAllLeftOnTheMainThread (box);
+        EXPECT_EQ (box.attribute ("name"), "\"1\" \"2\"");
+        box.free();
     }
-    patch.runOnScheduler ([] {});
-    settle();
-    EXPECT_EQ (box.console(), Messages());
-    EXPECT_EQ (box.attribute ("name"), "\"1\" \"2\"");
 }
