@@ -139,6 +139,7 @@ void addAttribute (t_class* c, const AttributeRow& row, const char* category, t_
     addText (c, row.name, "description", row.description);
     addParsed (c, row.name, "enumvals", "atom", row.choices);
     addParsed (c, row.name, "dontreset", "long", row.canBeReset ? nullptr : "1");
+    // A patcher keeps the values of such attributes with the box.
     addParsed (c, row.name, "save", "long", "1");
 }
 
