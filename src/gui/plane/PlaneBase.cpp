@@ -132,10 +132,9 @@ void PlaneBase::SetViewpoint (const qel::String& name) { SetTopView (name != "fr
 bool PlaneBase::StoreZoom (float zoom)
 {
     auto& view = surface.viewTransform;
-    const float clamped = view.ClampZoom (zoom);
-    if (! AreFinite (zoom) || surface.options.zoomLocked || clamped == view.zoom)
+    if (! AreFinite (zoom) || surface.options.zoomLocked || zoom == view.zoom)
         return false;
-    view.zoom = clamped;
+    view.zoom = view.ClampZoom (zoom);
     UpdateTransform();
     return true;
 }

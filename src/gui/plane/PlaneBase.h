@@ -115,7 +115,8 @@ protected:
     /** How the setters that move objects end. */
     void RepaintUnlessGated();
     void MarkStaticLayerDirty() noexcept { staticCache.MarkDirty(); }
-    /** Stores a clamped zoom; false if that changed nothing or the zoom is locked. */
+    /** Clamps and stores; false if that very zoom stands already or is locked. True for one that the limits bring back
+        to what stands: whoever asked has to hear what it became. */
     bool StoreZoom (float zoom);
 
     Plane::Surface surface;

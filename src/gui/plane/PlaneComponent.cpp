@@ -1,6 +1,7 @@
 #include "gui/plane/PlaneComponent.h"
 
 #include "geometry/OrvaneDspLayouts.h"
+#include "gui/plane/objects/Positions.h"
 #include "gui/plane/painting/Foreground.h"
 #include "gui/plane/painting/StaticLayer.h"
 #include "gui/plane/view/AutoZoom.h"
@@ -186,13 +187,7 @@ void PlaneComponent::SetRadiusConstraint (bool on) { SetOption (surface.options.
 
 // ---- Snapshots
 
-void PlaneComponent::StoreSnapshot (const qel::String& name)
-{
-    qel::Point3Array points (scene.sources.size());
-    for (std::size_t i = 0; i < points.size(); ++i)
-        points[i] = scene.sources[i].position;
-    snapshots.store (name, points);
-}
+void PlaneComponent::StoreSnapshot (const qel::String& name) { snapshots.store (name, PositionsOf (scene.sources)); }
 
 /** Takes a copy: who hears of a move may change the store. */
 void PlaneComponent::ApplySnapshot (qel::Point3Array points) // NOLINT(performance-unnecessary-value-param)

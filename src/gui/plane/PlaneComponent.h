@@ -176,7 +176,6 @@ private:
     [[nodiscard]] bool StoreSpeakerPosition (std::size_t index, const qel::Point3& position);
     void FinishSpeakersMove (bool notify);
     void SpeakersMoved();
-    [[nodiscard]] qel::Point3Array SpeakersPositions() const;
 
     void SetListenerAngle (float& stored, float degrees, bool notify, void (PlaneListener::*told) (float));
     void ListenerChanged();

@@ -27,7 +27,7 @@ void PlaneComponent::SetNumAreas (std::size_t number)
 
 void PlaneComponent::SetAreaPoints (std::size_t index, const qel::Point3Array& points)
 {
-    if (! std::all_of (points.begin(), points.end(), qel::isFinite))
+    if (index >= scene.areas.size() || ! std::all_of (points.begin(), points.end(), qel::isFinite))
         return;
     ChangeArea (index, [&] (Area& area) { area.SetPoints (points, surface.viewTransform); });
     ReportAllSourceAreas();

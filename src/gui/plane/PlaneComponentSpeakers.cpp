@@ -2,6 +2,7 @@
 #include "gui/plane/PlaneComponent.h"
 #include "gui/plane/Text.h"
 #include "gui/plane/objects/Limits.h"
+#include "gui/plane/objects/Positions.h"
 #include "gui/plane/view/Finite.h"
 
 namespace lumo
@@ -69,7 +70,8 @@ void PlaneComponent::FinishSpeakersMove (bool notify)
 {
     SpeakersMoved();
     if (notify)
-        Notify ([positions = SpeakersPositions()] (PlaneListener& l) { l.SpeakersPositionsChanged (positions); });
+        Notify (
+            [positions = PositionsOf (scene.speakers)] (PlaneListener& l) { l.SpeakersPositionsChanged (positions); });
     RepaintUnlessGated();
 }
 
@@ -79,14 +81,6 @@ void PlaneComponent::SpeakersMoved()
     if (surface.options.speakersRadiusVisible)
         scene.speakerGeometry.UpdateRadius (scene.speakers);
     MarkStaticLayerDirty();
-}
-
-qel::Point3Array PlaneComponent::SpeakersPositions() const
-{
-    qel::Point3Array positions (scene.speakers.size());
-    for (std::size_t i = 0; i < positions.size(); ++i)
-        positions[i] = scene.speakers[i].position;
-    return positions;
 }
 
 // ---- Looks

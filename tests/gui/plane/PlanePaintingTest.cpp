@@ -70,6 +70,14 @@ TEST (PlanePainting, AStalePictureIsNeverShown)
         { "grid colour", [] (PlaneComponent& p) { p.SetGridColour (1, 0, 0, 1, false); } },
         { "divisions", [] (PlaneComponent& p) { p.SetAngularDivisionsVisible (true); } },
         { "legend", [] (PlaneComponent& p) { p.SetLegendVisible (false); } },
+        { "legend by address",
+          [] (PlaneComponent& p) { p.processOscMessage (qel::OSCMessage ("/legend/visible").add (false)); } },
+        { "axis by address",
+          [] (PlaneComponent& p) { p.processOscMessage (qel::OSCMessage ("/axis/visible").add (false)); } },
+        { "axis colour by address",
+          [] (PlaneComponent& p) {
+              p.processOscMessage (qel::OSCMessage ("/axis/color").add (1.0f).add (0.0f).add (0.0f).add (1.0f));
+          } },
         { "background", [] (PlaneComponent& p) { p.SetBackgroundColour (juce::Colours::navy); } },
         { "view", [] (PlaneComponent& p) { p.SetViewpoint ("front"); } },
         { "offset", [] (PlaneComponent& p) { p.SetXOffset (20); } },

@@ -101,6 +101,17 @@ INSTANTIATE_TEST_SUITE_P (Values, PlaneZoom,
                           testing::Values (ZoomRow{ 0.05f, 0.11f }, ZoomRow{ 2, 2 }, ZoomRow{ 1000, 100 },
                                            ZoomRow{ -3, 0.11f }, ZoomRow{ NAN, 1 }, ZoomRow{ INFINITY, 1 }));
 
+TEST (PlaneZoom, TellsWhatBecameOfAZoomBeyondTheLimits)
+{
+    PlaneComponent plane (0, 0, 300);
+    plane.SetZoom (300, true);
+    PlaneRecorder heard (plane);
+    plane.SetZoom (300, true);
+    EXPECT_THAT (heard.Take(), ElementsAre ("options")) << "who asked holds 300 otherwise, and the view 100";
+    plane.SetZoom (100, true);
+    EXPECT_THAT (heard.Take(), ElementsAre()) << "that very zoom stands";
+}
+
 TEST (PlaneZoomLock, BlocksEveryRoad)
 {
     PlaneComponent plane (0, 0, 300);

@@ -2,6 +2,7 @@
 #include "gui/plane/PlaneComponent.h"
 #include "gui/plane/interaction/HitTest.h"
 #include "gui/plane/interaction/PlaneMenu.h"
+#include "gui/plane/objects/Positions.h"
 
 #include <cmath>
 
@@ -194,7 +195,7 @@ void PlaneComponent::TurnDragged (const qel::Point3& from, const qel::Point3& to
     if (auto* speaker = SelectedSpeaker(); speaker != nullptr && speaker->editable) {
         SetSpeakerPosition (static_cast<std::size_t> (scene.selectedSpeaker), turn (speaker->position), true);
     } else if (scene.AllSpeakersEditable() && ! scene.AnySourceEditable()) {
-        auto positions = SpeakersPositions();
+        auto positions = PositionsOf (scene.speakers);
         std::transform (positions.begin(), positions.end(), positions.begin(), turn);
         SetSpeakersPositions (positions, true);
     } else if (scene.AnySourceSelected() && scene.AnySourceEditable()) {

@@ -2,24 +2,12 @@
 
 #include "geometry/OrvaneDspConvexHull2D.h"
 #include "geometry/OrvaneDspSpeakerAlignment.h"
+#include "gui/plane/objects/Positions.h"
 
 #include <utility>
 
 namespace lumo::Plane
 {
-
-namespace
-{
-
-qel::Point3Array PositionsOf (const qel::Vector<Speaker>& speakers)
-{
-    qel::Point3Array points (speakers.size());
-    for (std::size_t i = 0; i < points.size(); ++i)
-        points[i] = speakers[i].position;
-    return points;
-}
-
-}
 
 void SpeakerGeometry::SpeakersMoved() noexcept { hullDirty = triangulationDirty = projectionDirty = true; }
 

@@ -175,7 +175,10 @@ qel::OSCBundle Legend::getOscState()
 
 bool PlaneBase::processOscMessage (const qel::OSCMessage& message)
 {
-    return surface.axis.processOscMessage (message) || surface.legend.processOscMessage (message);
+    const bool isWritten = surface.axis.processOscMessage (message) || surface.legend.processOscMessage (message);
+    if (isWritten)
+        MarkStaticLayerDirty(); // so that the repaint, which is the caller's, shows it
+    return isWritten;
 }
 
 qel::OSCBundle PlaneBase::getOscState()

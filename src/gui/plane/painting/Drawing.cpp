@@ -15,7 +15,7 @@ juce::Rectangle<float> SquareAt (juce::Point<float> centre, float side)
 
 bool IsInSight (const ViewTransform& view, juce::Point<float> centre, float side)
 {
-    return SquareAt (centre, side).intersects (juce::Rectangle<int> (view.width, view.height).toFloat());
+    return SquareAt (centre, side).intersects (view.Bounds().toFloat());
 }
 
 void DrawTextAt (juce::Graphics& g, const juce::String& text, juce::Point<float> centre, float side)

@@ -10,10 +10,8 @@ namespace lumo::Plane
 namespace
 {
 
-juce::Rectangle<float> Bounds (const ViewTransform& view)
-{
-    return { 0, 0, static_cast<float> (view.width), static_cast<float> (view.height) };
-}
+/** With room for the width of a line. */
+juce::Rectangle<float> VisibleArea (const ViewTransform& view) { return view.Bounds().toFloat().expanded (2); }
 
 /** One fill for all dashes of a line: they do not meet, and hundreds of fills a line would be slow. */
 void Stroke (juce::Graphics& g, const juce::Path& path, bool dashed)
@@ -29,7 +27,7 @@ void Stroke (juce::Graphics& g, const juce::Path& path, bool dashed)
 
 void DrawLine (juce::Graphics& g, juce::Line<double> line, const Surface& surface)
 {
-    const auto visible = VisiblePart (line, Bounds (surface.viewTransform).expanded (2));
+    const auto visible = VisiblePart (line, VisibleArea (surface.viewTransform));
     if (! visible)
         return;
     if (! surface.grid.dashed)
@@ -42,7 +40,7 @@ void DrawLine (juce::Graphics& g, juce::Line<double> line, const Surface& surfac
 
 void DrawCircle (juce::Graphics& g, juce::Point<float> centre, double radius, const Surface& surface)
 {
-    const auto circle = VisibleCircle (centre, radius, Bounds (surface.viewTransform).expanded (2));
+    const auto circle = VisibleCircle (centre, radius, VisibleArea (surface.viewTransform));
     if (! circle.isEmpty())
         Stroke (g, circle, surface.grid.dashed);
 }

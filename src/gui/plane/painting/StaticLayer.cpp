@@ -11,11 +11,6 @@ namespace lumo::Plane
 namespace
 {
 
-juce::Rectangle<int> Bounds (const Surface& surface)
-{
-    return { surface.viewTransform.width, surface.viewTransform.height };
-}
-
 /** From the picture's pixels to the component's. */
 juce::AffineTransform PlacementOf (const BackgroundImage& picture, const ViewTransform& view)
 {
@@ -39,7 +34,7 @@ void DrawBackgroundImage (juce::Graphics& g, const Surface& surface)
     const auto placement = PlacementOf (picture, surface.viewTransform);
     if (placement.isSingularity())
         return;
-    const auto shown = Bounds (surface).toFloat().transformedBy (placement.inverted()).expanded (2);
+    const auto shown = surface.viewTransform.Bounds().toFloat().transformedBy (placement.inverted()).expanded (2);
     const auto whole = picture.image.getBounds();
     const auto part = shown.getIntersection (whole.toFloat()).getSmallestIntegerContainer().getIntersection (whole);
     if (part.isEmpty())
@@ -160,7 +155,7 @@ void DrawBackground (juce::Graphics& g, const Surface& surface)
 {
     g.fillAll (surface.background.colour);
     g.setColour (juce::Colour (0xFF494949));
-    g.drawRect (Bounds (surface), 1);
+    g.drawRect (surface.viewTransform.Bounds(), 1);
 }
 
 void DrawStaticLayer (juce::Graphics& g, const Surface& surface, const Scene& scene)

@@ -25,6 +25,8 @@ public:
 
     /** Side of an object that takes a proportion of the width: 10 to 1000 pixels. It is the hit radius, too. */
     [[nodiscard]] int PixelSize (float proportion) const noexcept;
+    /** All that the component shows, in pixels. */
+    [[nodiscard]] juce::Rectangle<int> Bounds() const noexcept { return { width, height }; }
     /** Pixels of one metre for what is drawn about the origin, margin taken off: the grid's own rounding. */
     [[nodiscard]] float GridScale() const noexcept;
     /** The margin in pixels: a proportion of the width, rounded to even. */

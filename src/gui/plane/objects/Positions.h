@@ -1,0 +1,19 @@
+#pragma once
+#include "geometry/OrvaneDspPoint3.h"
+
+#include <algorithm>
+
+namespace lumo::Plane
+{
+
+/** Where sources or speakers stand, in their order. */
+template <typename Object>
+[[nodiscard]] qel::Point3Array PositionsOf (const qel::Vector<Object>& objects)
+{
+    qel::Point3Array positions (objects.size());
+    std::transform (objects.begin(), objects.end(), positions.begin(),
+                    [] (const Object& object) { return object.position; });
+    return positions;
+}
+
+}
