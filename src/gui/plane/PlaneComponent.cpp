@@ -26,7 +26,7 @@ PlaneComponent::PlaneComponent (std::size_t numSources, std::size_t numSpeakers,
         SetSourcePosition (i, ring[i], false);
     SetNumSpeakers (numSpeakers, false);
     SetSpeakersPositions (qel::defaultSpeakerLayout (scene.speakers.size()), false);
-    SetSpeakersEditable (surface.options.speakersEditable, true);
+    SetSpeakersEditable (PlaneOptions().speakersEditable, true);
 }
 
 PlaneComponent::~PlaneComponent() = default;

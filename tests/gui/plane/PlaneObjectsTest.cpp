@@ -149,7 +149,22 @@ TEST_P (PlaneLookAt, TurnsTheSourceTowardsTheTarget)
 INSTANTIATE_TEST_SUITE_P (Rows, PlaneLookAt,
                           testing::Values (LookRow{ { 1, 0, 0 }, { 0, 1, 0 }, -135 },
                                            LookRow{ { 0, 1, 0 }, { 1, 0, 0 }, -45 },
-                                           LookRow{ { -0.5f, -1, 0 }, { 0.5f, -1, 0 }, 63.435f }));
+                                           LookRow{ { -0.5f, -1, 0 }, { 0.5f, -1, 0 }, 63.435f },
+                                           LookRow{ { -1, 0.5f, 0 }, { 1, -1, 0 }, 10.305f },
+                                           LookRow{ { 1, 0.5f, 0 }, { -0.2f, -1, 0 }, -24.775f },
+                                           LookRow{ { -0.2f, -1, 0 }, { 1, 1, 0 }, 19.654f },
+                                           LookRow{ { 1, -1, 0 }, { -1, 0.5f, 0 }, -8.130f }));
+
+TEST (PlaneLookAtRules, ACaseThatNoRuleCoversIsToldAndLooksAhead)
+{
+    PlaneComponent plane (1, 0, 300);
+    plane.SetSourcePosition (0, { 0.5f, 1, 0 }, false);
+    plane.SetSourceYaw (0, 33, false);
+    testing::internal::CaptureStderr();
+    plane.SetSourceLookAt (0, { -0.2f, -1, 0 }, false);
+    EXPECT_EQ (testing::internal::GetCapturedStderr(), "PlaneComponent::SetSourceLookAt unexpected case\n");
+    EXPECT_EQ (plane.GetScene().sources[0].YawDegrees(), 0);
+}
 
 TEST (PlaneLookAtRules, ATargetOnTheOriginOrOnTheSourceChangesNothing)
 {
@@ -174,9 +189,21 @@ TEST (PlaneLevels, AreClampedAndDoNotTell)
     EXPECT_THAT (heard.Take(), IsEmpty());
 }
 
+TEST (PlaneSpeakers, CannotBeEditedUntilThatIsAskedFor)
+{
+    PlaneComponent plane (1, 2, 300);
+    EXPECT_FALSE (plane.GetSurface().options.speakersEditable);
+    EXPECT_FALSE (plane.GetScene().speakers[1].editable);
+    plane.SetSpeakerEditable (0, true, false);
+    EXPECT_FALSE (plane.GetSurface().options.speakersEditable) << "one of two";
+    plane.SetSpeakerEditable (1, true, false);
+    EXPECT_TRUE (plane.GetSurface().options.speakersEditable);
+}
+
 TEST (PlaneSpeakers, ComeBackWhenTheHeadphonesGo)
 {
     PlaneComponent plane (0, 2, 300);
+    plane.SetSpeakersEditable (true, false);
     plane.SetSpeakersVisible (false);
     plane.SetHeadphonesVisible (true);
     EXPECT_FALSE (plane.GetSurface().options.speakersVisible);
