@@ -1,4 +1,5 @@
 #include "PlaneRecorder.h"
+#include "gui/plane/painting/Drawing.h"
 
 #include <gmock/gmock.h>
 
@@ -217,6 +218,32 @@ TEST (PlanePainting, MetersAreDarkUpToTheirLevel)
     plane.SetSourceLevel (0, 6);
     EXPECT_GT (colourAt (0.9f).getRed(), 200);
 }
+
+struct CoordinatesRow
+{
+    qel::Point3 position;
+    bool circular, topView;
+    const char* text;
+};
+
+class PlaneCoordinates : public testing::TestWithParam<CoordinatesRow>
+{};
+
+TEST_P (PlaneCoordinates, AreMetresOrTheAngleThatADragTurns)
+{
+    lumo::Plane::Surface surface;
+    surface.options.circularConstraint = GetParam().circular;
+    surface.viewTransform.topView = GetParam().topView;
+    EXPECT_EQ (lumo::Plane::CoordinatesText (GetParam().position, surface), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P (Rows, PlaneCoordinates,
+                          testing::Values (CoordinatesRow{ { 0.25f, -0.75f, 12 }, false, true, "(0.3,-0.8,12.0)" },
+                                           CoordinatesRow{ { 0.25f, 0, -0.004f }, false, false, "(0.3,0.0,-0.0)" },
+                                           CoordinatesRow{ { -2, 2, 5 }, true, true, "135" },
+                                           CoordinatesRow{ { -1, 0, 0 }, true, true, "-180" },
+                                           CoordinatesRow{ { 0, 3, 3 }, true, false, "45" },
+                                           CoordinatesRow{ { 0, 0, -1 }, true, false, "-90" }));
 
 TEST (PlanePainting, TheCoordinatesFollowTheConstraint)
 {

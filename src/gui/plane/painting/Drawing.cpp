@@ -2,6 +2,7 @@
 
 #include "geometry/OrvaneDspSpherical.h"
 #include "gui/plane/LumoComponent.h"
+#include "gui/plane/Text.h"
 
 #include <cmath>
 
@@ -23,11 +24,16 @@ void DrawTextAt (juce::Graphics& g, const juce::String& text, juce::Point<float>
     g.drawText (text, SquareAt (centre, side), juce::Justification::centred, true);
 }
 
+juce::String MetresText (float metres, int decimals)
+{
+    return FromCore (qel::String (static_cast<double> (metres), decimals));
+}
+
 juce::String CoordinatesText (const qel::Point3& position, const Surface& surface)
 {
     if (! surface.options.circularConstraint) {
-        const auto decimal = [] (float metres) { return juce::String (metres, 1); };
-        return "(" + decimal (position.x) + "," + decimal (position.y) + "," + decimal (position.z) + ")";
+        return "(" + MetresText (position.x, 1) + "," + MetresText (position.y, 1) + "," + MetresText (position.z, 1) +
+               ")";
     }
     if (! surface.viewTransform.topView)
         return juce::String (static_cast<int> (qel::elevation (position)));

@@ -15,6 +15,8 @@ namespace lumo::Plane
 /** Centred in a square about a point; what does not fit ends in an ellipsis. */
 void DrawTextAt (juce::Graphics& g, const juce::String& text, juce::Point<float> centre, float side);
 
+/** With halves away from zero, as in all texts of the system. */
+[[nodiscard]] juce::String MetresText (float metres, int decimals);
 /** "(x,y,z)" in metres; with the circular constraint the angle that a drag changes, in whole degrees. */
 [[nodiscard]] juce::String CoordinatesText (const qel::Point3& position, const Surface& surface);
 void DrawCoordinates (juce::Graphics& g, const qel::Point3& position, juce::Point<int> topLeft, const Surface& surface);

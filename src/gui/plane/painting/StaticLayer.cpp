@@ -94,7 +94,7 @@ void DrawLegend (juce::Graphics& g, const Surface& surface)
     const float metres = view.ToWorld (right).x - view.ToWorld (left).x;
     const auto side = 6.0f * static_cast<float> (view.markerSize);
     g.setFont (lumo::Component::MakeFont (16.0f));
-    DrawTextAt (g, juce::String (metres, 2) + " m", { middle.x, y - 8.0f }, side);
+    DrawTextAt (g, MetresText (metres, 2) + " m", { middle.x, y - 8.0f }, side);
 }
 
 void DrawAreas (juce::Graphics& g, const Surface& surface, const Scene& scene)
