@@ -122,6 +122,15 @@ void PlaneComponent::DeselectAllSources()
     surface.lasso = {};
 }
 
+/** They exclude the sources, and each other. */
+void PlaneComponent::DeselectSpeakerAndListener()
+{
+    const int speakerBefore = scene.selectedSpeaker;
+    surface.options.listenerSelected = false;
+    SelectSpeaker (Scene::none);
+    NotifySpeakerSelection (speakerBefore);
+}
+
 void PlaneComponent::SetSourceSelected (std::size_t index, bool selected, bool notify)
 {
     auto* source = SourceAt (index);
@@ -155,6 +164,7 @@ void PlaneComponent::SelectAllSources()
         return;
     for (auto& source : scene.sources)
         source.selected = source.selected || source.Editable();
+    DeselectSpeakerAndListener();
     NotifySelectionChanged();
     repaint();
 }
@@ -170,6 +180,7 @@ void PlaneComponent::SelectNextSource()
     DeselectAllSources();
     auto& source = scene.sources[next % selection.size()];
     source.selected = source.Editable();
+    DeselectSpeakerAndListener();
     NotifySelectionChanged();
     repaint();
 }

@@ -191,6 +191,7 @@ private:
     void ApplySnapshot (qel::Point3Array points);
     void NotifySelectionChanged();
     void DeselectAllSources();
+    void DeselectSpeakerAndListener();
 
     void SelectUnder (juce::Point<float> pixels, bool toggle);
     void PressSource (Plane::Source& source, bool toggle);

@@ -313,6 +313,22 @@ TEST_F (PlaneOnStage, TabWalksAndEndsOnASourceThatCannotBeEdited)
     EXPECT_EQ (Selected(), "1100") << "more than one stays";
 }
 
+TEST_F (PlaneOnStage, AKeyThatSelectsSourcesLetsGoOfTheSpeakerAndTheListener)
+{
+    plane.SetNumSpeakers (1, false);
+    plane.SetListenerEditable (true);
+    plane.SetSpeakerPosition (0, { 0.5f, 0.5f, 0 }, false);
+    for (const auto& key : { juce::KeyPress ('a', Keys::ctrlModifier, 0), juce::KeyPress (juce::KeyPress::tabKey) }) {
+        stage.click (At ({ 0.5f, 0.5f, 0 }));
+        EXPECT_EQ (plane.GetSelectedSpeaker(), 0);
+        plane.keyPressed (key);
+        EXPECT_THAT (heard.Take ("speakerselection"), ElementsAre ("speakerselection 0 on", "speakerselection 0 off"));
+        stage.click (At ({}));
+        plane.keyPressed (key);
+        EXPECT_FALSE (plane.GetSurface().options.listenerSelected);
+    }
+}
+
 TEST_F (PlaneOnStage, EveryMenuIdTurnsItsSwitchOver)
 {
     using lumo::PlaneOptions;
