@@ -1,3 +1,4 @@
+#include "PlanePicture.h"
 #include "PlaneRecorder.h"
 
 #include <gmock/gmock.h>
@@ -10,14 +11,6 @@ namespace
 
 constexpr float notANumber = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinity = std::numeric_limits<float>::infinity();
-
-juce::Image Picture (PlaneComponent& plane)
-{
-    juce::Image image (juce::Image::ARGB, plane.getWidth(), plane.getHeight(), true, juce::SoftwareImageType());
-    juce::Graphics g (image);
-    plane.paintEntireComponent (g, true);
-    return image;
-}
 
 /** A file for as long as it is needed. */
 struct Scratch

@@ -1,3 +1,4 @@
+#include "PlanePicture.h"
 #include "PlaneRecorder.h"
 #include "gui/plane/painting/Drawing.h"
 
@@ -11,25 +12,6 @@ using testing::IsEmpty;
 
 namespace
 {
-
-juce::Image Picture (PlaneComponent& plane)
-{
-    juce::Image image (juce::Image::ARGB, plane.getWidth(), plane.getHeight(), true, juce::SoftwareImageType());
-    juce::Graphics g (image);
-    plane.paintEntireComponent (g, true);
-    return image;
-}
-
-/** The pixels that differ, as a rectangle. */
-juce::Rectangle<int> Difference (const juce::Image& a, const juce::Image& b)
-{
-    juce::Rectangle<int> changed;
-    for (int y = 0; y < a.getHeight(); ++y)
-        for (int x = 0; x < a.getWidth(); ++x)
-            if (a.getPixelAt (x, y) != b.getPixelAt (x, y))
-                changed = changed.getUnion ({ x, y, 1, 1 });
-    return changed;
-}
 
 const juce::Colour grey (0xFFB5B5B5), frame (0xFF494949);
 
