@@ -6,8 +6,6 @@
 using lumo::PlaneComponent;
 using lumo::Plane::ViewTransform;
 using testing::ElementsAre;
-using testing::FloatEq;
-using testing::FloatNear;
 
 namespace
 {
