@@ -114,6 +114,15 @@ const LayerRow layerRows[] = {
       {},
       0 },
     { "legend", Nothing, [] (PlaneComponent& p) { p.SetLegendVisible (true); }, { 225, 280, 60, 14 }, {}, 0 },
+    { "a legend of thousands of metres, whole",
+      [] (PlaneComponent& p) {
+          p.SetZoom (0.11f, true);
+          p.SetMarkerProportion (0.2f);
+      },
+      [] (PlaneComponent& p) { p.SetLegendVisible (true); },
+      { 218, 280, 74, 14 },
+      {},
+      0 },
     { "the radius of the one selected source",
       [] (PlaneComponent& p) {
           p.SetSourcePosition (0, { 0.25f, 0, 0 }, false);

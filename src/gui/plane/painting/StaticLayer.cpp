@@ -92,9 +92,11 @@ void DrawLegend (juce::Graphics& g, const Surface& surface)
     g.drawArrow ({ middle, left }, 2.0f, 5.0f, 5.0f);
 
     const float metres = view.ToWorld (right).x - view.ToWorld (left).x;
+    const auto text = MetresText (metres, 2) + " m";
+    const auto font = lumo::Component::MakeFont (16.0f);
     const auto side = 6.0f * static_cast<float> (view.markerSize);
-    g.setFont (lumo::Component::MakeFont (16.0f));
-    DrawTextAt (g, MetresText (metres, 2) + " m", { middle.x, y - 8.0f }, side);
+    g.setFont (font);
+    DrawTextAt (g, text, { middle.x, y - 8.0f }, std::max (side, font.getStringWidthFloat (text) + 2)); // never cut
 }
 
 void DrawAreas (juce::Graphics& g, const Surface& surface, const Scene& scene)
