@@ -15,13 +15,14 @@ using orvanemax::symbols;
 
 float clip (float value, const ShelfRow& row) noexcept { return std::clamp (value, row.lowest, row.highest); }
 
-/** Consecutive fields from consecutive atoms. */
-void setFields (HLShelfParameters& filter, Atoms atoms, std::size_t first, std::size_t count)
+/** Consecutive fields from consecutive atoms; always true. */
+bool setFields (HLShelfParameters& filter, Atoms atoms, std::size_t first, std::size_t count)
 {
     for (std::size_t i = 0; i < count; ++i) {
         const auto& row = shelfTable[first + i];
         filter.*row.value = clip (atoms.number (i), row);
     }
+    return true;
 }
 
 float decibelsOfLinearGain (float gain) noexcept
@@ -44,7 +45,7 @@ constexpr FilterKey filterKeys[] = {
     { &Words::fl, 4, false }, { &Words::fh, 5, false },
 };
 
-bool setOneField (HLShelfParameters& filter, t_symbol* key, float value)
+bool setOneField (HLShelfParameters& filter, const t_symbol* key, float value)
 {
     for (const auto& row : filterKeys)
         if (orvanemax::symbol (row.word) == key) {
@@ -62,16 +63,15 @@ bool parseFilter (HLShelfParameters& filter, Atoms atoms)
     const auto* key = atoms.fit ("s") ? atoms.symbol (0) : nullptr;
     const auto behind = atoms.from (1);
     if (atoms.fit ("snnnnnn") && (key == symbols().hlshelf || key == symbols().params))
-        setFields (filter, behind, 0, 6);
-    else if (atoms.fit ("nnnnnn"))
-        setFields (filter, atoms, 0, 6);
-    else if (atoms.fit ("snnnn") && key == symbols().gains)
-        setFields (filter, behind, 0, 4);
-    else if (atoms.fit ("snn") && key == symbols().freqs)
-        setFields (filter, behind, 4, 2);
-    else
-        return atoms.fit ("sn") && setOneField (filter, atoms.symbol (0), behind.number (0));
-    return true;
+        return setFields (filter, behind, 0, 6);
+    if (atoms.fit ("nnnnnn"))
+        return setFields (filter, atoms, 0, 6);
+    // The number of values picks the form: behind the key of another one, they are not read as fewer.
+    if (atoms.fit ("snnnn"))
+        return key == symbols().gains && setFields (filter, behind, 0, 4);
+    if (atoms.fit ("snn"))
+        return key == symbols().freqs && setFields (filter, behind, 4, 2);
+    return atoms.fit ("sn") && setOneField (filter, key, behind.number (0));
 }
 
 void copyFilter (const HLShelfParameters& filter, float (&values)[6]) noexcept

@@ -11,7 +11,8 @@ namespace halcyra
         gains G0 Gl Gm Gh            freqs fl fh
         KEY value                    G0 Gl Gm Gh in dB, g0 gl gm gh linear, fl fh in Hz
 
-    Fields that the form does not name stay. False, and the record untouched, for anything else. Any thread. */
+    What stands behind the values is passed over, but four or two numbers are read as the list they make, whatever the
+    key. Fields that the form does not name stay. False, and the record untouched, for anything else. Any thread. */
 bool parseFilter (HLShelfParameters& filter, orvanemax::Atoms atoms);
 
 /** Into the order of messages and attributes. */

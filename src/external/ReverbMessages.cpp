@@ -88,7 +88,8 @@ void halcyra_control_roomsize (t_halcyra_control* x, t_symbol*, t_clong argc, t_
         const Atoms atoms (argc, argv);
         if (! atoms.fit ("f"))
             return orvanemax::invalidMessage (x, "invalid message : roomsize", atoms);
-        halcyra_control_defer_msg (x, symbols().roomsize, 1, atoms.begin());
+        // All of them: the handler refuses more than one, in words of its own.
+        halcyra_control_defer_msg (x, symbols().roomsize, static_cast<t_clong> (atoms.size()), atoms.begin());
     });
 }
 
