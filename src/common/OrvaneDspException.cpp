@@ -27,14 +27,14 @@ String report (const String& message, const SourceLocation& where)
     return "Exception occurred in " + where.toText() + ": \n" + body;
 }
 
-void tell (const String& text)
+}
+
+void debugReport (const String& text)
 {
     std::fputs ((text + "\n").c_str(), stderr);
 #if defined(_WIN32)
     OutputDebugStringA (("qel >> " + text + "\n").c_str());
 #endif
-}
-
 }
 
 SourceLocation::SourceLocation (const SourcePlace& place) : SourceLocation (String (place.file), place.line) {}
@@ -53,7 +53,7 @@ Exception::Exception (const String& text, const SourceLocation& where, bool repo
     : message (text), location (where)
 {
     if (reportNow)
-        tell (report (message, location));
+        debugReport (report (message, location));
     if (exitAfterwards)
         std::exit (1);
 }

@@ -32,8 +32,11 @@ struct SourceLocation
     std::uint64_t line = 0;
 };
 
-/** The root of the library's failures. It tells itself when it is constructed, caught or not: on the error stream
-    and, where the platform has one, on the debug channel. Copies are silent. */
+/** A line on the error stream and, where the platform has one, on the debug channel. Any thread. */
+void debugReport (const String& text);
+
+/** The root of the library's failures. It tells itself when it is constructed, caught or not, by debugReport. Copies
+    are silent. */
 class Exception : public std::exception
 {
 public:

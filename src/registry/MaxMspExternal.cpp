@@ -110,7 +110,7 @@ Type typeOf (const qel::String& name)
 {
     if (const auto* type = names().find (name))
         return *type;
-    std::cerr << "qel >> unknwon external : " << name.c_str() << '\n';
+    qel::debugReport ("unknwon external : " + name);
     return Type (0);
 }
 

@@ -36,7 +36,7 @@ public:
 namespace MaxMspExternal
 {
 
-/** The type of an object's name. An unknown name is reported as "unknwon external : NAME" and gives type 0. */
+/** The type of an object's name. An unknown name is told by qel::debugReport as "unknwon external : NAME" and gives type 0. */
 [[nodiscard]] Type typeOf (const qel::String& name);
 
 /** The documentation of a type; null for one that has no texts here. */
