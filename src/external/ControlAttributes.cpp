@@ -160,10 +160,11 @@ void setAttribute (t_halcyra_control* x, t_symbol* name, t_clong argc, t_atom* a
 
 ControlAttributeTable controlAttributes() noexcept { return { table, std::size (table) }; }
 
-void fillSizeDefaults (t_halcyra_control* x)
+void fillControlDefaults (t_halcyra_control* x)
 {
     for (const auto& size : sizes)
         storeSize (x, size, std::atoi (rowOf (size).defaultText));
+    x->windowtitle = gensym ("Halcyra");
 }
 
 }

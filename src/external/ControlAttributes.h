@@ -24,8 +24,8 @@ struct ControlAttributeTable
 /** All of them, in order of registration. */
 [[nodiscard]] ControlAttributeTable controlAttributes() noexcept;
 
-/** The sizes that an object has when it is told none. */
-void fillSizeDefaults (t_halcyra_control* x);
+/** What must be readable before the first default has passed its setter: the sizes and the title. */
+void fillControlDefaults (t_halcyra_control* x);
 
 }
 

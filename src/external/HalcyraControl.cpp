@@ -49,7 +49,7 @@ void allocateArrays (t_halcyra_control* x)
 /** What the record must hold before the first attribute is read. */
 void fillDefaults (t_halcyra_control* x)
 {
-    fillSizeDefaults (x);
+    fillControlDefaults (x);
     fillViewerDefaults (x);
     for (auto& filter : x->filters)
         filter = HLShelfParameters();

@@ -159,9 +159,10 @@ void addAllAttributes (t_class* c)
         if (attribute.row.order != 0)
             ordered.push_back (&attribute.row);
     }
+    constexpr std::size_t withoutCategory = 2; // showfps and useopengl, which stand first
     std::size_t place = 0;
     for (const auto& attribute : viewerAttributes())
-        addAttribute (c, attribute.row, place++ < 2 ? nullptr : "viewer", ATTR_SET_DEFER_LOW,
+        addAttribute (c, attribute.row, place++ < withoutCategory ? nullptr : "viewer", ATTR_SET_DEFER_LOW,
                       attribute.isPerSource ? max_method (halcyra_control_per_source_get) : nullptr,
                       max_method (halcyra_control_viewer_set));
     std::sort (ordered.begin(), ordered.end(),

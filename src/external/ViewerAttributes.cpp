@@ -1,14 +1,17 @@
 #include "external/ViewerAttributes.h"
 
+#include "external/CoordinateMessages.h"
 #include "external/SceneUpdates.h"
 #include "external/ViewerSetters.h"
-#include "geometry/OrvaneDspCoordinates.h"
 #include "geometry/OrvaneDspSpherical.h"
 #include "max/Guarded.h"
 #include "max/MainThread.h"
 #include "max/MaxAttribute.h"
 #include "max/OrvanemaxSymbols.h"
 
+#include <algorithm>
+#include <cstdlib>
+#include <string_view>
 #include <unordered_map>
 
 namespace halcyra
@@ -147,37 +150,27 @@ void setByName (t_halcyra_control* x, t_symbol* name, short argc, t_atom* argv)
     });
 }
 
-void fillAtoms (t_atom* atoms, t_clong count, double value)
+/** The atoms of a per-source attribute, in the record's own array; null in an object that could not get its memory. */
+t_atom* atomsOf (t_halcyra_control* x, const AttributeRow& row) noexcept { return field<t_atom*> (x, row); }
+
+t_atom_long countOf (const t_halcyra_control* x, const AttributeRow& row) noexcept
 {
-    for (t_clong i = 0; atoms != nullptr && i < count; ++i)
-        atom_setfloat (&atoms[i], value);
+    return *reinterpret_cast<const t_atom_long*> (reinterpret_cast<const char*> (x) + row.countOffset);
 }
 
-using Control = t_halcyra_control;
-
-/** The atoms and the number of them that an attribute holds; null for any other attribute. */
-const t_atom* perSourceAtoms (t_halcyra_control* x, t_symbol* name, t_atom_long& count)
+/** Every element of a list, or the one symbol. */
+void fillSymbols (t_halcyra_control* x, const AttributeRow& row)
 {
-    struct Levels
-    {
-        const char* name;
-        t_atom* t_halcyra_control::*atoms;
-        t_atom_long t_halcyra_control::*count;
-    };
-    constexpr Levels arrays[] = {
-        { "radius", &Control::radius, &Control::numsources },
-        { "yaw", &Control::yaw, &Control::numsources },
-        { "aperture", &Control::aperture, &Control::numsources },
-        { "sourcecolor", &Control::sourcecolor, &Control::sourcecolorsize },
-        { "speakerslevels", &Control::speakerslevels, &Control::numspeakers },
-        { "sourceslevels", &Control::sourceslevels, &Control::numsources },
-    };
-    for (const auto& array : arrays)
-        if (std::string_view (name->s_name) == array.name) {
-            count = x->*array.count;
-            return x->*array.atoms;
-        }
-    return nullptr;
+    auto* word = gensym (row.defaultText == nullptr ? "" : row.defaultText);
+    std::fill_n (&field<t_symbol*> (x, row), std::max<t_clong> (row.capacity, 1), word);
+}
+
+void fillAtoms (t_halcyra_control* x, const AttributeRow& row)
+{
+    constexpr double newSourcesColour[4] = { static_cast<double> (0.49019608f), 1, 0, 1 };
+    auto* atoms = atomsOf (x, row);
+    for (t_clong i = 0; atoms != nullptr && i < row.capacity; ++i)
+        atom_setfloat (&atoms[i], row.defaultText == nullptr ? newSourcesColour[i % 4] : std::atof (row.defaultText));
 }
 
 }
@@ -186,27 +179,14 @@ ViewerAttributeTable viewerAttributes() noexcept { return { table, std::size (ta
 
 void fillViewerDefaults (t_halcyra_control* x)
 {
-    const auto& words = orvanemax::symbols();
-    for (auto** field : { &x->classdescription, &x->classdigest, &x->externalversion, &x->classseealso })
-        *field = words.empty;
-    x->backgroundimage = words.none;
-    x->backgroundimagequality = gensym ("medium");
-    x->gridmode = gensym ("circular");
-    x->viewpoint = words.top;
-    x->format = words.aed;
-    x->windowtitle = gensym ("Halcyra");
-    x->outputformat = static_cast<std::int32_t> (qel::defaultCoordinateType);
-    x->outputcount = static_cast<std::int32_t> (qel::coordinateCount (qel::defaultCoordinateType));
-    std::fill (std::begin (x->name), std::end (x->name), words.empty);
-    std::fill (std::begin (x->orientationmode), std::end (x->orientationmode), gensym ("yawconstraint"));
-    fillAtoms (x->radius, maxSources, 1);
-    fillAtoms (x->yaw, maxSources, 0);
-    fillAtoms (x->aperture, maxSources, 80);
-    fillAtoms (x->speakerslevels, maxSources, -60);
-    fillAtoms (x->sourceslevels, maxSources, -60);
-    constexpr double colour[4] = { static_cast<double> (0.49019608f), 1, 0, 1 };
-    for (t_clong i = 0; x->sourcecolor != nullptr && i < maxColours; ++i)
-        atom_setfloat (&x->sourcecolor[i], colour[i % 4]);
+    for (auto** documentation : { &x->classdescription, &x->classdigest, &x->externalversion, &x->classseealso })
+        *documentation = orvanemax::symbols().empty;
+    for (const auto& attribute : table)
+        if (std::string_view (attribute.row.type) == "symbol")
+            fillSymbols (x, attribute.row);
+        else if (attribute.isPerSource)
+            fillAtoms (x, attribute.row);
+    setOutputFormat (x, x->format);
 }
 
 }
@@ -224,12 +204,13 @@ t_max_err halcyra_control_viewer_set (t_halcyra_control* x, void* attribute, t_c
 t_max_err halcyra_control_per_source_get (t_halcyra_control* x, void* attribute, t_clong* argc, t_atom** argv)
 {
     auto* name = MaxAttribute (static_cast<t_object*> (attribute)).name();
-    t_atom_long count = 0;
-    const auto* atoms = halcyra::perSourceAtoms (x, name, count);
+    const auto* found = halcyra::attributeNamed (name);
+    const auto* atoms = found != nullptr && found->isPerSource ? halcyra::atomsOf (x, found->row) : nullptr;
     if (atoms == nullptr) {
         object_error (&x->object, "unknown attribute %s", name->s_name);
         return MAX_ERR_GENERIC;
     }
+    const auto count = halcyra::countOf (x, found->row);
     if (count < 1)
         return MAX_ERR_NONE;
     char allocated = 0;
