@@ -1,6 +1,8 @@
 #include "external/MaxHalcyraListener.h"
 
 #include "external/CoordinateMessages.h"
+#include "external/FilterMessage.h"
+#include "external/PointMirror.h"
 #include "external/ReverbParameters.h"
 #include "external/ViewerOptions.h"
 #include "gui/plane/PlaneComponent.h"
@@ -20,13 +22,6 @@ void sendOut (t_halcyra_control* x, t_symbol* selector, t_clong count, t_atom* a
 {
     if (x->outlet != nullptr)
         outlet_anything (static_cast<t_outlet*> (x->outlet), selector, orvanemax::deferrable (count), atoms);
-}
-
-void storePoint (const qel::Point3& point, float* triple) noexcept
-{
-    triple[0] = point.x;
-    triple[1] = point.y;
-    triple[2] = point.z;
 }
 
 /** Stores the component's value in its mirror and in the atom of the message; switches travel as longs. */
@@ -100,11 +95,10 @@ void MaxHalcyraListener::HalcyraFilterChanged (const HalcyraFilter& filter)
         const auto& mirror = filterMirrors[static_cast<std::size_t> (filter)];
         x->filters[filter] = x->component->getFilter (filter);
         auto& values = x->*mirror.values;
+        copyFilter (x->filters[filter], values);
         std::array<t_atom, 6> atoms{};
-        for (std::size_t i = 0; i < atoms.size(); ++i) {
-            values[i] = x->filters[filter].*shelfTable[i].value;
+        for (std::size_t i = 0; i < atoms.size(); ++i)
             atom_setfloat (&atoms[i], static_cast<double> (values[i]));
-        }
         sendOut (x, orvanemax::symbol (mirror.selector), 6, atoms.data());
     }
     notifyModified();

@@ -1,5 +1,6 @@
 #include "external/SceneUpdates.h"
 
+#include "external/PointMirror.h"
 #include "external/SceneWorkers.h"
 #include "geometry/OrvaneDspLayouts.h"
 #include "gui/plane/PlaneComponent.h"
@@ -59,10 +60,8 @@ private:
 
 void setSourcePosition (t_halcyra_control* x, t_atom_long source, const qel::Point3& position, bool notify)
 {
-    auto* mirror = x->sourcespositions + 3 * source;
-    mirror[0] = position.x; // so that the next relative move starts from here, deferred or not
-    mirror[1] = position.y;
-    mirror[2] = position.z;
+    // At once, so that the next relative move starts from here, deferred or not.
+    storePoint (position, x->sourcespositions + 3 * source);
     Packet().add (source).add (position).send (x, workers::sourcePosition, notify);
 }
 
@@ -131,8 +130,7 @@ void sendSpeakers (t_halcyra_control* x, bool notify)
 
 void sendListenerPosition (t_halcyra_control* x, bool notify)
 {
-    const auto& p = x->listenerposition;
-    Packet().add (qel::Point3{ p[0], p[1], p[2] }).send (x, workers::listenerPosition, notify);
+    Packet().add (pointIn (x->listenerposition)).send (x, workers::listenerPosition, notify);
 }
 
 void sendListenerYaw (t_halcyra_control* x, bool notify)
@@ -182,29 +180,22 @@ void initialise (t_halcyra_control* x, t_symbol*, short, t_atom*)
 
 qel::Point3 sourceInMirror (const t_halcyra_control* x, t_atom_long source) noexcept
 {
-    const auto* p = x->sourcespositions + 3 * source;
-    return { p[0], p[1], p[2] };
+    return pointIn (x->sourcespositions + 3 * source);
 }
 
 qel::Point3Array speakersInMirror (const t_halcyra_control* x)
 {
     qel::Point3Array positions (static_cast<std::size_t> (x->numspeakers));
-    for (std::size_t i = 0; i < positions.size(); ++i) {
-        const auto* p = x->speakerspositions + 3 * i;
-        positions[i] = { p[0], p[1], p[2] };
-    }
+    for (std::size_t i = 0; i < positions.size(); ++i)
+        positions[i] = pointIn (x->speakerspositions + 3 * i);
     return positions;
 }
 
 void storeSpeakersInMirror (t_halcyra_control* x, const qel::Point3Array& positions) noexcept
 {
     const auto count = std::min (positions.size(), static_cast<std::size_t> (x->numspeakers));
-    for (std::size_t i = 0; i < count; ++i) {
-        auto* p = x->speakerspositions + 3 * i;
-        p[0] = positions[i].x;
-        p[1] = positions[i].y;
-        p[2] = positions[i].z;
-    }
+    for (std::size_t i = 0; i < count; ++i)
+        storePoint (positions[i], x->speakerspositions + 3 * i);
 }
 
 }

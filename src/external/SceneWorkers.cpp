@@ -1,5 +1,6 @@
 #include "external/SceneWorkers.h"
 
+#include "external/PointMirror.h"
 #include "gui/plane/PlaneComponent.h"
 #include "max/Atoms.h"
 #include "max/Guarded.h"
@@ -40,20 +41,13 @@ void storeAtom (const t_atom& atom, t_atom* array, std::size_t index) noexcept
         array[index] = atom;
 }
 
-void storeTriple (const qel::Point3& point, float* triple) noexcept
-{
-    triple[0] = point.x;
-    triple[1] = point.y;
-    triple[2] = point.z;
-}
-
 }
 
 void sourcePosition (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
 {
     apply (x, argc, argv, [x] (const Change& change, lumo::PlaneComponent& plane) {
         const auto position = change.point (1);
-        storeTriple (position, x->sourcespositions + 3 * change.index());
+        storePoint (position, x->sourcespositions + 3 * change.index());
         plane.SetSourcePosition (change.index(), position, change.notify);
     });
 }
@@ -152,7 +146,7 @@ void speakersPositions (t_halcyra_control* x, t_symbol*, short argc, t_atom* arg
         qel::Point3Array positions (static_cast<std::size_t> (x->numspeakers));
         for (std::size_t i = 0; i < positions.size(); ++i) {
             positions[i] = change.point (3 * i);
-            storeTriple (positions[i], x->speakerspositions + 3 * i);
+            storePoint (positions[i], x->speakerspositions + 3 * i);
         }
         plane.SetSpeakersPositions (positions, change.notify);
     });
@@ -161,7 +155,7 @@ void speakersPositions (t_halcyra_control* x, t_symbol*, short argc, t_atom* arg
 void listenerPosition (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
 {
     apply (x, argc, argv, [x] (const Change& change, lumo::PlaneComponent& plane) {
-        storeTriple (change.point (0), x->listenerposition);
+        storePoint (change.point (0), x->listenerposition);
         plane.SetListenerPosition (change.point (0), change.notify);
     });
 }

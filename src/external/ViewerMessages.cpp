@@ -1,6 +1,7 @@
 #include "external/ViewerMessages.h"
 
 #include "external/CoordinateMessages.h"
+#include "external/PointMirror.h"
 #include "external/SceneUpdates.h"
 #include "gui/plane/PlaneComponent.h"
 #include "max/Guarded.h"
@@ -243,13 +244,10 @@ void listener (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
         const Atoms atoms (argc, argv);
         if (turnListener (x, atoms, notifies (selector)))
             return;
-        const auto& stored = x->listenerposition;
-        qel::Point3 position{ stored[0], stored[1], stored[2] };
+        auto position = pointIn (x->listenerposition);
         if (! parseOnePoint (x, position, atoms))
             return invalidMessage (x, "invalid message : listener", atoms);
-        x->listenerposition[0] = position.x;
-        x->listenerposition[1] = position.y;
-        x->listenerposition[2] = position.z;
+        storePoint (position, x->listenerposition);
         scene::sendListenerPosition (x, notifies (selector));
         object_notify (x, orvanemax::modified(), nullptr);
     });

@@ -1,6 +1,7 @@
 #include "external/ViewerSetters.h"
 
 #include "external/CoordinateMessages.h"
+#include "external/PointMirror.h"
 #include "external/SceneUpdates.h"
 #include "gui/verb/HalcyraComponent.h"
 #include "max/FileDialogs.h"
@@ -177,7 +178,7 @@ bool shoeboxCorners (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
     if (atoms.fit ("nnnnnn")) {
         auto& c = x->shoeboxcorners;
         copyNumbers (atoms, c, 6);
-        x->plane->SetShoebox ({ c[0], c[1], c[2] }, { c[3], c[4], c[5] });
+        x->plane->SetShoebox (pointIn (c), pointIn (c + 3));
     }
     return true;
 }
