@@ -122,6 +122,12 @@ std::string Atoms::text() const
     return out;
 }
 
+bool isKnownType (const t_atom& atom) noexcept
+{
+    const auto type = atom_gettype (&atom);
+    return type == A_LONG || type == A_FLOAT || type == A_SYM;
+}
+
 bool isNumber (const t_atom& atom) noexcept
 {
     const auto type = atom_gettype (&atom);

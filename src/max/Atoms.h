@@ -48,6 +48,9 @@ private:
     const t_atom* items = nullptr;
 };
 
+/** A long, a float or a symbol: what attributes hold. */
+[[nodiscard]] bool isKnownType (const t_atom& atom) noexcept;
+
 /** A long or a finite 32-bit float. */
 [[nodiscard]] bool isNumber (const t_atom& atom) noexcept;
 

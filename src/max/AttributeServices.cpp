@@ -15,12 +15,6 @@ namespace orvanemax
 namespace
 {
 
-bool isKnownType (const t_atom& atom) noexcept
-{
-    const auto type = atom_gettype (&atom);
-    return type == A_LONG || type == A_FLOAT || type == A_SYM;
-}
-
 /** "DumpAttribute : MAX_ERR_GENERIC in object_attr_getvalueof (gain)" */
 std::string failureOf (const char* operation, t_max_err error, t_symbol* name)
 {

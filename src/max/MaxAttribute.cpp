@@ -114,12 +114,10 @@ qel::String MaxAttribute::GetValueOf (t_symbol* property, const qel::String& fal
                                            name()->s_name + " " + property->s_name + ")");
         return fallback;
     }
-    for (const auto& atom : value.atoms()) {
-        const auto type = atom_gettype (&atom);
-        if (type != A_LONG && type != A_FLOAT && type != A_SYM)
+    for (const auto& atom : value.atoms())
+        if (! orvanemax::isKnownType (atom))
             orvanemax::tellError (nullptr, std::string ("MaxAttribute::GetValueOf : ") + name()->s_name + " (" +
                                                property->s_name + "): unhandled atom type ?");
-    }
     return withoutTrailingBlank (value.atoms().text());
 }
 

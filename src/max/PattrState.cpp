@@ -15,12 +15,6 @@ namespace orvanemax
 namespace
 {
 
-bool isKnownType (const t_atom& atom) noexcept
-{
-    const auto type = atom_gettype (&atom);
-    return type == A_LONG || type == A_FLOAT || type == A_SYM;
-}
-
 /** The values of the attributes one behind the other. */
 std::vector<t_atom> collect (void* object, const AttributeNames& names)
 {
