@@ -97,6 +97,25 @@ TEST_P (SavedState, OfAnotherLengthChangesNothing)
     EXPECT_EQ (stateOf (box), before);
 }
 
+TEST_P (SavedState, OfWordsAloneLeavesTheSizesAndIsUndoneByAGoodOne)
+{
+    auto box = settled ("@numsources 2");
+    const auto before = stateOf (box);
+    const auto good = bench::stateOf (*box).value();
+    auto words = good;
+    for (auto& atom : words)
+        atom_setsym (&atom, gensym ("word"));
+    bench::setState (*box, words);
+    settle();
+    EXPECT_NE (stateOf (box), before);
+    EXPECT_EQ (bench::stateOf (*box).value().size(), good.size());
+    for (int pass = 0; pass < 3; ++pass) { // stages stop at their neighbours
+        bench::setState (*box, good);
+        settle();
+    }
+    EXPECT_EQ (stateOf (box), before);
+}
+
 TEST_P (SavedState, TravelsByDictionary)
 {
     auto first = settled ("@numsources 2 @numspeakers 2");
@@ -134,6 +153,30 @@ TEST_P (SavedState, BadDictionariesAreToldAndSendNothing)
     EXPECT_EQ (box.dumpOutlet(), Messages());
     EXPECT_EQ (saying (box, "dumpdict nothing"), Messages{ "error no attribute nothing" });
     EXPECT_EQ (saying (box, "dictionary nowhere"), Messages{ "error unable to reference dictionary named nowhere" });
+}
+
+TEST_P (SavedState, EntriesOfADictionaryThatAreNoAtomsAreToldAndTheOthersTaken)
+{
+    auto box = settled();
+    const auto objectOf = [] (t_dictionary* dictionary) { return reinterpret_cast<t_object*> (dictionary); };
+    auto* dictionary = dictionary_new();
+    auto* inner = dictionary_new();
+    std::vector<t_atom> list (6);
+    atom_setobj (list.data(), inner);
+    dictionary_appenddictionary (dictionary, gensym ("gain"), objectOf (dictionary_new()));
+    dictionary_appendatomarray (dictionary, gensym ("tr0"), reinterpret_cast<t_object*> (atomarray_new (0, nullptr)));
+    dictionary_appendatoms (dictionary, gensym ("direct"), 6, list.data());
+    dictionary_appendfloat (dictionary, gensym ("trl"), 2);
+    auto* name = gensym ("mixed");
+    dictionary = dictobj_register (dictionary, &name);
+    const auto before = stateOf (box);
+    EXPECT_EQ (saying (box, "dictionary mixed"), Messages{ "error entry gain is not atom ? " });
+    EXPECT_EQ (box.leftOutlet(), Messages{ "reverb trl 2." });
+    box.send ("trl 1");
+    settle();
+    EXPECT_EQ (stateOf (box), before);
+    object_free (dictionary);
+    object_free (inner);
 }
 
 TEST_P (SavedState, ResetGoesBackToDefaultsButForFixedAttributes)
