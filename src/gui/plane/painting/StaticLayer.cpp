@@ -5,6 +5,9 @@
 #include "gui/plane/painting/GridPainter.h"
 #include "gui/plane/painting/SpeakerPainter.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace lumo::Plane
 {
 
