@@ -11,7 +11,8 @@
 int main (int argc, char** argv)
 {
 #ifdef _WIN32
-    _setmode (_fileno (stdout), _O_BINARY); // lines end as they do everywhere else
+    for (auto* stream : { stdout, stderr })
+        _setmode (_fileno (stream), _O_BINARY); // lines end as they do everywhere else
 #endif
     return patchbench::run (argc, argv, { findExternal, makeWindows });
 }

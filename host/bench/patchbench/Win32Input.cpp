@@ -1,4 +1,5 @@
 #include "host/bench/patchbench/Win32Input.h"
+#include <cctype>
 #include <cmath>
 #include <cstdlib>
 #include <utility>
@@ -7,7 +8,8 @@
 namespace
 {
 constexpr DWORD betweenMoves = 20;     // ms; a GUI may pass over moves that come faster than pictures
-constexpr DWORD betweenClicks = 600;   // ms; presses further apart never join into a double click
+constexpr DWORD betweenClicks = 600;   // ms; presses further apart never join into a double click,
+constexpr int besideClicks = 20;       // nor do presses that lie so many pixels apart
 constexpr float unitsOfWheel = 512.0F; // of a turn by 1
 
 struct KeyRow
@@ -25,14 +27,28 @@ constexpr KeyRow namedKeys[] = {
     { "delete", VK_DELETE },    { "insert", VK_INSERT },      { "tab", VK_TAB },
 };
 
-void sendKey (WORD code, bool down)
+void sendKeyboard (WORD code, WORD scan, DWORD flags)
 {
     INPUT input{};
     input.type = INPUT_KEYBOARD;
     input.ki.wVk = code;
-    input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
+    input.ki.wScan = scan; // a GUI may tell the keys apart by their places
+    input.ki.dwFlags = flags;
     SendInput (1, &input, sizeof (input));
     pumpMessages();
+}
+
+void sendKey (WORD code, bool down)
+{
+    const auto scan = static_cast<WORD> (MapVirtualKeyW (code, MAPVK_VK_TO_VSC));
+    sendKeyboard (code, scan, down ? 0 : KEYEVENTF_KEYUP);
+}
+
+/** A character that has no key of its own on this keyboard, as an input method gives it. */
+void sendCharacter (WORD character)
+{
+    sendKeyboard (0, character, KEYEVENTF_UNICODE);
+    sendKeyboard (0, character, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP);
 }
 
 void sendMouse (DWORD flags, int wheel = 0)
@@ -108,7 +124,7 @@ WORD codeIn (const KeyRow (&rows)[count], const std::string& name)
     return 0;
 }
 
-/** Of a key without modifiers; 0 if there is none. */
+/** Of a key that gives what it is called without shift or another modifier; 0 if there is none. */
 WORD codeOf (const std::string& name)
 {
     if (const auto code = codeIn (namedKeys, name))
@@ -118,8 +134,25 @@ WORD codeOf (const std::string& name)
         return static_cast<WORD> (VK_F1 + number - 1);
     if (name.size() != 1)
         return 0;
-    const auto scanned = VkKeyScanW (static_cast<unsigned char> (name[0]));
-    return scanned == -1 ? WORD{ 0 } : static_cast<WORD> (scanned & 0xff);
+    const auto lowered = std::tolower (static_cast<unsigned char> (name[0]));
+    const auto scanned = VkKeyScanW (static_cast<WCHAR> (lowered));
+    return (scanned & 0xff00) != 0 ? WORD{ 0 } : static_cast<WORD> (scanned);
+}
+
+void pumpFor (DWORD milliseconds)
+{
+    const auto start = GetTickCount();
+    do {
+        pumpMessages();
+        Sleep (1);
+    } while (GetTickCount() - start < milliseconds);
+}
+
+/** Comes back when the window system, too, has told of the new place. */
+void movePointer (POINT place)
+{
+    SetCursorPos (place.x, place.y);
+    pumpFor (betweenMoves);
 }
 
 void bringIntoView (HWND window, POINT place)
@@ -155,14 +188,15 @@ bool pumpMessages()
     return worked;
 }
 
-void Win32Input::press (DWORD flag)
+void Win32Input::press (POINT place, DWORD flag)
 {
-    while (GetTickCount() - lastPress < betweenClicks) {
-        Sleep (10);
-        pumpMessages();
-    }
+    const bool elsewhere =
+        std::abs (place.x - lastPlace.x) > besideClicks || std::abs (place.y - lastPlace.y) > besideClicks;
+    while (! elsewhere && GetTickCount() - lastPress < betweenClicks)
+        pumpFor (10);
     sendMouse (flag);
     lastPress = GetTickCount();
+    lastPlace = place;
 }
 
 void Win32Input::click (DWORD downFlag, DWORD upFlag)
@@ -177,19 +211,20 @@ void Win32Input::pointer (HWND window, const bench::PointerEvent& event)
     using Action = bench::PointerEvent::Action;
     POINT place{ static_cast<int> (std::lround (event.x)), static_cast<int> (std::lround (event.y)) };
     ClientToScreen (window, &place);
-    if (release == 0)
+    // A window that the pointer enters asks which keys are really down: those of ours are pressed after that.
+    if (release == 0) {
         bringIntoView (window, place);
-
+        movePointer (place);
+    }
     const HeldKeys keys (keysOf (event));
-    Sleep (betweenMoves);
-    SetCursorPos (place.x, place.y);
-    pumpMessages();
+    if (release != 0)
+        movePointer (place);
 
     const DWORD downFlag = event.right ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_LEFTDOWN;
     const DWORD upFlag = event.right ? MOUSEEVENTF_RIGHTUP : MOUSEEVENTF_LEFTUP;
     switch (event.action) {
     case Action::down:
-        press (downFlag);
+        press (place, downFlag);
         release = upFlag;
         break;
     case Action::up:
@@ -197,7 +232,7 @@ void Win32Input::pointer (HWND window, const bench::PointerEvent& event)
             sendMouse (std::exchange (release, 0));
         break;
     case Action::doubleClick:
-        press (downFlag);
+        press (place, downFlag);
         sendMouse (upFlag);
         click (downFlag, upFlag);
         break;
@@ -214,7 +249,8 @@ void Win32Input::pointer (HWND window, const bench::PointerEvent& event)
 bool Win32Input::key (HWND window, const std::string& description)
 {
     auto parts = partsOf (description);
-    const auto code = codeOf (parts.back());
+    const auto name = parts.back();
+    const auto code = codeOf (name);
     parts.pop_back();
     std::vector<WORD> modifiers;
     for (const auto& part : parts)
@@ -222,12 +258,16 @@ bool Win32Input::key (HWND window, const std::string& description)
     for (const auto modifier : modifiers)
         if (modifier == 0)
             return false;
-    if (code == 0)
+    if (code == 0 && name.size() != 1)
         return false;
 
     giveFocus (window);
     const HeldKeys keys (modifiers);
-    sendKey (code, true);
-    sendKey (code, false);
+    if (code == 0) {
+        sendCharacter (static_cast<unsigned char> (name[0]));
+    } else {
+        sendKey (code, true);
+        sendKey (code, false);
+    }
     return true;
 }

@@ -18,8 +18,9 @@ public:
 
 private:
     void click (DWORD downFlag, DWORD upFlag);
-    void press (DWORD flag);
+    void press (POINT place, DWORD flag);
 
     DWORD lastPress = 0; // tick count
+    POINT lastPlace{};   // of that press, on the screen
     DWORD release = 0;   // the flag that lets go of the held button
 };

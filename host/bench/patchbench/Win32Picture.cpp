@@ -27,6 +27,9 @@ constexpr CLSID pngEncoder = { 0x557cf406, 0x1a04, 0x11d3, { 0x9a, 0x73, 0x00, 0
 
 bool writePictureOf (HWND window, const std::string& file)
 {
+    // What lies under another window may not be there to be copied.
+    SetWindowPos (GetAncestor (window, GA_ROOT), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+
     // Nothing is drawn by itself where no display tells its blanks, as under Wine.
     RedrawWindow (window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     GdiFlush();
@@ -44,6 +47,7 @@ bool writePictureOf (HWND window, const std::string& file)
     auto status = Gdiplus::GenericError;
     {
         Gdiplus::Bitmap picture (pixels, nullptr);
+        picture.SetResolution (96, 96); // the same file on every screen
         status = picture.Save (std::filesystem::u8path (file).c_str(), &pngEncoder, nullptr);
     }
     DeleteObject (pixels);

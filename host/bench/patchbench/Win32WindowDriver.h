@@ -6,8 +6,8 @@
 
 /** The hands and eyes of the bench on Windows. It knows the dialog frames that objects make by the messages that
     Windows sends them, works with the real pointer and the real keyboard, and takes pictures off the screen.
-    A page is not turned by it: what a frame holds is drawn by the external, and only a click at the tab's place
-    reaches it. At most one driver at a time; main thread. */
+    What a frame holds is drawn by the external: a page is turned by a click at its tab.
+    At most one driver at a time; main thread. */
 class Win32WindowDriver : public bench::WindowDriver
 {
 public:

@@ -6,7 +6,8 @@ namespace
 {
 
 constexpr DWORD frameStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_VISIBLE;
-constexpr const char* dialogClass = "#32770";
+constexpr DWORD extendedStyle = WS_EX_ACCEPTFILES;
+constexpr const wchar_t* dialogClass = L"#32770";
 
 HWND windowOf (void* handle) { return static_cast<HWND> (handle); }
 
@@ -19,12 +20,37 @@ HINSTANCE thisModule()
     return module;
 }
 
+struct Decoration
+{
+    int width = 0;
+    int height = 0;
+};
+
+/** What the frame takes around its client area at a number of dots per inch. */
+Decoration decorationAt (UINT dpi)
+{
+    RECT frame{};
+    AdjustWindowRectExForDpi (&frame, frameStyle, FALSE, extendedStyle, dpi);
+    return { static_cast<int> (frame.right - frame.left), static_cast<int> (frame.bottom - frame.top) };
+}
+
+/** A frame is thicker on a screen of more dots per inch, and the component is not larger there: the frame grows
+    by the difference, so that the component is cut off no further than on any other screen. */
+void makeUpForThickFrame (HWND window, juce::Rectangle<int> frame)
+{
+    const auto usual = decorationAt (USER_DEFAULT_SCREEN_DPI);
+    const auto here = decorationAt (GetDpiForWindow (window));
+    if (here.width != usual.width || here.height != usual.height)
+        SetWindowPos (window, nullptr, 0, 0, frame.getWidth() + here.width - usual.width,
+                      frame.getHeight() + here.height - usual.height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 /** The frame's dialog procedure: a dialog without one would not even notice its close button. */
 INT_PTR CALLBACK answer (HWND frame, UINT message, WPARAM, LPARAM)
 {
     if (message != WM_CLOSE)
         return FALSE;
-    const auto* window = reinterpret_cast<const Win32Window*> (GetWindowLongPtrA (frame, GWLP_USERDATA));
+    const auto* window = reinterpret_cast<const Win32Window*> (GetWindowLongPtrW (frame, GWLP_USERDATA));
     if (window != nullptr && window->onCloseButton)
         window->onCloseButton();
     return TRUE;
@@ -51,14 +77,15 @@ bool Win32Window::create (const juce::String& title, juce::Rectangle<int> frame)
 {
     destroy();
     auto* const created =
-        CreateWindowExA (WS_EX_ACCEPTFILES, dialogClass, title.toRawUTF8(), frameStyle, frame.getX(), frame.getY(),
+        CreateWindowExW (extendedStyle, dialogClass, title.toWideCharPointer(), frameStyle, frame.getX(), frame.getY(),
                          frame.getWidth(), frame.getHeight(), nullptr, nullptr, thisModule(), nullptr);
     if (created == nullptr)
         return false;
 
     handle = created;
-    SetWindowLongPtrA (created, GWLP_USERDATA, reinterpret_cast<LONG_PTR> (this));
-    SetWindowLongPtrA (created, DWLP_DLGPROC, reinterpret_cast<LONG_PTR> (&answer));
+    SetWindowLongPtrW (created, GWLP_USERDATA, reinterpret_cast<LONG_PTR> (this));
+    SetWindowLongPtrW (created, DWLP_DLGPROC, reinterpret_cast<LONG_PTR> (&answer));
+    makeUpForThickFrame (created, frame);
     return true;
 }
 
@@ -78,7 +105,10 @@ void Win32Window::destroy()
     DestroyWindow (windowOf (std::exchange (handle, nullptr)));
 }
 
-void Win32Window::setTitle (const juce::String& title) { SetWindowTextA (windowOf (handle), title.toRawUTF8()); }
+void Win32Window::setTitle (const juce::String& title)
+{
+    SetWindowTextW (windowOf (handle), title.toWideCharPointer());
+}
 
 void Win32Window::attach (juce::Component* component)
 {
