@@ -253,6 +253,7 @@ bool Win32Input::key (HWND window, const std::string& description)
     const auto code = codeOf (name);
     parts.pop_back();
     std::vector<WORD> modifiers;
+    modifiers.reserve (parts.size());
     for (const auto& part : parts)
         modifiers.push_back (codeIn (modifierKeys, part));
     for (const auto modifier : modifiers)
