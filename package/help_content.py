@@ -238,6 +238,65 @@ VIEW = {
     ],
 }
 
+DETAILS = {
+    "tab": "details",
+    "title": "Details of the view",
+    "digest": "The rest of what the scene tab can show: sizes, colours, and aids that are off at first.",
+    "object": "halcyra~.control @numsources 2 @numspeakers 4",
+    "remark": "open the window and turn to its third tab",
+    "columns": [
+        [
+            ("Sources", [
+                ("attr", "radius", "one for each source"),
+                ("attr", "orientationmode", "one word for each source"),
+                ("attr", "sourcecolor", "four numbers for each"),
+                ("attr", "aperturecolor", ""),
+                ("attr", "sourceproportion", "how large they are drawn"),
+            ]),
+            ("Speakers", [
+                ("attr", "showspeakersradius", "their distance"),
+                ("attr", "showspeakersprojection", "on the sphere"),
+                ("attr", "showspeakerstriangulation", "needs some processor time"),
+                ("attr", "showspeakerslevels", ""),
+                ("attr", "speakerslevels", "dB, from a meter of your own"),
+                ("attr", "speakersproportion", "how large they are drawn"),
+            ]),
+            ("Listener", [
+                ("attr", "listenerposition", "x y z"),
+                ("attr", "listeneryaw", "degrees"),
+                ("attr", "listenerpitch", "degrees"),
+                ("attr", "listenerroll", "degrees"),
+                ("attr", "listenerproportion", "how large it is drawn"),
+            ]),
+        ],
+        [
+            ("Background", [
+                ("attr", "showbackgroundimage", ""),
+                ("attr", "backgroundimagexoffset", "pixels"),
+                ("attr", "backgroundimageyoffset", "pixels"),
+                ("attr", "backgroundimageangle", "degrees"),
+                ("attr", "backgroundimagequality", "low, medium, high"),
+                ("attr", "backgroundcolor", ""),
+                ("attr", "gridcolor", ""),
+                ("attr", "dashedgrid", ""),
+            ]),
+            ("Room and marks", [
+                ("attr", "showshoebox", "a box of six walls"),
+                ("attr", "shoeboxcorners", "two opposite corners: x y z, x y z"),
+                ("attr", "showanchorslabel", ""),
+                ("attr", "areasmonitoring", "watches which areas hold what"),
+            ]),
+            ("Place of the view", [
+                ("attr", "xoffset", "pixels"),
+                ("attr", "yoffset", "pixels"),
+                ("attr", "zoffset", "pixels"),
+                ("attr", "globalproportion", ""),
+                ("attr", "display", "0: the window opens empty"),
+            ]),
+        ],
+    ],
+}
+
 KEYS = {
     "tab": "keys and mouse",
     "title": "Keys and mouse",
@@ -269,6 +328,7 @@ KEYS = {
                 ("say", "c: moves only around the centre, or freely"),
                 ("say", "+ and -: zoom;  = goes back to 1"),
                 ("say", "arrows: shift the view"),
+                ("say", "ctrl + w: closes the window, in the first two tabs"),
             ]),
             ("Start", [
                 ("send", "open", ""),
@@ -318,10 +378,10 @@ STATE = {
             ("pattr and preset", [
                 ("say", "Saved: all attributes, that is every reverb setting, the filters, the positions, the view and the window. Not saved: snapshots, the corners of areas, the places of anchors, names and colours of speakers, what is shown or hidden one by one, the room size slider, the selection."),
                 ("say", "A state fits only an object with the same sizes (numsources, numspeakers, numinternals); another one is refused as a whole, with a message."),
-                ("object", "states", "pattrstorage verb-states", "", {"varname": "verb-states"}),
-                ("object", "auto", "autopattr", "takes every box that has a scripting name; this object's is verb", {"varname": "auto"}),
                 ("to", "states", "store 1", ""),
                 ("to", "states", "recall 1", ""),
+                ("object", "states", "pattrstorage verb-states", "", {"varname": "verb-states"}),
+                ("object", "auto", "autopattr", "takes every box that has a scripting name; this object's is verb", {"varname": "auto"}),
                 ("object", "presets", "preset", "shift and click stores, click recalls"),
             ]),
         ],
@@ -329,9 +389,9 @@ STATE = {
             ("Dictionaries and lists", [
                 ("send", "dumpdict", "all attributes as a dictionary, on the right outlet"),
                 ("send", "dumpdict gain tr0 room", "only these. Copy it at once, as the dict below does: it is empty afterwards"),
-                ("object", "settings", "dict verb-settings", "the settings of the next message"),
-                ("to", "settings", "set gain -6., set tr0 3.2", "first put something in"),
-                ("send", "dictionary verb-settings", "sets what it holds"),
+                ("to", "settings", "set gain -6., set tr0 3.2", "puts something into the dict below"),
+                ("object", "settings", "dict verb-settings", ""),
+                ("send", "dictionary verb-settings", "sets what that dict holds"),
                 ("send", "dump gain", "one attribute with its name; without a name, all in one list"),
             ]),
             ("Files and defaults", [
@@ -366,7 +426,7 @@ NOTES = {
     ],
 }
 
-HELP = [BASIC, TIME, FILTERS, SCENE, VIEW, KEYS, SNAPSHOTS, STATE, NOTES]
+HELP = [BASIC, TIME, FILTERS, SCENE, VIEW, DETAILS, KEYS, SNAPSHOTS, STATE, NOTES]
 
 FIRST_STEPS = {
     "title": "First steps",

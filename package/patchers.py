@@ -163,7 +163,7 @@ class Page:
         """Lays sections out one below the other; returns the boxes that feed our object and the lower edge."""
         feeds = []
         for heading, rows in sections:
-            self.comment(heading, x, y, COLUMN_WIDTH - 2 * GUTTER, 14.0, bold=True)
+            self.comment(heading, x + GUTTER, y, COLUMN_WIDTH - 2 * GUTTER, 14.0, bold=True)
             y += 28
             for row in rows:
                 feed, height = self.row(row, x + GUTTER, y)

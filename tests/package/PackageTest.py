@@ -182,6 +182,13 @@ class OnTheBench(unittest.TestCase):
                 with self.subTest(name, box=box["id"]):
                     self.assertLessEqual(set(words + ([box["attr"]] if "attr" in box else [])), attributes)
 
+    def test_help_shows_every_attribute_for_users(self):
+        _, lines, _ = bench([f"new x {OBJECT}", "attrs x"], FOLDER)
+        attributes = {line.split()[2] for line in lines if line.startswith("x attr ")}
+        root = load(FOLDER / "help" / f"{OBJECT}.maxhelp")
+        said = " ".join(b.get("attr", b.get("text", "")) for t in root["boxes"] for b in boxes_of(t["box"]["patcher"]).values())
+        self.assertEqual(attributes - set(re.findall(r"\w+", said)), set())
+
     def test_help_shows_every_message_for_users(self):
         _, lines, _ = bench([f"new x {OBJECT}", "methods x"], FOLDER)
         methods = {line.split()[2] for line in lines if line.startswith("x method ") and "A_CANT" not in line}
