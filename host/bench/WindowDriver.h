@@ -44,7 +44,8 @@ public:
     /** Set before the first object is made; an empty one is set before the receiver goes. */
     virtual void setSink (Sink sink) = 0;
 
-    /** Delivers the GUI's pending messages and repaints. True if there was anything to deliver. */
+    /** Delivers the GUI's pending messages, the repaints of windows on a display among them; a window in memory is
+        painted when its picture is written. True if there was anything to deliver. */
     virtual bool pump() = 0;
 
     virtual std::string turnPage (void* object, int page) = 0;

@@ -234,9 +234,11 @@ void HLShelfFrequencyResponseComponent::paintHandles (juce::Graphics& g) const
     if (selectedHandle < lowGain || selectedHandle > highGain)
         return;
     const auto centre = handleCentre (selectedHandle).toInt();
+    const juce::Rectangle<int> box (centre.x - 20, centre.y - 20, 40, 40);
     g.setColour (juce::Colours::black);
     g.drawText (juce::String (parameters.*handleFields[selectedHandle], 1) + " dB",
-                juce::Rectangle<int> (centre.x - 20, centre.y - 20, 40, 40), juce::Justification::centred, false);
+                box.constrainedWithin (getLocalBounds()), // an edge would cut the text
+                juce::Justification::centred, false);
 }
 
 }

@@ -23,7 +23,6 @@ HLShelfGrid::HLShelfGrid()
 void HLShelfGrid::paint (juce::Graphics& g)
 {
     g.fillAll (editors::pageColour);
-    g.setFont (juce::Font (fontHeight));
     paintGains (g);
     paintFrequencies (g);
 }
@@ -32,6 +31,7 @@ void HLShelfGrid::paintGains (juce::Graphics& g) const
 {
     const HLShelfScale s{ static_cast<double> (getWidth()), static_cast<double> (getHeight()) };
     const auto width = static_cast<float> (getWidth());
+    g.setFont (juce::Font (fontHeight));
     for (int dB = -25; dB <= 25; dB += 5) {
         const auto y = static_cast<float> (s.y (dB));
         g.setColour (gridColour.withAlpha (dB == 0 ? 0.6f : dB % 20 == 0 ? 0.4f : 0.2f));
@@ -45,6 +45,7 @@ void HLShelfGrid::paintFrequencies (juce::Graphics& g) const
 {
     const HLShelfScale s{ static_cast<double> (getWidth()), static_cast<double> (getHeight()) };
     const auto height = static_cast<float> (getHeight());
+    g.setFont (frequencyFont());
     for (int decade = 10; decade <= 10000; decade *= 10)
         for (int i = 1; i <= 10; ++i) {
             const double hz = i * decade;

@@ -10,6 +10,9 @@ class HLShelfGrid : public juce::Component
 public:
     static constexpr float fontHeight = 10;
 
+    /** Of the texts of the frequencies, narrow enough that neighbours keep apart. */
+    [[nodiscard]] static juce::Font frequencyFont() { return juce::Font (fontHeight).withHorizontalScale (0.8f); }
+
     HLShelfGrid();
 
     void paint (juce::Graphics& g) override;

@@ -194,6 +194,27 @@ TEST_F (Filters, TheHandlesShowOnlyUnderThePointer)
     EXPECT_EQ (stage.picture().getPixelAt (corner.x + 115, corner.y + 20), before);
 }
 
+TEST_F (Filters, TheTextOfAHandleIsWholeAtTheEdges)
+{
+    const auto inkAt = [this] (double dB) {
+        stage.press (handle (midCentre, 0));
+        stage.drag (handle (midCentre, dB));
+        const auto picture = stage.picture();
+        const auto corner = stage.at (curve, { 60, 0 });
+        int ink = 0;
+        for (int y = corner.y; y < corner.y + curve.getHeight(); ++y)
+            for (int x = corner.x; x < corner.x + 80; ++x)
+                ink += picture.getPixelAt (x, y).getGreen() < 90 ? 1 : 0;
+        stage.release (handle (midCentre, dB));
+        curve.reset();
+        return ink;
+    };
+    const int inside = inkAt (20);
+    EXPECT_GT (inside, 20);
+    EXPECT_GT (inkAt (30), 0.7 * inside);
+    EXPECT_GT (inkAt (-29.6), 0.7 * inside);
+}
+
 TEST_F (Filters, TheCurveIsFilledUpToItsGain)
 {
     stage.move ({ 2, 2 });
@@ -204,6 +225,23 @@ TEST_F (Filters, TheCurveIsFilledUpToItsGain)
     EXPECT_GT (fill.getBlue(), fill.getRed() + 40);
     const auto free = picture.getPixelAt (above.x, above.y);
     EXPECT_NEAR (free.getBlue(), free.getRed(), 2);
+}
+
+TEST (HLShelfGrid, TheTextsOfNeighbouringFrequenciesKeepApart)
+{
+    const lumo::HLShelfScale s{ 192, 150 };
+    const auto font = lumo::HLShelfGrid::frequencyFont();
+    const auto half = [&] (const char* text) { return 0.5 * static_cast<double> (font.getStringWidthFloat (text)); };
+    struct
+    {
+        const char *left, *right;
+        double lower, upper;
+    } const rows[] = {
+        { "50", "100", 50, 100 },     { "100", "200", 100, 200 },   { "200", "500", 200, 500 },
+        { "500", "1000", 500, 1000 }, { "1000", "2k", 1000, 2000 },
+    };
+    for (const auto& row : rows)
+        EXPECT_GT (s.x (row.upper) - s.x (row.lower), half (row.left) + half (row.right) + 1) << row.right;
 }
 
 }
