@@ -18,8 +18,15 @@ constexpr float HLShelfParameters::*handleFields[] = { &HLShelfParameters::Gl, &
 
 juce::Colour curveLineColour() { return curveColour.darker (0.4f); }
 
-float limitedGain (double dB) { return static_cast<float> (std::clamp (dB, -30.0, 30.0)); }
-float limitedFrequency (double hz) { return static_cast<float> (std::clamp (hz, 20.0, 20000.0)); }
+float limitedGain (double dB)
+{
+    return static_cast<float> (std::clamp (dB, HLShelfScale::lowestGain, HLShelfScale::highestGain));
+}
+
+float limitedFrequency (double hz)
+{
+    return static_cast<float> (std::clamp (hz, HLShelfScale::lowestFrequency, HLShelfScale::highestFrequency));
+}
 
 void drawVertical (juce::Graphics& g, double x, float thickness, float height)
 {

@@ -1,5 +1,7 @@
 #include "gui/verb/HalcyraRoom.h"
 
+#include "gui/verb/HalcyraParameters.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -9,9 +11,11 @@ namespace halcyra
 namespace
 {
 
-constexpr float smallestVolume = 10, largestVolume = 15000;
-constexpr float latestEarly = 120, latestCluster = 300, latestReverb = 500;
-constexpr float leastDensity = 0.2f;
+constexpr float highest (HalcyraReverbParameter number) { return static_cast<float> (parameterRow (number)->highest); }
+
+constexpr float latestEarly = highest (parameter::earlyEnd), latestCluster = highest (parameter::clusterEnd),
+                latestReverb = highest (parameter::reverbStart);
+constexpr float leastDensity = static_cast<float> (parameterRow (parameter::modalDensity)->lowest);
 
 /** The one at the top wins over the one at the bottom, should they cross. */
 float bounded (float value, float bottom, float top) noexcept { return value > top ? top : std::max (value, bottom); }
@@ -42,7 +46,7 @@ struct DensityBounds
 void computeTimes (RoomParameters& room, float volume) noexcept
 {
     const float side = 0.8f * std::sqrt (volume);
-    const float r = (volume - smallestVolume) / (largestVolume - smallestVolume);
+    const float r = (volume - smallestRoom) / (largestRoom - smallestRoom);
     room.earlyEnd = std::clamp (side, 1.0f, latestEarly);
     room.clusterStart = std::clamp (side * 0.9f, 1.0f, latestCluster);
     room.earlyStart = std::max (std::min (room.earlyEnd - (89 * r + 1), room.earlyEnd), 1.0f);
@@ -71,7 +75,7 @@ void computeDensity (RoomParameters& room, int numinternals, float decayTime) no
 RoomParameters computeRoomParameters (int numinternals, float volume, float decayTime) noexcept
 {
     RoomParameters room;
-    computeTimes (room, std::clamp (volume, smallestVolume, largestVolume));
+    computeTimes (room, std::clamp (volume, smallestRoom, largestRoom));
     computeDensity (room, numinternals, decayTime);
     validateRoomParameters (room, numinternals);
     return room;

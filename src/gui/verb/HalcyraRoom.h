@@ -3,6 +3,9 @@
 namespace halcyra
 {
 
+/** The volumes of rooms, in cubic metres. */
+inline constexpr float smallestRoom = 10, largestRoom = 15000;
+
 /** What a room's volume makes of the time structure. Times in ms. */
 struct RoomParameters
 {
@@ -12,7 +15,7 @@ struct RoomParameters
     float modalDensity = 0.2f;
 };
 
-/** The legal parameters nearest to a room of that volume, 10 to 15000 cubic metres, with that global decay time in
+/** The legal parameters nearest to a room of that volume, limited to those of rooms, with that global decay time in
     seconds and that number of internal channels. */
 [[nodiscard]] RoomParameters computeRoomParameters (int numinternals, float volume, float decayTime) noexcept;
 

@@ -9,7 +9,7 @@ namespace
 
 namespace parameter = halcyra::parameter;
 
-constexpr double defaultRoomSize = 2000, smallestRoom = 10, largestRoom = 15000;
+constexpr double defaultRoomSize = 2000;
 
 /** What the room size sets, in the order in which it tells of it. */
 constexpr HalcyraReverbParameter roomParameters[] = { parameter::earlyStart,  parameter::earlyEnd,
@@ -130,7 +130,7 @@ void HalcyraTimeStructureTabComponent::makeRoomSize()
 {
     makeLabel ("Room size", "RoomSizeLabel", halcyra::roomLabelBox.rectangle(), 12, true);
     place (roomSize, halcyra::roomSliderBox.rectangle(), halcyra::roomValueBox.rectangle(), 60);
-    setRange (roomSize.slider, smallestRoom, largestRoom, 10, 0, defaultRoomSize);
+    setRange (roomSize.slider, halcyra::smallestRoom, halcyra::largestRoom, 10, 0, defaultRoomSize);
 }
 
 void HalcyraTimeStructureTabComponent::makeLabel (const juce::String& text, const juce::String& name,
@@ -216,7 +216,7 @@ void HalcyraTimeStructureTabComponent::setRoomSize (float value, int notificatio
 {
     if (! std::isfinite (value))
         return;
-    const float volume = std::clamp (value, static_cast<float> (smallestRoom), static_cast<float> (largestRoom));
+    const float volume = std::clamp (value, halcyra::smallestRoom, halcyra::largestRoom);
     const auto room = halcyra::computeRoomParameters (numinternals, volume, present (parameter::tr0));
     setParameter (parameter::earlyStart, room.earlyStart, 0);
     setParameter (parameter::earlyEnd, room.earlyEnd, 0);
