@@ -174,6 +174,23 @@ TEST_F (Filters, AnEqualFilterTellsOnlyWhenForcedAndABadOneNever)
     EXPECT_EQ (heard.size(), 2u);
 }
 
+TEST_F (Filters, LabelsShowWhatTheFilterHoldsThoughASliderEndsBefore)
+{
+    const auto texts = [this] {
+        juce::StringArray shown;
+        for (auto* child : column.getChildren())
+            if (const auto* label = dynamic_cast<lumo::ValueLabel*> (child))
+                shown.add (label->shownText());
+        return shown.joinIntoString (", ");
+    };
+    column.setParameters ({ -100, 3, -3.5f, 0, 999, 1500 }, false, false);
+    EXPECT_EQ (texts(), "-100 dB, +3 dB, -3.5 dB, 0 dB, 999 Hz, 1500 Hz");
+    EXPECT_EQ (filter().G0, -100);
+    column.setParameters ({ 30, -30, 14.25f, 0.5f, 20, 20000 }, true, false);
+    EXPECT_EQ (texts(), "+30 dB, -30 dB, +14.3 dB, +0.5 dB, 20 Hz, 20 kHz");
+    EXPECT_EQ (filter().G0, 30);
+}
+
 TEST_F (Filters, TheCloseKeyIsToldAndTravelsOn)
 {
     EXPECT_FALSE (column.keyPressed (juce::KeyPress ('w', juce::ModifierKeys::ctrlModifier, 0)));

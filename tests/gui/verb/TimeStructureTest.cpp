@@ -5,7 +5,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace
@@ -16,13 +18,14 @@ using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-juce::Rectangle<int> boxOf (HalcyraReverbParameter number)
+const halcyra::ControlPlace& placeOf (HalcyraReverbParameter number)
 {
-    for (const auto& place : halcyra::timeStructurePlaces)
-        if (place.number == number)
-            return place.control.rectangle();
-    return {};
+    const auto& places = halcyra::timeStructurePlaces;
+    return *std::find_if (std::begin (places), std::end (places),
+                          [=] (const halcyra::ControlPlace& place) { return place.number == number; });
 }
+
+juce::Rectangle<int> boxOf (HalcyraReverbParameter number) { return placeOf (number).control.rectangle(); }
 
 /** A page on a stage, and the parameters that it tells of. */
 class TimeStructure : public testing::Test, protected lumo::HalcyraTimeStructureListener
@@ -58,6 +61,15 @@ protected:
     {
         tab.setParameter (number, wish, 1);
         pumpGui();
+    }
+
+    [[nodiscard]] juce::String textAt (halcyra::Box box) const
+    {
+        for (auto* child : tab.getChildren())
+            if (const auto* label = dynamic_cast<lumo::ValueLabel*> (child);
+                label != nullptr && label->getBounds() == box.rectangle())
+                return label->shownText();
+        return "no label";
     }
 
     juce::SharedResourcePointer<Ambrel4LookAndFeelV2> look;
@@ -195,6 +207,35 @@ TEST_F (TimeStructure, AMessageMaySetTrhBeyondItsSlider)
 {
     set (parameter::trh, 5);
     EXPECT_EQ (value (parameter::trh), 1) << "the slider stands at its end";
+    EXPECT_EQ (textAt (placeOf (parameter::trh).value), "1.00") << "as the slider told";
+    set (parameter::trh, 5);
+    EXPECT_EQ (textAt (placeOf (parameter::trh).value), "5.00") << "the slider had nothing to tell";
+}
+
+TEST_F (TimeStructure, ValuesAreShownWithTheirDecimalsAndUnits)
+{
+    struct
+    {
+        HalcyraReverbParameter number;
+        float wish;
+        const char* text;
+    } const rows[] = {
+        { parameter::gain, -3.5f, "-3.50 dB" },      { parameter::gain, 31, "30.00 dB" },
+        { parameter::tr0, 0.1f, "0.10 s" },          { parameter::trl, 10, "10.00" },
+        { parameter::trm, 2.345f, "2.35" },          { parameter::fl, 20, "20.0 Hz" },
+        { parameter::fh, 30000, "20000.0 Hz" },      { parameter::earlyStart, 0, "1.00 ms" },
+        { parameter::earlyEnd, 40, "40.00 ms" },     { parameter::earlyDistr, 0.9f, "0.90" },
+        { parameter::earlyShape, 1, "1.00" },        { parameter::earlyWidth, 180, "180.00 deg" },
+        { parameter::clusterStart, 50, "50.00 ms" }, { parameter::clusterEnd, 300, "300.00 ms" },
+        { parameter::clusterDistr, 0, "0.10" },      { parameter::reverbStart, 500, "500.00 ms" },
+        { parameter::modalDensity, 4, "4.00" },      { parameter::airFrequency, 440, "440.0 Hz" },
+    };
+    for (const auto& row : rows) {
+        set (row.number, row.wish);
+        EXPECT_EQ (textAt (placeOf (row.number).value), row.text);
+    }
+    tab.setRoomSize (1234.9f, 0);
+    EXPECT_EQ (textAt (halcyra::roomValueBox), "1234 m^3") << "truncated";
 }
 
 TEST_F (TimeStructure, TheRoomSizeTellsOfEightParametersInOrder)
