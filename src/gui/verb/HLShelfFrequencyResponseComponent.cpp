@@ -241,11 +241,9 @@ void HLShelfFrequencyResponseComponent::paintHandles (juce::Graphics& g) const
     if (selectedHandle < lowGain || selectedHandle > highGain)
         return;
     const auto centre = handleCentre (selectedHandle).toInt();
-    const juce::Rectangle<int> box (centre.x - 20, centre.y - 20, 40, 40);
     g.setColour (juce::Colours::black);
     g.drawText (juce::String (parameters.*handleFields[selectedHandle], 1) + " dB",
-                box.constrainedWithin (getLocalBounds()), // an edge would cut the text
-                juce::Justification::centred, false);
+                juce::Rectangle<int> (centre.x - 20, centre.y - 20, 40, 40), juce::Justification::centred, false);
 }
 
 }

@@ -8,6 +8,7 @@ namespace lumo
 namespace
 {
 
+constexpr int tickDistance = 20; // ms
 constexpr float tickFontHeight = 12;
 
 const juce::Colour backgroundColour{ 0xFFB5B5B5 };
@@ -148,12 +149,12 @@ void ImpulseResponseComponent::buildTicks()
     const auto s = scale();
     const juce::Font font (tickFontHeight);
     tickTexts.clear();
-    for (int ms = s.tickDistance; static_cast<float> (ms) < s.span(); ms += s.tickDistance) {
+    for (int ms = tickDistance; static_cast<float> (ms) < s.span(); ms += tickDistance) {
         const auto t = static_cast<float> (ms);
         const juce::String text (t);
         if (s.x (t) + font.getStringWidthFloat (text) <= s.width) // none that the edge would cut
-            tickTexts.addFittedText (font, text, s.x (t), 0, s.tickTextWidth(), tickFontHeight,
-                                     juce::Justification::top, 1, 0);
+            tickTexts.addFittedText (font, text, s.x (t), 0, static_cast<float> (static_cast<int> (0.1f * s.width)),
+                                     tickFontHeight, juce::Justification::top, 1, 0);
     }
 }
 
@@ -184,7 +185,7 @@ void ImpulseResponseComponent::paintTicks (juce::Graphics& g) const
 {
     const auto s = scale();
     g.setColour (tickColour.withAlpha (0.2f));
-    for (int ms = s.tickDistance; static_cast<float> (ms) < s.span(); ms += s.tickDistance)
+    for (int ms = tickDistance; static_cast<float> (ms) < s.span(); ms += tickDistance)
         g.fillRect (juce::Rectangle<float> (s.x (static_cast<float> (ms)) - 0.5f, 0, 1, s.height));
     g.setColour (tickColour.withAlpha (0.6f));
     tickTexts.draw (g);

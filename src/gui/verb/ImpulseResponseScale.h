@@ -10,8 +10,6 @@ struct ImpulseResponseScale
 {
     static constexpr float defaultZoom = 0.5f, leastZoom = 0.25f, greatestZoom = 2.0f;
 
-    static constexpr int tickDistance = 20; // ms
-
     float width = 0, height = 0;
     float zoom = defaultZoom;
 
@@ -20,12 +18,6 @@ struct ImpulseResponseScale
     [[nodiscard]] float x (float ms) const noexcept { return width * ms / span(); }
     /** The top of a line; a gain of 1 reaches half the height, whatever its sign. */
     [[nodiscard]] float top (float gain) const noexcept { return height - 0.5f * height * std::abs (gain); }
-    /** The room for a tick's text: a tenth of the width, ending before the next tick's text. */
-    [[nodiscard]] float tickTextWidth() const noexcept
-    {
-        constexpr float gap = 3;
-        return std::max (1.0f, std::min (std::floor (0.1f * width), x (tickDistance) - gap));
-    }
     /** The zoom after a turn of the wheel. */
     [[nodiscard]] static float zoomed (float zoom, float wheelDelta) noexcept
     {

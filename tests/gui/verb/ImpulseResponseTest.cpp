@@ -28,17 +28,6 @@ TEST (ImpulseResponseScale, ZoomsBetweenAHundredAndEightHundredMs)
     EXPECT_EQ (ImpulseResponseScale::zoomed (zoom, -1000), 0.25f);
 }
 
-TEST (ImpulseResponseScale, KeepsTheTextOfATickOffTheNext)
-{
-    for (const float zoom : { 0.25f, 0.5f, 1.0f, 2.0f }) {
-        const ImpulseResponseScale s{ 904, 144, zoom };
-        EXPECT_LT (s.tickTextWidth(), s.x (ImpulseResponseScale::tickDistance)) << zoom;
-        EXPECT_GE (s.tickTextWidth(), 19) << zoom << ", enough for three digits";
-        EXPECT_LE (s.tickTextWidth(), 90) << zoom;
-    }
-    EXPECT_GT ((ImpulseResponseScale{ 1, 1, 0.25f }.tickTextWidth()), 0) << "in the smallest display";
-}
-
 /** A display of the size that it has on its page. */
 class ImpulseResponse : public testing::Test
 {
