@@ -1,6 +1,7 @@
 #include "host/bench/Attributes.h"
 #include "host/bench/Console.h"
 #include "host/bench/HostCalls.h"
+#include "host/bench/MainQueue.h"
 #include <algorithm>
 #include <atomic>
 
@@ -10,6 +11,7 @@ namespace bench
 namespace
 {
 std::atomic<bool> missingPropertyIsError{ false };
+std::atomic<bool> deferFlagsAreHonoured{ false };
 
 constexpr t_clong canary = 0x5A5A5A5A;
 
@@ -39,6 +41,13 @@ t_max_err askGetter (const Attribute& attribute, void* x, t_clong* ac, t_atom** 
 }
 
 void setMissingPropertyIsError (bool isError) { missingPropertyIsError = isError; }
+void setDeferFlagsAreHonoured (bool areHonoured) { deferFlagsAreHonoured = areHonoured; }
+
+bool waitsForMainThread (const Attribute& attribute)
+{
+    const bool isFlagged = attribute.has (ATTR_SET_DEFER) || attribute.has (ATTR_SET_DEFER_LOW);
+    return isFlagged && deferFlagsAreHonoured && ! MainQueue::onMainThread();
+}
 
 }
 

@@ -78,4 +78,8 @@ const std::vector<Attribute*>& boxAttributes();
 /** Whether asking for a property that is not there is an error; else it is an answer without atoms. */
 void setMissingPropertyIsError (bool isError);
 
+/** Whether messages from other threads that set attributes flagged as deferred wait for the main thread. */
+void setDeferFlagsAreHonoured (bool areHonoured);
+[[nodiscard]] bool waitsForMainThread (const Attribute& attribute);
+
 }

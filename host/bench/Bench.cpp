@@ -87,6 +87,7 @@ Bench::~Bench()
     forgetDialogAnswers();
     clearTranslations();
     bench::setMissingPropertyIsError (false);
+    bench::setDeferFlagsAreHonoured (false);
     setRecordListener ({});
     takeRecorded();
 }
@@ -234,5 +235,6 @@ void Bench::answerDialog (std::optional<std::string> path) { addDialogAnswer (st
 void Bench::translate (const std::string& text, const std::string& translation) { setTranslation (text, translation); }
 
 void Bench::setMissingPropertyIsError (bool isError) { bench::setMissingPropertyIsError (isError); }
+void Bench::setDeferFlagsAreHonoured (bool areHonoured) { bench::setDeferFlagsAreHonoured (areHonoured); }
 
 }

@@ -94,6 +94,10 @@ public:
         bench does unless told): Max leaves it open, so code has to live with both. */
     void setMissingPropertyIsError (bool isError);
 
+    /** Whether an attribute that is registered as deferred is set on the main thread when the message comes from
+        another, or where the message comes from (as the bench does unless told): Max leaves this open as well. */
+    void setDeferFlagsAreHonoured (bool areHonoured);
+
     /** The text that gensym_tr and str_tr give for another. */
     void translate (const std::string& text, const std::string& translation);
 

@@ -1,6 +1,7 @@
 #include "host/bench/Attributes.h"
 #include "host/bench/Console.h"
 #include "host/bench/HostCalls.h"
+#include "host/bench/MainQueue.h"
 #include "host/bench/Outlets.h"
 #include <cstring>
 
@@ -38,11 +39,20 @@ const Method* methodFor (const t_object* x, t_symbol* selector, const Atoms& ato
     return nullptr;
 }
 
+void setLater (t_object* x, t_symbol* name, std::int16_t argc, t_atom* argv)
+{
+    object_attr_setvalueof (x, name, argc, argv);
+}
+
 bool setByMessage (t_object* x, t_symbol* selector, Atoms& atoms)
 {
     if (object_attr_usercanset (x, selector) == 0)
         return false;
-    object_attr_setvalueof (x, selector, static_cast<t_clong> (atoms.size()), atoms.empty() ? nullptr : atoms.data());
+    if (waitsForMainThread (*findAttribute (x, selector)))
+        MainQueue::instance().push (false, x, max_method (setLater), selector, atoms);
+    else
+        object_attr_setvalueof (x, selector, static_cast<t_clong> (atoms.size()),
+                                atoms.empty() ? nullptr : atoms.data());
     return true;
 }
 

@@ -92,22 +92,24 @@ TEST_P (Threads, WhatComesFromTheSchedulerLeavesOnTheMainThread)
 
 TEST_P (Threads, BothAtOnceDisturbNeither)
 {
-    for (const auto& setting : settings) {
-        auto box = settledWith (setting);
-        patch.postToScheduler ([this, &target = *box] {
+    for (const auto& setting : settings)
+        for (const bool honoured : { false, true }) {
+            patch.setDeferFlagsAreHonoured (honoured);
+            auto box = settledWith (setting);
+            patch.postToScheduler ([this, &target = *box] {
+                for (int round = 0; round < rounds; ++round)
+                    for (const auto* message : messages)
+                        patch.send (target, message);
+            });
             for (int round = 0; round < rounds; ++round)
-                for (const auto* message : messages)
-                    patch.send (target, message);
-        });
-        for (int round = 0; round < rounds; ++round)
-            for (const auto* message : messages) {
-                box.send (message);
-                settle();
-            }
-        patch.runOnScheduler ([] {});
-        settle();
-        expectAllLeftOnTheMainThread (box);
-        EXPECT_EQ (box.attribute ("name"), "\"1\" \"2\"");
-        box.free();
-    }
+                for (const auto* message : messages) {
+                    box.send (message);
+                    settle();
+                }
+            patch.runOnScheduler ([] {});
+            settle();
+            expectAllLeftOnTheMainThread (box);
+            EXPECT_EQ (box.attribute ("name"), "\"1\" \"2\"");
+            box.free();
+        }
 }

@@ -95,6 +95,24 @@ TEST_F (BenchAttributes, GiveAMissingPropertyAsNothingOrAsAnErrorAsTheBenchIsTol
     }
 }
 
+TEST_F (BenchAttributes, WaitForTheMainThreadIfTheyAreFlaggedAndTheBenchIsTold)
+{
+    auto box = make ("bench.example");
+    auto* attribute = object_attr_get (box->object, gensym ("count"));
+    const auto plain = reinterpret_cast<std::intptr_t> (object_method (attribute, gensym ("getflags")));
+    for (const bool flagged : { false, true })
+        for (const bool honoured : { false, true }) {
+            object_method (attribute, gensym ("setflags"), plain | (flagged ? ATTR_SET_DEFER_LOW : 0));
+            patch.setDeferFlagsAreHonoured (honoured);
+            box.send ("count 5");
+            box.send ("count 6", bench::Thread::scheduler);
+            EXPECT_EQ (box.attribute ("count"), flagged && honoured ? "5" : "6");
+            settle();
+            EXPECT_EQ (box.attribute ("count"), "6");
+        }
+    object_method (attribute, gensym ("setflags"), plain);
+}
+
 TEST_F (BenchAttributes, DescribeThemselves)
 {
     auto box = make ("bench.example");
