@@ -35,16 +35,28 @@ bool JuceWindow::create (const juce::String& title, juce::Rectangle<int> frame)
 
 void JuceWindow::show()
 {
+    isWanted = true;
+    if (isOccupied())
+        bringUp();
+}
+
+void JuceWindow::bringUp()
+{
     shell->setVisible (true);
     if (shell->isMinimised())
         shell->setMinimised (false);
     shell->toFront (true);
 }
 
-void JuceWindow::hide() { shell->setVisible (false); }
+void JuceWindow::hide()
+{
+    isWanted = false;
+    shell->setVisible (false);
+}
 
 void JuceWindow::destroy()
 {
+    isWanted = false;
     if (shell != nullptr)
         shell->clearContentComponent();
     shell.reset();
@@ -54,10 +66,13 @@ void JuceWindow::setTitle (const juce::String& title) { shell->setName (title); 
 
 void JuceWindow::attach (juce::Component* component)
 {
-    if (component != nullptr)
-        shell->setContentNonOwned (component, true);
-    else
+    if (component == nullptr) {
         shell->clearContentComponent();
+        return;
+    }
+    shell->setContentNonOwned (component, true);
+    if (isWanted && ! shell->isVisible())
+        bringUp();
 }
 
 bool JuceWindow::isOccupied() const { return shell != nullptr && shell->getContentComponent() != nullptr; }

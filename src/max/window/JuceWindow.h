@@ -11,7 +11,11 @@ public:
     ~JuceWindow() override;
 
     bool create (const juce::String& title, juce::Rectangle<int> frame) override;
+
+    /** Waits for the first content: a window manager would confirm the size that the window had before, perhaps
+        after the window has taken the content's, and the window would go back to it. */
     void show() override;
+
     void hide() override;
     void destroy() override;
     void setTitle (const juce::String& title) override;
@@ -36,5 +40,8 @@ protected:
     virtual std::unique_ptr<Shell> makeShell (const juce::String& title) = 0;
 
 private:
+    void bringUp();
+
     std::unique_ptr<Shell> shell;
+    bool isWanted = false;
 };
