@@ -240,6 +240,18 @@ TEST (PlanePainting, TheCoordinatesFollowTheConstraint)
     EXPECT_GT (Difference (one, Picture (plane)).getHeight(), 200) << "the circle goes when two are selected";
 }
 
+TEST (PlanePainting, CoordinatesReachInFromASmallObjectOutside)
+{
+    PlaneComponent plane (1, 0, 300);
+    plane.SetApertureVisible (false);
+    plane.SetSourceLabelVisible (0, false);
+    plane.SetAllSourcesProportion (0.001f);
+    plane.SetSourcePosition (0, { -184.0f / plane.GetSurface().viewTransform.pixelsPerMetre, 0.5f, -10000 }, false);
+    const auto without = Picture (plane);
+    plane.SetSourceSelected (0, true, false);
+    EXPECT_FALSE (Difference (without, Picture (plane)).isEmpty());
+}
+
 TEST (PlanePainting, DerivedShapesAreRecomputedOnlyWhenASpeakerMoves)
 {
     PlaneComponent plane (2, 5, 300);

@@ -4,10 +4,18 @@
 #include "gui/plane/LumoComponent.h"
 #include "gui/plane/Text.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace lumo::Plane
 {
+
+namespace
+{
+
+constexpr int coordinatesWidth = 100;
+
+}
 
 juce::Rectangle<float> SquareAt (juce::Point<float> centre, float side)
 {
@@ -17,6 +25,11 @@ juce::Rectangle<float> SquareAt (juce::Point<float> centre, float side)
 bool IsInSight (const ViewTransform& view, juce::Point<float> centre, float side)
 {
     return SquareAt (centre, side).intersects (view.Bounds().toFloat());
+}
+
+bool IsObjectInSight (const ViewTransform& view, juce::Point<float> centre, float size)
+{
+    return IsInSight (view, centre, std::max (6 * size, static_cast<float> (coordinatesWidth)));
 }
 
 void DrawTextAt (juce::Graphics& g, const juce::String& text, juce::Point<float> centre, float side)
@@ -44,7 +57,8 @@ juce::String CoordinatesText (const qel::Point3& position, const Surface& surfac
 void DrawCoordinates (juce::Graphics& g, const qel::Point3& position, juce::Point<int> topLeft, const Surface& surface)
 {
     g.setFont (lumo::Component::MakeFont (10.0f));
-    g.drawText (CoordinatesText (position, surface), topLeft.x, topLeft.y, 100, 20, juce::Justification::centred, true);
+    g.drawText (CoordinatesText (position, surface), topLeft.x, topLeft.y, coordinatesWidth, 20,
+                juce::Justification::centred, true);
 }
 
 void DrawIcon (juce::Graphics& g, const juce::Drawable& icon, juce::Point<float> centre, float size)

@@ -11,6 +11,8 @@ namespace lumo::Plane
 
 /** Whether anything about a point can be seen; objects far outside are not drawn at all. */
 [[nodiscard]] bool IsInSight (const ViewTransform& view, juce::Point<float> centre, float side);
+/** The same for a source or a speaker of that size in pixels, with its name and its coordinates. */
+[[nodiscard]] bool IsObjectInSight (const ViewTransform& view, juce::Point<float> centre, float size);
 
 /** Centred in a square about a point; what does not fit ends in an ellipsis. */
 void DrawTextAt (juce::Graphics& g, const juce::String& text, juce::Point<float> centre, float side);

@@ -100,7 +100,7 @@ void DrawSources (juce::Graphics& g, const Surface& surface, const Scene& scene)
 {
     for (const auto& source : scene.sources) {
         const auto size = static_cast<float> (surface.viewTransform.PixelSize (source.Proportion()));
-        if (! source.visible || ! IsInSight (surface.viewTransform, source.screenPosition, 6 * size))
+        if (! source.visible || ! IsObjectInSight (surface.viewTransform, source.screenPosition, size))
             continue;
         DrawIcon (g, source.Icon(), source.screenPosition, size);
         if (source.selected)

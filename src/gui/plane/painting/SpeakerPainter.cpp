@@ -45,7 +45,7 @@ void DrawSpeakerProjection (juce::Graphics& g, const Surface& surface, const Sce
         const auto& speaker = scene.speakers[i];
         const auto size = static_cast<float> (view.PixelSize (speaker.proportion));
         const auto at = view.ToScreen (points[i]);
-        if (! speaker.visible || ! IsInSight (view, at, 6 * size))
+        if (! speaker.visible || ! IsObjectInSight (view, at, size))
             continue;
         DrawIcon (g, *scene.projectionIcon, at, size);
         DrawName (g, speaker, at, size);
@@ -98,7 +98,7 @@ void DrawSpeakers (juce::Graphics& g, const Surface& surface, const Scene& scene
     for (std::size_t i = 0; i < scene.speakers.size(); ++i) {
         const auto& speaker = scene.speakers[i];
         const auto size = static_cast<float> (surface.viewTransform.PixelSize (speaker.proportion));
-        if (! speaker.visible || ! IsInSight (surface.viewTransform, speaker.screenPosition, 6 * size))
+        if (! speaker.visible || ! IsObjectInSight (surface.viewTransform, speaker.screenPosition, size))
             continue;
         DrawIcon (g, speaker.Icon(), speaker.screenPosition, size);
         if (scene.selectedSpeaker == static_cast<int> (i))
