@@ -25,15 +25,15 @@ BASIC = {
                 ("send", "open", "opens the window, or brings it to the front; a double click on the box does the same"),
                 ("send", "wclose", "hides it; the object goes on working"),
                 ("attr", "windowtitle", "one word"),
-                ("attr", "windowtopleft", "where it opens, in pixels"),
-                ("attr", "windowmoveable", ""),
+                ("attr", "windowtopleft", "top, then left, in pixels: where it opens the first time"),
+                ("attr", "windowmoveable", "0: windowtopleft is refused"),
             ]),
             ("Settings", [
                 ("attr", "gain", "level of the late reverberation, dB"),
                 ("from", ["flonum 0.1 30"], "tr0 $1", "decay time in seconds: an exact value by message"),
                 ("send", "reverb tr0 1.5", "the same in the words of the reverberator"),
                 ("send", "getgain", "asks for a value: it answers on the right outlet. Every attribute has its get"),
-                ("send", "bang", "sends all reverb settings again, for instance to a reverberator that was just loaded"),
+                ("send", "bang", "sends all positions, filters and reverb settings again, for instance to a reverberator that was just loaded"),
             ]),
         ],
         [
@@ -58,13 +58,13 @@ BASIC = {
 TIME = {
     "tab": "time structure",
     "title": "Time structure",
-    "digest": "Early reflections, then a cluster of denser ones, then the late reverberation: three stages on one time axis. Times are in milliseconds and stay in order: a stage cannot begin before the one it follows.",
+    "digest": "Early reflections, then a cluster of denser ones, then the late reverberation: three stages on one time axis, in milliseconds. A time that is set stops at its neighbours: a start at the start of the stage before and at its own end, an end at its own start and at the end of the other stage.",
     "object": MIN_SIZES,
     "hear": ["reverb", "early", "cluster"],
     "columns": [
         [
             ("Room size", [
-                ("from", ["flonum 10 15000"], "roomsize $1", "cubic metres; sets all times and the density at once. Takes a float, so write 2000. with its point"),
+                ("from", ["flonum 10 15000"], "roomsize $1", "cubic metres; sets the three stages and the modal density at once. Takes a float, so write 2000. with its point"),
             ]),
             ("Early reflections", [
                 ("attr", "early_start", "ms"),
@@ -147,10 +147,10 @@ SCENE = {
             ("Sources", [
                 ("send", "sourcespositions -1 1 0 1 1 0", "x y z of all sources in one list. For many sources send this one list and not a message for each: it is far lighter"),
                 ("send", "source 1 aed 30 0 1", "one source: azimuth, elevation, distance"),
-                ("send", "source 2 xyz 0.5 1 0", "also xy, x, y, z, ad, ae, ade, az, azim, elev, dist, ambrel3, wfs"),
+                ("send", "source 2 xyz 0.5 1 0", "also xy, x, y, z, ad, ae, ade, az, azim, elev, azimelev, dist, ambrel3, wfs"),
                 ("from", ["number -180 180"], "source 1 azim $1", "keeps elevation and distance"),
                 ("send", "source 1 azim++ 10", "a step; also elev++, dist++, dist*=, x++, y++, z++"),
-                ("send", "source 1 name voice", "also yaw, aperture, radius, visible, color (four numbers), lookat (x y z)"),
+                ("send", "source 1 name voice", "also yaw, aperture, radius, visible, showaperture, showcoordinates, orientationmode, color (four numbers), lookat (x y z)"),
                 ("send", "source 2 color 0.2 0.6 1 1", "red, green, blue, alpha from 0 to 1"),
                 ("attr", "format", "how positions leave"),
             ]),
@@ -170,10 +170,12 @@ SCENE = {
             ("Listener, areas, anchors", [
                 ("send", "listener xyz 0 0 0", ""),
                 ("send", "listener yaw 20", "also pitch, roll; rpy takes roll, pitch, yaw"),
-                ("attr", "showareas", "areas: see numareas"),
+                ("attr", "numareas", "how many areas there are"),
+                ("attr", "showareas", ""),
                 ("send", "area 1 xy -1 1 1 1 1 2 -1 2", "the corners; areas is the same"),
                 ("send", "areas 1 name stage", "also color, visible, clear"),
-                ("attr", "showanchors", "anchors: see numanchors"),
+                ("attr", "numanchors", "how many anchors there are"),
+                ("attr", "showanchors", ""),
                 ("send", "anchor 1 xyz 0 2 0", "a fixed mark"),
             ]),
             ("From a fast process", [
@@ -241,14 +243,14 @@ VIEW = {
 DETAILS = {
     "tab": "details",
     "title": "Details of the view",
-    "digest": "The rest of what the scene tab can show: sizes, colours, and aids that are off at first.",
+    "digest": "The rest of what the scene tab can show: sizes, colours, and aids that are off at first. radius, orientationmode, sourcecolor, and likewise name, yaw and aperture, take one list with a value for each source; a shorter list is ignored.",
     "object": "halcyra~.control @numsources 2 @numspeakers 4",
     "remark": "open the window and turn to its third tab",
     "columns": [
         [
             ("Sources", [
-                ("attr", "radius", "one for each source"),
-                ("attr", "orientationmode", "one word for each source"),
+                ("attr", "radius", "metres"),
+                ("attr", "orientationmode", "yawconstraint, translation, follow, listenerconstraint"),
                 ("attr", "sourcecolor", "four numbers for each"),
                 ("attr", "aperturecolor", ""),
                 ("attr", "sourceproportion", "how large they are drawn"),
@@ -284,7 +286,7 @@ DETAILS = {
                 ("attr", "showshoebox", "a box of six walls"),
                 ("attr", "shoeboxcorners", "two opposite corners: x y z, x y z"),
                 ("attr", "showanchorslabel", ""),
-                ("attr", "areasmonitoring", "watches which areas hold what"),
+                ("attr", "areasmonitoring", "keeps watch on which areas hold what; nothing of it leaves this object"),
             ]),
             ("Place of the view", [
                 ("attr", "xoffset", "pixels"),
@@ -341,9 +343,9 @@ KEYS = {
 SNAPSHOTS = {
     "tab": "snapshots",
     "title": "Snapshots",
-    "digest": "A snapshot keeps the positions of the scene under a name. Snapshots live in the object: neither pattr nor preset nor the patcher saves them, so write them to a file.",
+    "digest": "A snapshot keeps the positions of all sources under a name. Snapshots live in the object: neither pattr nor preset nor the patcher saves them, so write them to a file.",
     "object": MIN_SIZES,
-    "hear": ["source", "speakers"],
+    "hear": ["source"],
     "columns": [
         [
             ("Keep", [

@@ -19,7 +19,8 @@ ROW = 30
 MARGIN = 20
 GUTTER = 12  # between a column's left edge and its boxes; the cords run down here
 COMMENT_GAP = 10
-CONTROL_WIDTH = 200
+CONTROL_WIDTH = 240
+NAME_WIDTH = 150  # of an attribute's name in its control
 OBJECT = "halcyra~.control"
 
 # Class of a box: inlets, and the type of each outlet. `route` and `t` depend on their words.
@@ -56,7 +57,7 @@ def ports(text):
 
 
 def text_width(text):
-    return max(40.0, round(6.2 * len(text) + 14))
+    return max(40.0, round(6.3 * len(text) + 14))
 
 
 def text_height(text, width):
@@ -80,7 +81,7 @@ class Page:
         self.lines = []
         self.named = {}
         self.place = {}
-        self.pending = []  # messages to other boxes than our object
+        self.pending = []  # messages to other boxes than our object, with their column's left edge
 
     def box(self, maxclass, x, y, width, height, **own):
         kind = own.get("text", maxclass) if maxclass == "newobj" else maxclass
@@ -101,6 +102,13 @@ class Page:
         if midpoints:
             line["midpoints"] = [float(p) for p in midpoints]
         self.lines.append({"patchline": line})
+
+    def cord_by_gutter(self, source, destination, left, above):
+        """A cord past the boxes in between: down the gutter of the column, and in from so far above its end."""
+        fx, fy, _, height = self.place[source]
+        x, y, _, _ = self.place[destination]
+        turn, gutter, bus = fy + height + 4, left + 4, y - above
+        self.cord(source, destination, midpoints=[fx + 9, turn, gutter, turn, gutter, bus, x + 9, bus])
 
     def comment(self, text, x, y, width, size=12.0, bold=False):
         height = text_height(text, width) if size == 12.0 else size * 1.6
@@ -130,14 +138,14 @@ class Page:
             made = self.named[name] = self.object(text, x, y, **(own[0] if own else {}))
         elif kind == "attr":
             name, remark = rest
-            made = self.box("attrui", x, y, CONTROL_WIDTH, 22, attr=name, text_width=120.0)
+            made = self.box("attrui", x, y, CONTROL_WIDTH, 22, attr=name, text_width=float(NAME_WIDTH))
         elif kind == "send":
             text, remark = rest
             made = self.box("message", x, y, text_width(text), 22, text=text)
         elif kind == "to":
             target, text, remark = rest
             made = self.box("message", x, y, text_width(text), 22, text=text)
-            self.pending.append((made, target))
+            self.pending.append((made, target, x - GUTTER))
         elif kind == "from":  # feeders one above the other, then the message that they fill or fire
             feeders, text, remark = rest
             top, above = y, None
@@ -187,14 +195,12 @@ class Page:
 
     def tail(self, content, feeds, bottom):
         """Our object below the columns, everything wired to it by the gutters, and what its outlets go to."""
-        bus, x, y = bottom + 6, MARGIN + GUTTER, bottom + 20
+        x, y = MARGIN + GUTTER, bottom + 20
         own = {"varname": content["varname"]} if "varname" in content else {}
         verb = self.named["verb"] = self.object(content["object"], x, y, **own)
         self.comment(content.get("remark", "double-click it when the patcher is locked: its window opens"), x + self.place[verb][2] + COMMENT_GAP, y, 400)
         for feed, left in feeds:
-            fx, fy, _, height = self.place[feed]
-            turn, out, gutter = fy + height + 4, fx + 9, left + 4
-            self.cord(feed, verb, midpoints=[out, turn, gutter, turn, gutter, bus, x + 9, bus])
+            self.cord_by_gutter(feed, verb, left, 14)
         return self.outlets(content, verb, x, y + 50)
 
     def outlets(self, content, verb, x, y):
@@ -223,8 +229,8 @@ class Page:
     def other_cords(self, content):
         for source, outlet, destination in content.get("cords", []):
             self.cord(self.named[source], self.named[destination], outlet=outlet)
-        for message, target in self.pending:
-            self.cord(message, self.named[target])
+        for message, target, left in self.pending:
+            self.cord_by_gutter(message, self.named[target], left, 4)
 
 
 def patcher(page, width, height, **own):

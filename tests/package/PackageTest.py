@@ -137,6 +137,16 @@ class Patchers(unittest.TestCase):
                     for other in boxes[number + 1 :]:
                         self.assertFalse(overlap(box, other), (box, other))
 
+    def test_texts_have_room_in_their_boxes(self):
+        for name, page in pages():
+            for box in boxes_of(page).values():
+                with self.subTest(name, box=box["id"]):
+                    if box["maxclass"] in ("message", "newobj"):
+                        self.assertGreaterEqual(box["patching_rect"][2], 6 * len(box["text"]) + 12)
+                    if box["maxclass"] == "attrui":
+                        self.assertGreaterEqual(box["text_width"], 6 * len(box["attr"]))
+                        self.assertGreaterEqual(box["patching_rect"][2], box["text_width"] + 60, "room for the value")
+
     def test_help_has_its_tabs(self):
         root = load(FOLDER / "help" / f"{OBJECT}.maxhelp")
         tabs = [b["box"] for b in root["boxes"]]
