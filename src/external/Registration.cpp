@@ -16,8 +16,7 @@
 #include "max/MaxXmlDocumentation.h"
 #include "max/OrvanemaxSymbols.h"
 #include "max/PattrState.h"
-
-#include <juce_gui_basics/juce_gui_basics.h>
+#include "max/window/NativeWindow.h"
 
 #include <algorithm>
 #include <vector>
@@ -178,14 +177,6 @@ void addPorts (t_class* c)
                           { { "outlet", "messages for halcyra~" }, { "dumpout", "answers and dictionaries" } });
 }
 
-/** JUCE's message manager and desktop are the process's: another external may have made them. */
-void startJuce()
-{
-    if (juce::MessageManager::getInstanceWithoutCreating() == nullptr)
-        juce::MessageManager::getInstance();
-    juce::Desktop::getInstance();
-}
-
 }
 
 t_class* controlClass() noexcept { return registeredClass; }
@@ -196,7 +187,7 @@ void ext_main (void*)
 {
     using namespace halcyra;
     orvanemax::buildSymbols();
-    startJuce();
+    startJuceInHost();
     auto* c = class_new (className, max_method (halcyra_control_new), max_method (halcyra_control_free),
                          static_cast<t_clong> (sizeof (t_halcyra_control)), nullptr, A_GIMME, 0);
     c->c_flags |= CLASS_FLAG_NEWDICTIONARY;

@@ -1,0 +1,23 @@
+#include "host/bench/Bench.h"
+#include <cstdio>
+#include <filesystem>
+#include <windows.h>
+
+/** A host that lets go of the external after its entry has run: JUCE's hidden window, timers and hooks point into it,
+    so it has to stay, and to go on working. Ends with 0 when it does. */
+int main (int, char** argv)
+{
+    const auto file = std::filesystem::absolute (argv[0]).parent_path() / "halcyra~.control.mxe64";
+    const auto module = LoadLibraryW (file.c_str());
+    const auto entry = module != nullptr ? GetProcAddress (module, "ext_main") : nullptr;
+    if (entry == nullptr)
+        return 2;
+    bench::Bench bench;
+    bench.load (reinterpret_cast<bench::Entry> (reinterpret_cast<void (*)()> (entry)));
+    FreeLibrary (module);
+    if (GetModuleHandleW (file.filename().c_str()) == nullptr) {
+        std::puts ("the external left its host");
+        return 1;
+    }
+    return bench.make ("room", "halcyra~.control") != nullptr ? 0 : 1;
+}
