@@ -192,8 +192,6 @@ TEST_F (SnapshotFile, ReadsBackBitForBit)
 
 TEST_F (SnapshotFile, IsWellFormed)
 {
-    if (std::system ("xmllint --version >/dev/null 2>&1") != 0)
-        GTEST_SKIP() << "there is no xmllint";
     store.store ("a <&>\"' b\n", { { 0.1F, -2, 3.5F } });
     store.store ("", { { 1e-30F, 1e30F, 0 } });
     const auto file = scratch.file ("written.xml");

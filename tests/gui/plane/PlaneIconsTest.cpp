@@ -72,12 +72,9 @@ TEST (PlaneIconDocuments, ShowTheirColours)
                  128, 2);
 }
 
-/** A stock renderer, where the machine has one, shows the same shapes. */
+/** A stock renderer shows the same shapes. */
 TEST (PlaneIconDocuments, AgreeWithAStockRenderer)
 {
-    juce::ChildProcess probe;
-    if (! probe.start ("rsvg-convert --version") || ! probe.waitForProcessToFinish (5000) || probe.getExitCode() != 0)
-        GTEST_SKIP() << "rsvg-convert is not installed";
     for (const auto& [name, document] : AllIcons()) {
         const auto svg = juce::File::createTempFile ("svg"), png = svg.withFileExtension ("png");
         ASSERT_TRUE (svg.replaceWithText (SvgText (document)));
