@@ -1,5 +1,6 @@
 #pragma once
 #include "gui/plane/PlaneComponent.h"
+#include "support/ImageDifference.h"
 
 /** The plane as it would be painted now. */
 [[nodiscard]] inline juce::Image Picture (lumo::PlaneComponent& plane)
@@ -8,15 +9,4 @@
     juce::Graphics g (image);
     plane.paintEntireComponent (g, true);
     return image;
-}
-
-/** The pixels that differ, as a rectangle. */
-[[nodiscard]] inline juce::Rectangle<int> Difference (const juce::Image& a, const juce::Image& b)
-{
-    juce::Rectangle<int> changed;
-    for (int y = 0; y < a.getHeight(); ++y)
-        for (int x = 0; x < a.getWidth(); ++x)
-            if (a.getPixelAt (x, y) != b.getPixelAt (x, y))
-                changed = changed.getUnion ({ x, y, 1, 1 });
-    return changed;
 }

@@ -1,5 +1,6 @@
 #include "gui/verb/HalcyraComponent.h"
 #include "gui/plane/PlaneComponent.h"
+#include "support/ImageDifference.h"
 #include "support/Stage.h"
 
 #include <gmock/gmock.h>
@@ -223,13 +224,7 @@ TEST_F (Halcyra, AHiddenSettingShowsWhenItsPageIsTurnedTo)
     tabs->setCurrentTabIndex (0);
     pumpGui();
     const auto after = stage.picture();
-    const auto differ = [&] (juce::Rectangle<int> area) {
-        for (int y = area.getY(); y < area.getBottom(); ++y)
-            for (int x = area.getX(); x < area.getRight(); ++x)
-                if (before.getPixelAt (x, y) != after.getPixelAt (x, y))
-                    return true;
-        return false;
-    };
+    const auto differ = [&] (juce::Rectangle<int> area) { return differIn (area, before, after); };
     const auto page = stage.at (*tabs->getCurrentContentComponent(), {});
     EXPECT_TRUE (differ ({ page.x + 760, page.y + 200, 50, 10 })) << "the bar of the gain";
     EXPECT_TRUE (differ ({ page.x + 816, page.y + 200, 56, 10 })) << "its value";

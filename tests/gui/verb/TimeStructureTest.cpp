@@ -1,6 +1,7 @@
 #include "gui/plane/Ambrel4LookAndFeel.h"
 #include "gui/verb/HalcyraTimeStructureLayout.h"
 #include "gui/verb/HalcyraTimeStructureTabComponent.h"
+#include "support/ImageDifference.h"
 #include "support/Stage.h"
 
 #include <gmock/gmock.h>
@@ -284,13 +285,7 @@ TEST_F (TimeStructure, ASettingRepaintsItsValueAndLeavesTheRestOfThePage)
     const auto before = stage.picture().createCopy();
     set (parameter::gain, 12);
     const auto after = stage.picture();
-    const auto differ = [&] (juce::Rectangle<int> area) {
-        for (int y = area.getY(); y < area.getBottom(); ++y)
-            for (int x = area.getX(); x < area.getRight(); ++x)
-                if (before.getPixelAt (x, y) != after.getPixelAt (x, y))
-                    return true;
-        return false;
-    };
+    const auto differ = [&] (juce::Rectangle<int> area) { return differIn (area, before, after); };
     EXPECT_TRUE (differ (boxOf (parameter::gain)));
     EXPECT_TRUE (differ ({ 816, 200, 56, 10 })) << "its value";
     EXPECT_FALSE (differ ({ 0, 0, 600, 400 }));
