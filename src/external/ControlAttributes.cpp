@@ -69,17 +69,17 @@ constexpr SizeRow sizes[] = {
     { &Words::numinternals, &Control::numinternals, false, "could not dynamically change number of internal channels" },
 };
 
-const AttributeRow& rowOf (const SizeRow& size)
+const AttributeRow& rowOf (SymbolField name)
 {
     return std::find_if (std::begin (table), std::end (table),
-                         [&] (const ControlAttribute& a) { return gensym (a.row.name) == symbol (size.name); })
+                         [&] (const ControlAttribute& a) { return gensym (a.row.name) == symbol (name); })
         ->row;
 }
 
 /** The attribute's filter has clipped the size; the record's room must not depend on that. */
 void storeSize (t_halcyra_control* x, const SizeRow& size, t_atom_long wish)
 {
-    const auto& row = rowOf (size);
+    const auto& row = rowOf (size.name);
     x->*size.value = std::clamp (wish, static_cast<t_atom_long> (row.low), static_cast<t_atom_long> (row.high));
     x->sourcespositionssize = static_cast<std::int32_t> (3 * x->numsources);
     x->speakerspositionssize = static_cast<std::int32_t> (3 * x->numspeakers);
@@ -163,8 +163,8 @@ ControlAttributeTable controlAttributes() noexcept { return { table, std::size (
 void fillControlDefaults (t_halcyra_control* x)
 {
     for (const auto& size : sizes)
-        storeSize (x, size, std::atoi (rowOf (size).defaultText));
-    x->windowtitle = gensym ("Halcyra");
+        storeSize (x, size, std::atoi (rowOf (size.name).defaultText));
+    x->windowtitle = gensym (rowOf (&Words::windowtitle).defaultText);
 }
 
 }
