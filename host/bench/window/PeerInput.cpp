@@ -68,7 +68,9 @@ bool PeerInput::doubleClick (juce::Point<float> position, juce::ModifierKeys key
 
 bool PeerInput::wheel (juce::Point<float> position, float delta, juce::ModifierKeys keys)
 {
-    if (! move (position, keys))
+    keys = keys.withoutMouseButtons().withFlags (heldButton.getRawFlags());
+    passTime (apart);
+    if (! deliver (position, keys))
         return false;
 
     auto* const target = peer();
@@ -78,10 +80,10 @@ bool PeerInput::wheel (juce::Point<float> position, float delta, juce::ModifierK
     turn.deltaX = 0.0F;
     turn.deltaY = delta;
     turn.isReversed = turn.isSmooth = turn.isInertial = false;
-    juce::ModifierKeys::currentModifiers = keys.withoutMouseButtons();
+    juce::ModifierKeys::currentModifiers = keys;
     target->handleMouseWheel (juce::MouseInputSource::InputSourceType::mouse,
                               target->getComponent().getLocalPoint (component.get(), position), eventTime(), turn);
-    juce::ModifierKeys::currentModifiers = {};
+    juce::ModifierKeys::currentModifiers = keys.withOnlyMouseButtons();
     return true;
 }
 

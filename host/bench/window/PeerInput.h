@@ -23,7 +23,7 @@ public:
     bool click (juce::Point<float> position, juce::ModifierKeys keys = {});
     bool doubleClick (juce::Point<float> position, juce::ModifierKeys keys = {});
 
-    /** A notch of the wheel turns by about 0.2; positive away from the user. */
+    /** A notch of the wheel turns by about 0.2; positive away from the user. A pressed button stays pressed. */
     bool wheel (juce::Point<float> position, float delta, juce::ModifierKeys keys = {});
 
     /** Types the key into whatever has the focus in the window. */

@@ -22,6 +22,14 @@ float AngleInView (const qel::Point3& point, bool topView)
     return topView ? std::atan2 (point.y, point.x) : std::atan2 (point.z, point.x);
 }
 
+/** The view may have changed since the last step: the axis that it hides stays. */
+qel::Point3 StepInView (const qel::Point3& from, const qel::Point3& to, bool topView)
+{
+    auto step = to - from;
+    (topView ? step.z : step.y) = 0;
+    return step;
+}
+
 qel::Point3 Turned (const qel::Point3& p, float angle, bool topView)
 {
     if (angle == 0.0f)
@@ -151,7 +159,7 @@ void PlaneComponent::mouseDrag (const juce::MouseEvent& event)
         if (surface.options.circularConstraint)
             TurnDragged (pointer.last, point);
         else
-            MoveDragged (point - pointer.last, event.mods);
+            MoveDragged (StepInView (pointer.last, point, surface.viewTransform.topView), event.mods);
         pointer.last = point;
         Notify ([&] (PlaneListener& l) { l.PointerMoved (point); });
     } else {
