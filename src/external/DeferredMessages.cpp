@@ -29,6 +29,15 @@ const ReverbMirror* mirrorOf (t_symbol* selector) noexcept
     return row == reverbMirrors.end() ? nullptr : &*row;
 }
 
+/** The count of filters for a selector that is none. */
+HalcyraFilter filterNumber (t_symbol* selector) noexcept
+{
+    const auto row = std::find_if (filterMirrors.begin(), filterMirrors.end(), [=] (const FilterMirror& mirror) {
+        return orvanemax::symbol (mirror.selector) == selector;
+    });
+    return static_cast<HalcyraFilter> (row - filterMirrors.begin());
+}
+
 /** A symbol counts as 0; what is infinite or no number is refused. */
 bool isOneValue (Atoms atoms) noexcept
 {
@@ -71,9 +80,7 @@ void setRoomSize (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
 void setFilter (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv)
 {
     guarded (x, [=] {
-        HalcyraFilter number = 0;
-        while (orvanemax::symbol (filterMirrors[static_cast<std::size_t> (number)].selector) != selector)
-            ++number;
+        const auto number = filterNumber (selector);
         const auto& mirror = filterMirrors[static_cast<std::size_t> (number)];
         auto& filter = x->filters[number];
         parseFilter (filter, Atoms (argc, argv));
@@ -94,52 +101,40 @@ void sendAll (t_halcyra_control* x, t_symbol*, short, t_atom*)
     guarded (x, [=] { x->component->sendAllParameters(); });
 }
 
+/** What is neither a parameter nor a filter. */
 struct DeferredMessage
 {
     SymbolField selector;
     DeferredHandler handler;
 };
 
-constexpr DeferredMessage deferredMessages[] = {
-    { &Words::tr0, setNumber },
-    { &Words::trl, setNumber },
-    { &Words::trm, setNumber },
-    { &Words::trh, setNumber },
-    { &Words::gain, setNumber },
-    { &Words::fl, setNumber },
-    { &Words::fh, setNumber },
-    { &Words::reverb_start, setNumber },
-    { &Words::modaldensity, setNumber },
-    { &Words::roomairabsorption, setSwitch },
-    { &Words::roomairrolloff, setNumber },
-    { &Words::infinite, setSwitch },
-    { &Words::early_start, setNumber },
-    { &Words::early_end, setNumber },
-    { &Words::early_distr, setNumber },
-    { &Words::early_width, setNumber },
-    { &Words::early_shape, setNumber },
-    { &Words::early, setFilter },
-    { &Words::cluster_start, setNumber },
-    { &Words::cluster_end, setNumber },
-    { &Words::cluster_distr, setNumber },
-    { &Words::cluster, setFilter },
-    { &Words::direct, setFilter },
-    { &Words::room, setFilter },
+constexpr DeferredMessage otherMessages[] = {
     { &Words::reset, resetAll },
     { &Words::bang, sendAll },
     { &Words::roomsize, setRoomSize },
 };
+
+/** Null for a selector that has no handler. */
+DeferredHandler handlerOf (t_symbol* selector) noexcept
+{
+    if (const auto* mirror = mirrorOf (selector))
+        return mirror->flag != nullptr ? setSwitch : setNumber;
+    if (filterNumber (selector) < static_cast<HalcyraFilter> (filterMirrors.size()))
+        return setFilter;
+    const auto* row =
+        std::find_if (std::begin (otherMessages), std::end (otherMessages), [=] (const DeferredMessage& message) {
+            return orvanemax::symbol (message.selector) == selector;
+        });
+    return row == std::end (otherMessages) ? nullptr : row->handler;
+}
 
 }
 }
 
 void halcyra_control_defer_msg (t_halcyra_control* x, t_symbol* selector, t_clong argc, const t_atom* argv)
 {
-    using halcyra::deferredMessages;
-    const auto* row = std::find_if (
-        std::begin (deferredMessages), std::end (deferredMessages),
-        [=] (const halcyra::DeferredMessage& message) { return orvanemax::symbol (message.selector) == selector; });
-    if (row == std::end (deferredMessages))
+    const auto handler = halcyra::handlerOf (selector);
+    if (handler == nullptr)
         return object_bug (&x->object, "unknown halcyra_control_defer_msg %s", selector->s_name);
-    orvanemax::runOnMainThread (x, max_method (row->handler), selector, argc, argv);
+    orvanemax::runOnMainThread (x, max_method (handler), selector, argc, argv);
 }

@@ -71,7 +71,8 @@ enum : HalcyraReverbParameter
 }
 
 /** One parameter: where it is held, how it is called, and how its control behaves.
-    To add one: give the record a field, the list of names a name, this table a row, and the page's layout a row. */
+    To add one: give the record a field, the list of names a name, this table a row, the page's layout a row, and the
+    page's setting order a place. */
 struct ParameterRow
 {
     HalcyraReverbParameter number;

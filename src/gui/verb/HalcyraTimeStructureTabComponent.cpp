@@ -4,6 +4,8 @@
 #include "gui/verb/HalcyraRoom.h"
 #include "gui/verb/HalcyraTimeStructureLayout.h"
 
+#include <iterator>
+
 namespace
 {
 
@@ -25,6 +27,7 @@ constexpr HalcyraReverbParameter settingOrder[] = {
     parameter::earlyDistr,   parameter::earlyShape,   parameter::earlyWidth, parameter::clusterDistr,
     parameter::modalDensity, parameter::airFrequency, parameter::air,        parameter::infinite
 };
+static_assert (std::size (settingOrder) == parameter::count, "every parameter has its place");
 
 using Display = lumo::ImpulseResponseComponent;
 
