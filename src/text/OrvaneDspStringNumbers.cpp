@@ -124,15 +124,29 @@ const char* startOfNumber (const std::string& text) noexcept
     return *p == '+' && p[1] != '-' ? p + 1 : p;
 }
 
+/** Ten to this power is about as much as the number; only one that is not 0 is asked for. */
+long long powerOfTen (std::string_view digits) noexcept
+{
+    constexpr long long beyondAllDigits = 1'000'000'000'000;
+    const auto mantissa = digits.substr (0, digits.find_first_of ("eE"));
+    const auto point = std::min (mantissa.find ('.'), mantissa.size());
+    const auto firstDigit = mantissa.find_first_of ("123456789");
+
+    long long exponent = 0;
+    if (mantissa.size() < digits.size()) {
+        const auto text = digits.substr (mantissa.size() + (digits[mantissa.size() + 1] == '+' ? 2 : 1));
+        exponent = text.front() == '-' ? -beyondAllDigits : beyondAllDigits; // stays if it is not within 64 bits
+        std::from_chars (text.data(), text.data() + text.size(), exponent);
+    }
+    return std::clamp (exponent, -beyondAllDigits, beyondAllDigits) + static_cast<long long> (point) -
+           static_cast<long long> (firstDigit);
+}
+
 /** The value of a number that does not fit into a double: what it tends to. */
 double limitOf (std::string_view digits) noexcept
 {
-    const bool isNegative = digits.front() == '-';
-    const auto exponent = digits.find_first_of ("eE");
-    const auto firstDigit = digits.find_first_of ("123456789.");
-    const bool isTiny = exponent != std::string_view::npos ? digits[exponent + 1] == '-' : digits[firstDigit] == '.';
-    const double magnitude = isTiny ? 0.0 : std::numeric_limits<double>::infinity();
-    return isNegative ? -magnitude : magnitude;
+    const double magnitude = powerOfTen (digits) < 0 ? 0.0 : std::numeric_limits<double>::infinity();
+    return digits.front() == '-' ? -magnitude : magnitude;
 }
 
 }

@@ -127,6 +127,9 @@ TEST (StringToNumbers, ReadsWhatStandsAtTheBeginning)
         { "1e400", 1, infinity },
         { "-1e400", -1, -infinity },
         { "1e-400", 1, 0 },
+        { "1e9223372036854775807", 1, infinity },
+        { "1e99999999999999999999", 1, infinity },
+        { "1e-99999999999999999999", 1, 0 },
     };
     for (const auto& row : rows) {
         EXPECT_EQ (String (row.text).toInt(), row.integer) << row.text;
@@ -136,6 +139,9 @@ TEST (StringToNumbers, ReadsWhatStandsAtTheBeginning)
     EXPECT_EQ (manyDigits.toDouble(), infinity);
     EXPECT_EQ (manyZeros.toDouble(), 0);
     EXPECT_TRUE (std::signbit (manyZeros.toDouble()));
+    // The exponent's sign alone does not tell where a number with many digits lies.
+    EXPECT_EQ ((manyDigits + "e-5").toDouble(), infinity);
+    EXPECT_EQ ((manyZeros + "e+5").toDouble(), 0);
 }
 
 TEST (StringHex, GoesBothWays)
