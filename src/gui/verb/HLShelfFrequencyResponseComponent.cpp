@@ -154,7 +154,8 @@ void HLShelfFrequencyResponseComponent::mouseDown (const juce::MouseEvent& e)
 
 void HLShelfFrequencyResponseComponent::mouseDrag (const juce::MouseEvent& e)
 {
-    if (selectedHandle == none || ! isEnabled() || ! isMouseOver())
+    hovered = reallyContains (e.position, false);
+    if (selectedHandle == none || ! isEnabled() || ! hovered)
         return;
     const auto position = e.position.toDouble();
     const bool isGain = selectedHandle < lowFrequency;
@@ -169,10 +170,15 @@ void HLShelfFrequencyResponseComponent::mouseUp (const juce::MouseEvent&)
     repaint();
 }
 
-void HLShelfFrequencyResponseComponent::mouseEnter (const juce::MouseEvent&) { repaint(); }
+void HLShelfFrequencyResponseComponent::mouseEnter (const juce::MouseEvent&)
+{
+    hovered = true;
+    repaint();
+}
 
 void HLShelfFrequencyResponseComponent::mouseExit (const juce::MouseEvent&)
 {
+    hovered = false;
     selectedHandle = none;
     repaint();
 }
@@ -199,7 +205,7 @@ void HLShelfFrequencyResponseComponent::paintOverChildren (juce::Graphics& g)
 {
     g.setFont (juce::Font (HLShelfGrid::fontHeight));
     paintCurve (g);
-    if (isMouseOver())
+    if (hovered)
         paintHandles (g);
     Component::paintOverChildren (g);
 }

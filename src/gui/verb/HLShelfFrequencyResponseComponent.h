@@ -86,6 +86,7 @@ private:
     HLShelfResponse response;
     HLShelfParameters parameters;
     int selectedHandle = none;
+    bool hovered = false; // by the events alone: they may come from elsewhere than the screen's pointer
     std::vector<Listener*> listeners;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HLShelfFrequencyResponseComponent)
