@@ -177,6 +177,10 @@ void MaxMspJuceWindowManager::build (bool show)
     window->attach (component);
     component->setBounds (area);
     component->setVisible (show);
+
+    // The focus went when the component was taken out: keys work from the first moment, without a click.
+    if (component->isShowing())
+        component->grabKeyboardFocus();
 }
 
 void MaxMspJuceWindowManager::hide()
