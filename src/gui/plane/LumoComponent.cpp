@@ -50,7 +50,7 @@ void Component::SetOpenGLEnabled (bool enabled)
 void Component::attachOpenGL()
 {
     const auto* peer = getPeer();
-    const bool canAttach = peer != nullptr && peer->getNativeHandle() != nullptr;
+    const bool canAttach = isVisible() && peer != nullptr && peer->getNativeHandle() != nullptr;
     if (! openGLIsWanted || ! canAttach || IsOpenGLEnabled())
         return;
     if (openGLContext == nullptr)
@@ -60,6 +60,14 @@ void Component::attachOpenGL()
 }
 
 void Component::parentHierarchyChanged() { attachOpenGL(); }
+
+void Component::visibilityChanged()
+{
+    if (isVisible())
+        attachOpenGL();
+    else if (openGLContext != nullptr)
+        openGLContext->detach();
+}
 
 bool Component::IsOpenGLEnabled() const noexcept
 {
