@@ -11,6 +11,7 @@
 #include "max/Atoms.h"
 #include "max/DictionaryState.h"
 #include "max/Guarded.h"
+#include "max/HostFunction.h"
 #include "max/MaxMspJuceWindowManager.h"
 #include "max/OrvanemaxSymbols.h"
 
@@ -111,23 +112,27 @@ void* halcyra_control_new (t_symbol*, t_clong argc, t_atom* argv)
         return nullptr;
     hideApertures (x); // whatever was saved: a new object starts without
     makeOutlets (x);
-    defer_medium (x, max_method (scene::initialise), nullptr, 0, nullptr);
+    defer_medium (x, orvanemax::hostFunction<scene::initialise>(), nullptr, 0, nullptr);
     replayParameters (x);
     return x;
 }
 
 void halcyra_control_free (t_halcyra_control* x)
 {
-    guarded (x, [x] {
-        delete x->window; // closes it
-        if (x->component != nullptr) {
-            delete x->listener;
-            delete x->component;
-        }
-    });
     for (const auto& array : ownedArrays)
         if (x->*array.atoms != nullptr)
             sysmem_freeptr (x->*array.atoms);
+    if (x->listener != nullptr)
+        x->listener->leaveOwner();
+    if (x->window != nullptr)
+        x->window->leaveOwner();
+    orvanemax::objectGoes (x, [window = x->window, listener = x->listener, component = x->component] {
+        delete window;
+        if (component != nullptr) {
+            delete listener;
+            delete component;
+        }
+    });
 }
 
 void halcyra_control_assist (t_halcyra_control*, void*, t_clong io, t_clong index, char* text)

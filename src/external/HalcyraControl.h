@@ -98,8 +98,8 @@ static_assert (std::is_standard_layout_v<t_halcyra_control> && std::is_trivial_v
 #define HALCYRA_FIELD(field)                                                                                           \
     orvanemax::AttributeField { #field, calcoffset(t_halcyra_control, field) }
 
-/** Registers `halcyra~.control` with the host. Called once when the external is loaded. */
-MAX_EXPORT void ext_main (void* unused);
+/** Registers `halcyra~.control` with the host and returns 0. Called once when the external is loaded. */
+MAX_EXPORT t_clong ext_main (void* unused);
 
 void* halcyra_control_new (t_symbol* name, t_clong argc, t_atom* argv);
 void halcyra_control_free (t_halcyra_control* x);

@@ -7,6 +7,7 @@
 #include "max/Guarded.h"
 #include "max/MainThread.h"
 #include "max/MaxAttribute.h"
+#include "max/Modified.h"
 #include "max/OrvanemaxSymbols.h"
 
 #include <algorithm>
@@ -146,7 +147,7 @@ void setByName (t_halcyra_control* x, t_symbol* name, short argc, t_atom* argv)
         if (attribute == nullptr)
             return orvanemax::tellError (x, std::string ("unknown attribute ") + name->s_name);
         if (attribute->set (x, attribute->row, orvanemax::Atoms (argc, argv)))
-            object_notify (x, orvanemax::modified(), nullptr);
+            orvanemax::notifyModified (x);
     });
 }
 
@@ -197,7 +198,7 @@ t_max_err halcyra_control_viewer_set (t_halcyra_control* x, void* attribute, t_c
     if (systhread_ismainthread())
         halcyra::setByName (x, name, orvanemax::deferrable (argc), argv);
     else
-        orvanemax::runOnMainThread (x, max_method (halcyra::setByName), name, argc, argv);
+        orvanemax::runOnMainThread (x, orvanemax::hostFunction<halcyra::setByName>(), name, argc, argv);
     return MAX_ERR_NONE;
 }
 

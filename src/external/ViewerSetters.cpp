@@ -5,6 +5,7 @@
 #include "external/SceneUpdates.h"
 #include "gui/verb/HalcyraComponent.h"
 #include "max/FileDialogs.h"
+#include "max/ObjectCall.h"
 #include "max/OrvanemaxSymbols.h"
 
 #include <cctype>
@@ -14,6 +15,7 @@ namespace halcyra::setters
 namespace
 {
 
+using orvanemax::objectIsGone;
 using orvanemax::symbols;
 
 /** Copies as many numbers as there are, at most room for all. */
@@ -100,7 +102,7 @@ bool sourcesPositions (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
     if (atoms.empty() || ! atoms.areNumbers())
         return true;
     copyNumbers (atoms, x->sourcespositions, x->sourcespositionssize);
-    for (t_atom_long i = 0; i < x->numsources; ++i)
+    for (t_atom_long i = 0; ! objectIsGone() && i < x->numsources; ++i)
         scene::setSourcePosition (x, i, scene::sourceInMirror (x, i), true);
     return true;
 }
@@ -142,7 +144,7 @@ bool sourceColour (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
 {
     if (atoms.size() < static_cast<std::size_t> (4 * x->numsources))
         return true;
-    for (t_atom_long i = 0; i < x->numsources; ++i) {
+    for (t_atom_long i = 0; ! objectIsGone() && i < x->numsources; ++i) {
         const auto values = atoms.from (static_cast<std::size_t> (4 * i));
         if (values.fit ("nnnn"))
             scene::setSourceColour (

@@ -66,8 +66,8 @@ void setFromEntry (void* object, const t_dictionary* dictionary, t_symbol* key)
     if (dictionary_getatom (dictionary, key, &atom) != MAX_ERR_NONE ||
         (atom_gettype (&atom) == A_OBJ && ! atomisatomarray (&atom)))
         return tellError (object, std::string ("entry ") + key->s_name + " is not atom ? ");
-    if (object_attr_get (object, key) == nullptr)
-        return; // dictionaries may hold more than attributes
+    if (object_attr_usercanset (object, key) == 0)
+        return; // dictionaries may hold more than attributes, and documentation is for reading
     if (atom_gettype (&atom) == A_OBJ)
         setFromArray (object, key, atom_getobj (&atom));
     else
@@ -82,7 +82,8 @@ bool readDictionary (void* object, t_dictionary* dictionary)
         return false;
     }
     for (auto* key : keys)
-        setFromEntry (object, dictionary, key);
+        if (! objectIsGone())
+            setFromEntry (object, dictionary, key);
     return true;
 }
 
