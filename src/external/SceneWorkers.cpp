@@ -1,9 +1,12 @@
 #include "external/SceneWorkers.h"
 
+#include "external/PerSourceStores.h"
 #include "external/PointMirror.h"
 #include "gui/plane/PlaneComponent.h"
 #include "max/Atoms.h"
 #include "max/Guarded.h"
+
+#include <algorithm>
 
 namespace halcyra::scene::workers
 {
@@ -35,10 +38,12 @@ void apply (t_halcyra_control* x, short argc, t_atom* argv, Body&& body)
 }
 
 /** The arrays of atoms are null in an object that could not get their memory. */
-void storeAtom (const t_atom& atom, t_atom* array, std::size_t index) noexcept
+void storeAtoms (const t_atom* first, std::size_t count, t_atom* array, std::size_t index) noexcept
 {
-    if (array != nullptr)
-        array[index] = atom;
+    if (array == nullptr)
+        return;
+    const std::lock_guard<std::mutex> lock (perSourceStores());
+    std::copy_n (first, count, array + index);
 }
 
 }
@@ -56,8 +61,7 @@ void sourceColour (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
 {
     apply (x, argc, argv, [x] (const Change& change, lumo::PlaneComponent& plane) {
         const auto& atoms = change.atoms;
-        for (std::size_t i = 0; i < 4; ++i)
-            storeAtom (atoms[1 + i], x->sourcecolor, 4 * change.index() + i);
+        storeAtoms (&atoms[1], 4, x->sourcecolor, 4 * change.index());
         plane.SetSourceColour (change.index(), atoms.number (1), atoms.number (2), atoms.number (3), atoms.number (4),
                                change.notify);
     });
@@ -82,7 +86,7 @@ void sourceOrientationMode (t_halcyra_control* x, t_symbol*, short argc, t_atom*
 void sourceAperture (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
 {
     apply (x, argc, argv, [x] (const Change& change, lumo::PlaneComponent& plane) {
-        storeAtom (change.atoms[1], x->aperture, change.index());
+        storeAtoms (&change.atoms[1], 1, x->aperture, change.index());
         plane.SetSourceAperture (change.index(), change.atoms.number (1), change.notify);
     });
 }
@@ -90,7 +94,7 @@ void sourceAperture (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
 void sourceYaw (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
 {
     apply (x, argc, argv, [x] (const Change& change, lumo::PlaneComponent& plane) {
-        storeAtom (change.atoms[1], x->yaw, change.index());
+        storeAtoms (&change.atoms[1], 1, x->yaw, change.index());
         plane.SetSourceYaw (change.index(), change.atoms.number (1), change.notify);
     });
 }
@@ -98,7 +102,7 @@ void sourceYaw (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
 void sourceRadius (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
 {
     apply (x, argc, argv, [x] (const Change& change, lumo::PlaneComponent& plane) {
-        storeAtom (change.atoms[1], x->radius, change.index());
+        storeAtoms (&change.atoms[1], 1, x->radius, change.index());
         plane.SetSourceRadius (change.index(), change.atoms.number (1), change.notify);
     });
 }

@@ -1,6 +1,7 @@
 #include "external/ViewerAttributes.h"
 
 #include "external/CoordinateMessages.h"
+#include "external/PerSourceStores.h"
 #include "external/SceneUpdates.h"
 #include "external/ViewerSetters.h"
 #include "geometry/OrvaneDspSpherical.h"
@@ -221,6 +222,7 @@ t_max_err halcyra_control_per_source_get (t_halcyra_control* x, void* attribute,
     }
     // Memory of the caller's may be smaller.
     *argc = std::min (*argc, static_cast<t_clong> (count));
+    const std::lock_guard<std::mutex> lock (halcyra::perSourceStores());
     sysmem_copyptr (atoms, *argv, static_cast<t_ptr_size> (*argc) * sizeof (t_atom));
     return MAX_ERR_NONE;
 }

@@ -1,6 +1,7 @@
 #include "external/ViewerSetters.h"
 
 #include "external/CoordinateMessages.h"
+#include "external/PerSourceStores.h"
 #include "external/PointMirror.h"
 #include "external/SceneUpdates.h"
 #include "gui/verb/HalcyraComponent.h"
@@ -37,6 +38,7 @@ bool storeLevels (Atoms atoms, t_atom* mirror, t_atom_long number, qel::Vector<f
             return false;
         levels[i] = atoms.number (i);
     }
+    const std::lock_guard<std::mutex> lock (perSourceStores());
     for (std::size_t i = 0; i < count && mirror != nullptr; ++i)
         atom_setfloat (&mirror[i], static_cast<double> (levels[i]));
     return true;
