@@ -204,6 +204,14 @@ void Bench::settle()
     }
 }
 
+void Bench::pump()
+{
+    while (MainQueue::instance().runOne()) {
+    }
+    if (auto* driver = windowDriver())
+        driver->pump();
+}
+
 void Bench::hold() { patch->held = true; }
 
 void Bench::release()

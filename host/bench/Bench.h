@@ -74,6 +74,9 @@ public:
     void hold();
     void release();
 
+    /** Runs what waits for the main thread now, and waits for no other thread: the scheduler's goes on meanwhile. */
+    void pump();
+
     /** Lets time pass, pumping. The scheduler's clock moves by this alone. */
     void wait (int milliseconds);
 
