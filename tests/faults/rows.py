@@ -14,6 +14,8 @@ ROWS = [
     ("src/common/OrvaneDspGuard.cpp", "throw Exception (\"out of memory\", where);", "throw;",
      "a failed growth is no longer the library's own exception"),
     ("src/common/OrvaneDspAlloc.cpp", "count > SIZE_MAX / size", "count >= SIZE_MAX", "an overflow of bytes passes"),
+    ("src/common/OrvaneDspAlloc.cpp", "struct BadAllocation : std::bad_alloc", "struct BadAllocation : std::exception",
+     "a failed allocation is reported as some exception"),
     ("src/memory/OrvaneDspMemoryOutput.cpp", "highWater = std::max (highWater, needed);", "highWater = needed;",
      "writing in front cuts the end off"),
     ("src/memory/OrvaneDspMemoryOutput.cpp", "if (needed >= capacity())", "if (needed > capacity() + 32)",
