@@ -11,6 +11,11 @@ struct KeyRow
 {
     int code, modifiers;
     std::vector<std::string> told;
+
+    friend std::ostream& operator<< (std::ostream& out, const KeyRow& row)
+    {
+        return out << "code " << row.code << " with " << row.modifiers;
+    }
 };
 
 class PlaneKeys : public PlaneOnStage, public testing::WithParamInterface<KeyRow>
