@@ -9,6 +9,18 @@ namespace
 constexpr const char* openGLRendererName = "OpenGL Renderer";
 constexpr double smoothing = 0.1;
 
+/** JUCE leaves a new context current on the thread that draws for all windows. If the context goes before its first
+    frame, that thread lets go of it only when the next one is made current, long after it was freed. It makes the
+    context current again for each frame, so it need not be now. */
+struct ReleaseNewContext : juce::OpenGLRenderer
+{
+    void newOpenGLContextCreated() override { juce::OpenGLContext::deactivateCurrentContext(); }
+    void renderOpenGL() override {}
+    void openGLContextClosing() override {}
+};
+
+ReleaseNewContext releaseNewContext;
+
 double now() noexcept { return juce::Time::getMillisecondCounterHiRes(); }
 
 }
@@ -50,16 +62,26 @@ void Component::SetOpenGLEnabled (bool enabled)
 void Component::attachOpenGL()
 {
     const auto* peer = getPeer();
-    const bool canAttach = peer != nullptr && peer->getNativeHandle() != nullptr;
+    const bool canAttach = isVisible() && peer != nullptr && peer->getNativeHandle() != nullptr;
     if (! openGLIsWanted || ! canAttach || IsOpenGLEnabled())
         return;
-    if (openGLContext == nullptr)
+    if (openGLContext == nullptr) {
         openGLContext = std::make_unique<juce::OpenGLContext>();
+        openGLContext->setRenderer (&releaseNewContext);
+    }
     openGLContext->setContinuousRepainting (true);
     openGLContext->attachTo (*this);
 }
 
 void Component::parentHierarchyChanged() { attachOpenGL(); }
+
+void Component::visibilityChanged()
+{
+    if (isVisible())
+        attachOpenGL();
+    else if (openGLContext != nullptr)
+        openGLContext->detach();
+}
 
 bool Component::IsOpenGLEnabled() const noexcept
 {

@@ -20,7 +20,8 @@ public:
     virtual void SetLookAndFeelVersion (const juce::String& text);
 
     /** While on, JUCE renders this component through OpenGL, frame after frame, in a native window. A window in memory
-        has nothing that OpenGL could draw on. */
+        has nothing that OpenGL could draw on. Hide the component before it leaves its window: a context that is
+        detached later leaves its listener in the window, which calls it when it is gone. */
     void SetOpenGLEnabled (bool enabled);
     /** True while a context is attached. */
     [[nodiscard]] bool IsOpenGLEnabled() const noexcept;
@@ -49,6 +50,7 @@ public:
 
     void paintOverChildren (juce::Graphics& g) override;
     void parentHierarchyChanged() override;
+    void visibilityChanged() override;
 
 private:
     /** One instance of each look serves all components of the process. */

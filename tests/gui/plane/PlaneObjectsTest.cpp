@@ -94,6 +94,11 @@ struct YawRow
 {
     const char* mode;
     float wanted, stored;
+
+    friend std::ostream& operator<< (std::ostream& out, const YawRow& row)
+    {
+        return out << row.mode << " " << row.wanted;
+    }
 };
 
 class PlaneYaw : public testing::TestWithParam<YawRow>
@@ -133,6 +138,11 @@ struct LookRow
 {
     Point3 source, target;
     float yaw;
+
+    friend std::ostream& operator<< (std::ostream& out, const LookRow& row)
+    {
+        return out << "from " << row.source.x << " " << row.source.y << " to " << row.target.x << " " << row.target.y;
+    }
 };
 
 class PlaneLookAt : public testing::TestWithParam<LookRow>

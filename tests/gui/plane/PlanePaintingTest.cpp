@@ -206,6 +206,8 @@ struct CoordinatesRow
     qel::Point3 position;
     bool circular, topView;
     const char* text;
+
+    friend std::ostream& operator<< (std::ostream& out, const CoordinatesRow& row) { return out << row.text; }
 };
 
 class PlaneCoordinates : public testing::TestWithParam<CoordinatesRow>
