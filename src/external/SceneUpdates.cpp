@@ -19,6 +19,8 @@ namespace
 class Packet
 {
 public:
+    Packet() {} // not defaulted: Packet() would zero all atoms, 12 kB of them
+
     Packet& add (t_atom_long value)
     {
         atom_setlong (&atoms[count++], value);
