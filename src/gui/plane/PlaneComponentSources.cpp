@@ -152,11 +152,14 @@ void PlaneComponent::SetSourceYawMode (std::size_t index, const qel::String& nam
 
 void PlaneComponent::SetSourceYawMode (std::size_t index, Orientation::Mode mode)
 {
-    const auto* source = SourceAt (index);
+    auto* source = SourceAt (index);
     if (source == nullptr || source->yawMode == mode)
         return;
-    ChangeSource (index, [&] (Source& s) { s.yawMode = mode; });
+    const auto before = PartOf (*source);
+    source->yawMode = mode;
     UpdateSourceYaw (index, true);
+    if (const auto* turned = SourceAt (index))
+        RepaintParts (before, PartOf (*turned));
 }
 
 void PlaneComponent::SetSourceLookAt (std::size_t index, const qel::Point3& target, bool notify)

@@ -25,6 +25,10 @@ void PlaneComponent::ChangeSpeaker (std::size_t index, Change&& change)
         const auto after = PartOfSpeaker (index);
         MarkStaticParts (before, after);
         RepaintParts (before, after);
+        if (surface.options.speakersProjectionVisible) { // the projected speaker changes as well
+            MarkStaticLayerDirty();
+            repaint();
+        }
     }
 }
 

@@ -15,14 +15,29 @@ juce::Point<int> NearestPhase (juce::Point<float> place)
     return { nearest (place.x), nearest (place.y) };
 }
 
+int WholePixels (int phases) { return juce::roundToInt (std::floor (static_cast<float> (phases) / IconStore::phases)); }
+
+/** Side of a square that holds an icon, turned or not. */
+float BoxOf (float side, float angle) { return angle == 0.0f ? side : 1.4143f * side; }
+
+void DrawVectors (juce::Graphics& g, const juce::Drawable& icon, juce::Rectangle<float> square, float angle)
+{
+    const juce::Graphics::ScopedSaveState state (g);
+    if (angle != 0.0f)
+        g.addTransform (juce::AffineTransform::rotation (angle, square.getCentreX(), square.getCentreY()));
+    icon.drawWithin (g, square, juce::RectanglePlacement::centred, 1.0f);
+}
+
 }
 
 std::size_t IconStore::Hash::operator() (const Place& place) const noexcept
 {
-    const auto mixed = (place.icon ^ static_cast<std::uint64_t> (place.side * 16.0f) << 40 ^
-                        static_cast<std::uint64_t> (place.phase) << 52) *
-                       0x9E3779B97F4A7C15u;
-    return static_cast<std::size_t> (mixed ^ mixed >> 32);
+    auto mixed = place.icon;
+    for (const std::uint32_t part :
+         { static_cast<std::uint32_t> (place.side * 16),
+           static_cast<std::uint32_t> (static_cast<std::int32_t> (place.angle * 65536)), place.phase })
+        mixed = (mixed ^ part) * 0x9E3779B97F4A7C15u ^ mixed >> 32;
+    return static_cast<std::size_t> (mixed);
 }
 
 const juce::Drawable& IconStore::DrawableOf (const Icon& icon)
@@ -35,12 +50,13 @@ const juce::Drawable& IconStore::DrawableOf (const Icon& icon)
     return *drawables.emplace (key, MakeDrawable (DocumentOf (icon))).first->second;
 }
 
-const juce::Image& IconStore::BitmapOf (const Icon& icon, float side, juce::Point<int> phase)
+const juce::Image& IconStore::BitmapOf (const Icon& icon, float side, float angle, juce::Point<int> phase)
 {
-    const Place place{ icon.Key(), side, static_cast<std::uint32_t> (phase.y * phases + phase.x) };
+    const Place place{ icon.Key(), side, angle, static_cast<std::uint32_t> (phase.y * phases + phase.x) };
     if (const auto found = bitmaps.find (place); found != bitmaps.end())
         return found->second;
-    const int pixels = static_cast<int> (std::ceil (side)) + 2; // a pixel more for each part of one that it begins in
+    const float box = BoxOf (side, angle);
+    const int pixels = static_cast<int> (std::ceil (box)) + 2; // a pixel more for each part of one that it begins in
     const auto size = static_cast<std::size_t> (pixels * pixels) * sizeof (juce::PixelARGB);
     if (bytes + size > mostBytes) {
         bitmaps.clear();
@@ -48,22 +64,22 @@ const juce::Image& IconStore::BitmapOf (const Icon& icon, float side, juce::Poin
     }
     juce::Image bitmap (juce::Image::ARGB, pixels, pixels, true, juce::SoftwareImageType());
     juce::Graphics g (bitmap);
-    DrawableOf (icon).drawWithin (g,
-                                  juce::Rectangle<float> (side, side) + phase.toFloat() / static_cast<float> (phases),
-                                  juce::RectanglePlacement::centred, 1.0f);
+    const auto centre = phase.toFloat() / static_cast<float> (phases) + juce::Point<float> (box, box) * 0.5f;
+    DrawVectors (g, DrawableOf (icon), juce::Rectangle<float> (side, side).withCentre (centre), angle);
     bytes += size;
     return bitmaps.emplace (place, std::move (bitmap)).first->second;
 }
 
-void IconStore::Draw (juce::Graphics& g, const Icon& icon, juce::Rectangle<float> square, const PixelGrid& pixels)
+void IconStore::Draw (juce::Graphics& g, const Icon& icon, juce::Rectangle<float> square, const PixelGrid& pixels,
+                      float angle)
 {
     const float side = square.getWidth() * pixels.scale;
-    if (side > static_cast<float> (largestBitmap))
-        return DrawableOf (icon).drawWithin (g, square, juce::RectanglePlacement::centred, 1.0f);
-    const auto place = NearestPhase (pixels.ToScreen (square.getPosition()));
-    const juce::Point<int> whole (juce::roundToInt (std::floor (static_cast<float> (place.x) / phases)),
-                                  juce::roundToInt (std::floor (static_cast<float> (place.y) / phases)));
-    pixels.DrawPixels (g, BitmapOf (icon, side, place - whole * phases), whole);
+    if (side > (icon.kind == Icon::Kind::head ? largestHead : largestBitmap))
+        return DrawVectors (g, DrawableOf (icon), square, angle);
+    const float box = BoxOf (side, angle);
+    const auto place = NearestPhase (pixels.ToScreen (square.getCentre()) - juce::Point<float> (box, box) * 0.5f);
+    const juce::Point<int> whole (WholePixels (place.x), WholePixels (place.y));
+    pixels.DrawPixels (g, BitmapOf (icon, side, angle, place - whole * phases), whole);
 }
 
 }

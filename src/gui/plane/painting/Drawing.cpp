@@ -53,20 +53,14 @@ void DrawIcon (juce::Graphics& g, const Icon& icon, juce::Point<float> centre, f
     surface.icons->get().Draw (g, icon, SquareAt (centre, size), surface.pixels);
 }
 
-/** As vectors: it may be turned by any angle. */
 void DrawListener (juce::Graphics& g, const Surface& surface)
 {
     const auto& listener = surface.listener;
     const auto& view = surface.viewTransform;
-    const auto centre = listener.screenPosition;
-    if (! g.clipRegionIntersects (ExtentOf (listener, surface)))
-        return;
-    const juce::Graphics::ScopedSaveState state (g);
-    if (view.topView)
-        g.addTransform (juce::AffineTransform::rotation (listener.yaw, centre.x, centre.y));
-    surface.icons->get()
-        .DrawableOf (listener.Icon (view.topView))
-        .drawWithin (g, SquareAt (centre, SizeOf (listener, view)), juce::RectanglePlacement::centred, 1.0f);
+    if (g.clipRegionIntersects (ExtentOf (listener, surface)))
+        surface.icons->get().Draw (g, listener.Icon (view.topView),
+                                   SquareAt (listener.screenPosition, SizeOf (listener, view)), surface.pixels,
+                                   view.topView ? listener.yaw : 0.0f);
 }
 
 }

@@ -3,6 +3,7 @@
 #include "gui/plane/painting/Drawing.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace lumo::Plane
@@ -101,13 +102,12 @@ juce::Rectangle<int> ExtentOfFan (const Source& source, const Surface& surface)
     const auto at = source.screenPosition;
     const float radius = ApertureRadius (source, view);
     const float first = RotationOfFan (source) - source.aperture, last = first + 2 * source.aperture;
-    juce::Rectangle<float> extent (at, at.getPointOnCircumference (radius, first));
-    const auto include = [&] (float angle) {
-        extent = extent.getUnion ({ at, at.getPointOnCircumference (radius, angle) });
-    };
-    include (last);
-    for (float k = std::ceil (first / quarter); k * quarter < last; ++k)
-        include (k * quarter);
+    std::array<juce::Point<float>, 8> points{ at, at.getPointOnCircumference (radius, first),
+                                              at.getPointOnCircumference (radius, last) };
+    int count = 3;
+    for (float k = std::ceil (first / quarter); k * quarter < last; ++k) // at most five
+        points[static_cast<std::size_t> (count++)] = at.getPointOnCircumference (radius, k * quarter);
+    const auto extent = juce::Rectangle<float>::findAreaContainingPoints (points.data(), count);
     return extent.expanded (corners).getSmallestIntegerContainer();
 }
 

@@ -5,6 +5,7 @@
 #include "gui/plane/painting/Extents.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace lumo::Plane
 {
@@ -53,17 +54,32 @@ void DrawMeters (juce::Graphics& g, const Surface& surface, const Scene& scene)
 
 // ---- Sources
 
+/** With chords that leave the arc by no more than a twentieth of a pixel of the screen: JUCE's own arcs have the same
+    number of chords whatever their size, twice as many as a fan of the usual size needs. */
+juce::Path FanOf (const Source& source, const Surface& surface)
+{
+    constexpr float deviation = 0.05f;
+    const auto at = source.screenPosition;
+    const float radius = ApertureRadius (source, surface.viewTransform);
+    const float longest = std::sqrt (8 * deviation / (radius * surface.pixels.scale));
+    const auto chords = static_cast<int> (std::ceil (2 * source.aperture / longest));
+    const float first = RotationOfFan (source) + source.aperture,
+                step = -2 * source.aperture / static_cast<float> (chords);
+    juce::Path fan;
+    fan.preallocateSpace (3 * chords + 8);
+    fan.startNewSubPath (at);
+    for (int i = 0; i <= chords; ++i)
+        fan.lineTo (at.getPointOnCircumference (radius, first + static_cast<float> (i) * step));
+    fan.closeSubPath();
+    return fan;
+}
+
 void DrawFans (juce::Graphics& g, const Surface& surface, const Scene& scene)
 {
     for (const auto& source : scene.sources) {
         if (! g.clipRegionIntersects (ExtentOfFan (source, surface)))
             continue;
-        const auto at = source.screenPosition;
-        const float radius = ApertureRadius (source, surface.viewTransform);
-        juce::Path fan;
-        fan.startNewSubPath (at);
-        fan.addCentredArc (at.x, at.y, radius, radius, RotationOfFan (source), source.aperture, -source.aperture);
-        fan.closeSubPath();
+        const auto fan = FanOf (source, surface);
         g.setColour (source.apertureColour);
         g.fillPath (fan);
         g.strokePath (fan, juce::PathStrokeType (2.0f));
