@@ -28,6 +28,8 @@ void storeLevel (t_atom* levels, t_atom_long index, float decibels) noexcept
 class Packet
 {
 public:
+    Packet() {} // not defaulted: Packet() would zero all atoms, 12 kB of them
+
     Packet& add (t_atom_long value)
     {
         atom_setlong (&atoms[count++], value);

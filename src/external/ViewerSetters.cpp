@@ -212,8 +212,6 @@ bool sourcesLevels (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
     if (! storeLevels (atoms, x->sourceslevels, x->numsources, levels))
         return true;
     x->plane->SetSourcesLevels (levels);
-    if (x->showsourceslevels != 0 && x->viewerqelem != nullptr)
-        qelem_set (x->viewerqelem);
     return true;
 }
 
@@ -223,8 +221,6 @@ bool speakersLevels (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
     if (! storeLevels (atoms, x->speakerslevels, x->numspeakers, levels))
         return true;
     x->plane->SetSpeakersLevels (levels);
-    if (x->showspeakerslevels != 0)
-        x->plane->repaint();
     return true;
 }
 

@@ -30,7 +30,8 @@ public:
     void SetShowFps (bool show);
     [[nodiscard]] bool GetShowFps() const noexcept { return showFps; }
 
-    /** A painter brackets its work with these two; they do nothing while the statistics are off. */
+    /** A painter brackets its work with these two; they do nothing while the statistics are off. One that ends in
+        paintOverChildren is timed from the start of the frame, also when its children hide all that it paints itself. */
     void BeginPaintTiming() noexcept;
     void EndPaintTiming() noexcept;
     /** Milliseconds that a paint takes, smoothed. */
@@ -65,10 +66,14 @@ private:
     void applyLookAndFeel();
     void attachOpenGL();
 
+    class FrameMark;
+
     std::unique_ptr<juce::OpenGLContext> openGLContext;
+    std::unique_ptr<FrameMark> frameMark; // while the statistics are on
     LookAndFeelHolder lookAndFeelHolder;
     bool openGLIsWanted = false;
     bool showFps = false;
+    bool isTiming = false;
     double paintStartTime = 0, renderTime = 0, frameRate = 0, lastPaintTime = 0;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (Component)
