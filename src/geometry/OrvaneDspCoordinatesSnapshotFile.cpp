@@ -46,8 +46,6 @@ public:
     void startElement (std::string_view tagName, const XmlAttributes& attributes) override
     {
         ++depth;
-        if (! complaint.empty())
-            return;
         if (depth == snapshotDepth)
             startSnapshot (tagName, attributes);
         else if (depth == sourceDepth && tagName == "source")
