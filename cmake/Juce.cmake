@@ -8,7 +8,7 @@ add_library(halcyra::juce ALIAS halcyra_juce)
 foreach(module IN LISTS juceModules)
     target_sources(halcyra_juce PRIVATE "${CMAKE_SOURCE_DIR}/cmake/juce/${module}.cpp")
 endforeach()
-target_include_directories(halcyra_juce SYSTEM PUBLIC "${JUCE_MODULES_DIR}")
+target_include_directories(halcyra_juce SYSTEM PUBLIC "${JUCE_MODULES_DIR}" "${CMAKE_SOURCE_DIR}/cmake")
 target_compile_definitions(halcyra_juce PUBLIC
     JUCE_GLOBAL_MODULE_SETTINGS_INCLUDED=1
     JUCE_STANDALONE_APPLICATION=0
@@ -19,7 +19,7 @@ target_compile_definitions(halcyra_juce PUBLIC
     JUCE_USE_CURL=0
     JUCE_STRICT_REFCOUNTEDPOINTER=1
     JUCE_MODAL_LOOPS_PERMITTED=0
-    JUCE_USE_XRANDR=0 JUCE_USE_XINERAMA=0 JUCE_USE_XCURSOR=0
+    JUCE_USE_XRANDR=1 JUCE_USE_XINERAMA=0 JUCE_USE_XCURSOR=0
     JUCE_INCLUDE_ZLIB_CODE=0 JUCE_INCLUDE_PNGLIB_CODE=0 JUCE_INCLUDE_JPEGLIB_CODE=0
     $<IF:$<CONFIG:Release,Sanitized>,NDEBUG=1,DEBUG=1>
     $<IF:$<CONFIG:Release,Sanitized>,JUCE_DEBUG=0,JUCE_DEBUG=1>)

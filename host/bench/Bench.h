@@ -74,8 +74,13 @@ public:
     void hold();
     void release();
 
-    /** Lets time pass, pumping. The scheduler's clock moves by this alone. */
+    /** Lets time pass, pumping; sleeps while there is nothing to pump. The scheduler's clock moves by this and the
+        next one alone. */
     void wait (int milliseconds);
+
+    /** Lets time pass until a descriptor can be read (not on Windows). The step is called whenever something was
+        pumped. */
+    void waitForInput (int descriptor, const std::function<void()>& afterEachStep);
 
     /** Runs something on the scheduler thread: to its end, or while the caller goes on. */
     void runOnScheduler (const std::function<void()>& task);

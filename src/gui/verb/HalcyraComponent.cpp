@@ -27,6 +27,7 @@ HalcyraComponent::HalcyraComponent (std::uint32_t sources, std::uint32_t speaker
     plane->SetRepaintMode (0);
     resetAll();
     setWantsKeyboardFocus (true);
+    addMouseListener (tooltipWindow, true);
 }
 
 void HalcyraComponent::makePages()

@@ -2,12 +2,7 @@
 #include "max/window/OffscreenDesktop.h"
 
 #include <cstdlib>
-
-namespace juce
-{
-// Stands beside JUCE's Linux windows, in the unit that compiles them.
-void setForegroundProcess (bool isForeground);
-}
+#include <juce/Insides.h>
 
 namespace OffscreenDesktop
 {

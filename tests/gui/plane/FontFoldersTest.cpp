@@ -1,5 +1,5 @@
-#include "juce/FontFolders.h"
 #include "support/files/ScratchFolder.h"
+#include <juce/FontFolders.h>
 
 #include <gtest/gtest.h>
 
