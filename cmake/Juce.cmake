@@ -19,7 +19,7 @@ target_compile_definitions(halcyra_juce PUBLIC
     JUCE_USE_CURL=0
     JUCE_STRICT_REFCOUNTEDPOINTER=1
     JUCE_MODAL_LOOPS_PERMITTED=0
-    JUCE_USE_XRANDR=0 JUCE_USE_XINERAMA=0 JUCE_USE_XCURSOR=0
+    JUCE_USE_XRANDR=1 JUCE_USE_XINERAMA=0 JUCE_USE_XCURSOR=0
     JUCE_INCLUDE_ZLIB_CODE=0 JUCE_INCLUDE_PNGLIB_CODE=0 JUCE_INCLUDE_JPEGLIB_CODE=0
     $<IF:$<CONFIG:Release,Sanitized>,NDEBUG=1,DEBUG=1>
     $<IF:$<CONFIG:Release,Sanitized>,JUCE_DEBUG=0,JUCE_DEBUG=1>)
@@ -39,6 +39,7 @@ if(WIN32)
 else()
     find_package(PkgConfig REQUIRED)
     pkg_check_modules(JUCE_LINUX REQUIRED IMPORTED_TARGET freetype2 libpng libjpeg zlib gl)
+    target_sources(halcyra_juce PRIVATE "${CMAKE_SOURCE_DIR}/cmake/juce/FontFolders.cpp")
     find_package(Threads REQUIRED)
     target_link_libraries(halcyra_juce PUBLIC PkgConfig::JUCE_LINUX Threads::Threads ${CMAKE_DL_LIBS} rt)
 endif()

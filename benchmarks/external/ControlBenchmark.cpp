@@ -84,11 +84,33 @@ void ControlBenchmark::send (const char* text)
     paintWindows();
 }
 
+void ControlBenchmark::moveValue()
+{
+    turn = turn == 0 ? 1 : 0;
+    atom_setfloat (value.data(), turn);
+}
+
+void ControlBenchmark::sendMinimalAttribute()
+{
+    moveValue();
+    patch.send (*minimal, gensym ("level"), value);
+    patch.settle();
+    paintWindows();
+}
+
+void ControlBenchmark::sendMinimalMany (int messages)
+{
+    bench::Atoms count (1);
+    atom_setlong (count.data(), messages);
+    patch.send (*minimal, gensym ("many"), count);
+    patch.settle();
+    paintWindows();
+}
+
 void ControlBenchmark::sendMinimal()
 {
     const WithoutWindows alone;
-    turn = turn == 0 ? 1 : 0;
-    atom_setfloat (value.data(), turn);
+    moveValue();
     patch.send (*minimal, gensym ("gain"), value);
     patch.settle();
 }

@@ -2,9 +2,11 @@
 
 #include "host/bench/Words.h"
 
+#include <cmath>
 #include <string>
 
-// Messages from the inlet to the outlet, against a minimal class's deferred message in the same host.
+// Messages from the inlet to the outlet, against what a minimal class pays in the same host: a parameter against an
+// attribute, a message against a deferred message.
 
 namespace
 {
@@ -35,15 +37,24 @@ void measure (benchmark::State& state, Window window, const char* text)
         state, [&] { message.sendTo (bench); }, [&] { bench.sendMinimal(); });
 }
 
+/** A parameter is an attribute, so its floor is one, in a host with the same windows. */
+void measureParameter (benchmark::State& state, Window window, const char* text)
+{
+    ControlBenchmark bench (window);
+    Moving message (text);
+    compare (
+        state, [&] { message.sendTo (bench); }, [&] { bench.sendMinimalAttribute(); });
+}
+
 constexpr const char* source = "source 7 aed 30 10 1.";
 
-BENCHMARK_CAPTURE (measure, parameter_never_opened, Window::never, "gain 1.")->UseManualTime();
-BENCHMARK_CAPTURE (measure, parameter_closed, Window::closed, "gain 1.")->UseManualTime();
-BENCHMARK_CAPTURE (measure, parameter_open, Window::open, "gain 1.")->UseManualTime();
-BENCHMARK_CAPTURE (measure, parameter_scene_open, Window::scene, "gain 1.")->UseManualTime();
-BENCHMARK_CAPTURE (measure, decay_never_opened, Window::never, "tr0 1.")->UseManualTime();
-BENCHMARK_CAPTURE (measure, decay_closed, Window::closed, "tr0 1.")->UseManualTime();
-BENCHMARK_CAPTURE (measure, decay_open, Window::open, "tr0 1.")->UseManualTime();
+BENCHMARK_CAPTURE (measureParameter, parameter_never_opened, Window::never, "gain 1.")->UseManualTime();
+BENCHMARK_CAPTURE (measureParameter, parameter_closed, Window::closed, "gain 1.")->UseManualTime();
+BENCHMARK_CAPTURE (measureParameter, parameter_open, Window::open, "gain 1.")->UseManualTime();
+BENCHMARK_CAPTURE (measureParameter, parameter_scene_open, Window::scene, "gain 1.")->UseManualTime();
+BENCHMARK_CAPTURE (measureParameter, decay_never_opened, Window::never, "tr0 1.")->UseManualTime();
+BENCHMARK_CAPTURE (measureParameter, decay_closed, Window::closed, "tr0 1.")->UseManualTime();
+BENCHMARK_CAPTURE (measureParameter, decay_open, Window::open, "tr0 1.")->UseManualTime();
 BENCHMARK_CAPTURE (measure, filter_closed, Window::closed, "room 0 0 0 0 250 4000.")->UseManualTime();
 BENCHMARK_CAPTURE (measure, source_never_opened, Window::never, source)->UseManualTime();
 BENCHMARK_CAPTURE (measure, source_closed, Window::closed, source)->UseManualTime();
@@ -58,13 +69,28 @@ std::string repeated (const char* selector, const char* values, int times)
     return text;
 }
 
-/** All 64 at once; the floor is one of them. */
+/** The positions of all 64 on a circle that the view shows, turned by an angle in radians. */
+bench::Message circle (double turn)
+{
+    std::string text = "sourcespositions";
+    for (int i = 0; i < 64; ++i)
+        text += " " + std::to_string (0.8 * std::cos (turn + 0.1 * i)) + " " +
+                std::to_string (0.8 * std::sin (turn + 0.1 * i)) + " 0.";
+    return bench::messageOf (bench::wordsOf (text));
+}
+
+/** All 64 at once, each in view and moving; the floor is one of them. */
 void sourcesPositions (benchmark::State& state, Window window)
 {
     ControlBenchmark bench (window);
-    Moving one (source), all (repeated ("sourcespositions", "1. 2. 3.", 64).c_str());
-    compare (
-        state, [&] { all.sendTo (bench); }, [&] { one.sendTo (bench); });
+    Moving one (source);
+    const bench::Message places[] = { circle (0), circle (0.05) };
+    std::size_t turn = 0;
+    const auto moveAll = [&] {
+        turn = 1 - turn;
+        bench.send (places[turn].selector, places[turn].atoms);
+    };
+    compare (state, moveAll, [&] { one.sendTo (bench); });
 }
 BENCHMARK_CAPTURE (sourcesPositions, closed, Window::closed)->UseManualTime()->Unit (benchmark::kMicrosecond);
 BENCHMARK_CAPTURE (sourcesPositions, scene_open, Window::scene)->UseManualTime()->Unit (benchmark::kMicrosecond);
@@ -83,13 +109,13 @@ BENCHMARK_CAPTURE (sourcesLevels, other_page_open, Window::open, "showsourceslev
 BENCHMARK_CAPTURE (sourcesLevels, scene_open_hidden, Window::scene, "showsourceslevels 0")->UseManualTime();
 BENCHMARK_CAPTURE (sourcesLevels, scene_open, Window::scene, "showsourceslevels 1")->UseManualTime();
 
-/** 64 sources, 4 filters, 20 parameters and the speakers: 89 messages leave, and so many are the floors. */
+/** 64 sources, 4 filters, 20 parameters and the speakers: 89 messages leave, and so many leave the floor. */
 void bang (benchmark::State& state, Window window)
 {
-    constexpr double messages = 89;
+    constexpr int messages = 89;
     ControlBenchmark bench (window);
     compare (
-        state, [&] { bench.send ("bang"); }, [&] { bench.sendMinimal(); }, messages);
+        state, [&] { bench.send ("bang"); }, [&] { bench.sendMinimalMany (messages); });
 }
 BENCHMARK_CAPTURE (bang, closed, Window::closed)->UseManualTime()->Unit (benchmark::kMicrosecond);
 BENCHMARK_CAPTURE (bang, open, Window::open)->UseManualTime()->Unit (benchmark::kMicrosecond);

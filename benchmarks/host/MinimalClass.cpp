@@ -34,6 +34,21 @@ void minimal_gain (t_minimal* x, t_symbol*, t_clong argc, t_atom* argv)
     defer_medium (x, max_method (minimal_send), nullptr, static_cast<std::int16_t> (argc), argv);
 }
 
+void minimal_sendmany (t_minimal* x, t_symbol*, std::int16_t argc, t_atom* argv)
+{
+    if (argc != 1)
+        return;
+    t_atom level{};
+    atom_setfloat (&level, static_cast<double> (x->level));
+    for (auto left = atom_getlong (argv); left > 0; --left)
+        minimal_send (x, nullptr, 1, &level);
+}
+
+void minimal_many (t_minimal* x, t_symbol*, t_clong argc, t_atom* argv)
+{
+    defer_medium (x, max_method (minimal_sendmany), nullptr, static_cast<std::int16_t> (argc), argv);
+}
+
 t_max_err minimal_setlevel (t_minimal* x, void*, t_clong argc, t_atom* argv)
 {
     minimal_gain (x, nullptr, argc, argv);
@@ -46,6 +61,7 @@ t_clong minimal_main (void*)
     minimalClass =
         class_new ("bench.minimal", max_method (minimal_new), nullptr, sizeof (t_minimal), nullptr, A_GIMME, 0);
     class_addmethod (minimalClass, max_method (minimal_gain), "gain", A_GIMME, 0);
+    class_addmethod (minimalClass, max_method (minimal_many), "many", A_GIMME, 0);
     auto* level = attr_offset_new ("level", gensym ("float32"), 0, nullptr, max_method (minimal_setlevel),
                                    calcoffset (t_minimal, level));
     class_addattr (minimalClass, level);

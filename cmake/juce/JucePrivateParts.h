@@ -11,8 +11,18 @@ namespace juce
 /** One step of the message loop; false when there was nothing to do. */
 bool dispatchNextMessageOnSystemQueue (bool returnIfNoPendingMessages);
 
+// The following stand beside what they name, in juce_gui_basics.cpp of this folder. Message thread.
+
+/** The timer by which a tooltip window looks for the component under the pointer. */
+[[nodiscard]] Timer& timerOf (TooltipWindow& window);
+
+#if JUCE_LINUX
 /** Says whether this process is the one in front, where no display says it: JUCE's tooltips and menus go by a flag
-    that only its X11 windows ever set. Defined beside them, by juce_gui_basics.cpp in this folder. */
+    that only its X11 windows ever set. */
 void setForegroundProcess (bool isForeground);
+
+/** A window's peer on the display that has no timer while nothing is painted. The caller owns it. */
+[[nodiscard]] ComponentPeer* createRestingPeer (Component& component, int styleFlags);
+#endif
 
 }

@@ -2,6 +2,7 @@
 #include "host/bench/AttributeArguments.h"
 #include "host/bench/Attributes.h"
 #include "host/bench/Console.h"
+#include "host/bench/Doze.h"
 #include "host/bench/Files.h"
 #include "host/bench/HostCalls.h"
 #include "host/bench/MainQueue.h"
@@ -51,6 +52,10 @@ struct Bench::Patch
 {
     std::vector<std::unique_ptr<PlacedBox>> boxes;
     bool held = false;
+
+    /** Pumps when there is something to pump and sleeps meanwhile, until the time is over or the input can be read. */
+    void letTimePass (Bench& bench, std::chrono::milliseconds time, int input,
+                      const std::function<void()>& afterEachStep);
 
     t_object* create (t_class* c, BoxRecord& record, const std::vector<Word>& words)
     {
@@ -220,19 +225,37 @@ void Bench::release()
     settle();
 }
 
-void Bench::wait (int milliseconds)
+void Bench::wait (int milliseconds) { patch->letTimePass (*this, std::chrono::milliseconds (milliseconds), -1, {}); }
+
+void Bench::waitForInput (int descriptor, const std::function<void()>& afterEachStep)
+{
+    patch->letTimePass (*this, std::chrono::milliseconds::max(), descriptor, afterEachStep);
+}
+
+void Bench::Patch::letTimePass (Bench& bench, std::chrono::milliseconds time, int input,
+                                const std::function<void()>& afterEachStep)
 {
     using Clock = std::chrono::steady_clock;
-    constexpr int slice = 5;
-    const auto end = Clock::now() + std::chrono::milliseconds (milliseconds);
-    for (int passed = 0; passed < milliseconds;) {
-        const auto step = std::min (slice, milliseconds - passed);
-        passed += step;
-        std::this_thread::sleep_until (end - std::chrono::milliseconds (milliseconds - passed));
+    using Milliseconds = std::chrono::milliseconds;
+    auto& scheduler = Scheduler::instance();
+    const auto start = Clock::now();
+    const auto elapsed = [&] { return std::min (time, std::chrono::floor<Milliseconds> (Clock::now() - start)); };
+    bool hasInput = false;
+    for (Milliseconds passed (0); passed < time && ! hasInput;) {
+        bench.settle();
+        const auto next = passed + std::min (time - passed, Milliseconds (scheduler.untilNextEvent()));
+        // Held, nothing of the GUI is delivered, so what waits there would not let us sleep.
+        auto* const driver = held ? nullptr : windowDriver();
+        hasInput = doze (std::max (next - elapsed(), Milliseconds (0)),
+                         driver == nullptr ? std::vector<int>() : driver->descriptors(), input);
         // The scheduler is a thread of its own, so hold() does not stop it; what it runs is over before we go on.
-        Scheduler::instance().advance (step);
-        Scheduler::instance().settle();
-        settle();
+        const auto now = elapsed();
+        scheduler.advance (static_cast<int> ((now - passed).count()));
+        passed = now;
+        scheduler.settle();
+        bench.settle();
+        if (afterEachStep)
+            afterEachStep();
     }
 }
 

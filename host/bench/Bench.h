@@ -77,8 +77,13 @@ public:
     /** Runs what waits for the main thread now, and waits for no other thread: the scheduler's goes on meanwhile. */
     void pump();
 
-    /** Lets time pass, pumping. The scheduler's clock moves by this alone. */
+    /** Lets time pass, pumping; sleeps while there is nothing to pump. The scheduler's clock moves by this and the
+        next one alone. */
     void wait (int milliseconds);
+
+    /** Lets time pass until a descriptor can be read (not on Windows). The step is called whenever something was
+        pumped. */
+    void waitForInput (int descriptor, const std::function<void()>& afterEachStep);
 
     /** Runs something on the scheduler thread: to its end, or while the caller goes on. */
     void runOnScheduler (const std::function<void()>& task);

@@ -1,5 +1,6 @@
 #include "host/bench/MainQueue.h"
 #include "host/bench/Console.h"
+#include "host/bench/Doze.h"
 #include "host/bench/HostCalls.h"
 #include "host/bench/Scheduler.h"
 #include <algorithm>
@@ -38,13 +39,16 @@ bool MainQueue::onMainThread()
 
 void MainQueue::insert (bool atFront, Call call)
 {
-    call.generation = onMainThread() ? generation + 1 : 0;
+    const bool isOurs = onMainThread();
+    call.generation = isOurs ? generation + 1 : 0;
     const std::lock_guard<std::mutex> lock (mutex);
     if (call.element != nullptr) {
         if (std::exchange (call.element->isSet, true))
             return;
     }
     calls.insert (atFront ? calls.begin() : calls.end(), std::move (call));
+    if (! isOurs)
+        wakeMainThread();
 }
 
 void MainQueue::push (bool atFront, void* ob, method function, t_symbol* sym, std::vector<t_atom> atoms)

@@ -1,5 +1,7 @@
 #include "host/bench/Scheduler.h"
+#include "host/bench/Doze.h"
 #include "host/bench/HostCalls.h"
+#include "host/bench/MainQueue.h"
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -91,6 +93,15 @@ void Scheduler::schedule (int delay, const void* ob, std::function<void()> task)
         events.emplace (now + std::max (delay, 0), Event{ ob, std::move (task) });
     }
     changed.notify_all();
+    if (! MainQueue::onMainThread())
+        wakeMainThread(); // it may sleep beyond this event
+}
+
+int Scheduler::untilNextEvent()
+{
+    constexpr long long aDay = 24LL * 60 * 60 * 1000;
+    const std::lock_guard<std::mutex> lock (mutex);
+    return static_cast<int> (events.empty() ? aDay : std::clamp (events.begin()->first - now, 0LL, aDay));
 }
 
 void Scheduler::advance (int milliseconds)

@@ -29,6 +29,9 @@ public:
 
     void advance (int milliseconds);
 
+    /** In milliseconds; a day if there is none. */
+    [[nodiscard]] int untilNextEvent();
+
     /** Waits until nothing runs and nothing is due. True if anything ran since the last call. */
     bool settle();
 

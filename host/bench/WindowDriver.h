@@ -2,6 +2,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace bench
 {
@@ -47,6 +48,10 @@ public:
     /** Delivers the GUI's pending messages, the repaints of windows on a display among them; a window in memory is
         painted when its picture is written. True if there was anything to deliver. */
     virtual bool pump() = 0;
+
+    /** What can be read when there is something to deliver: the bench sleeps until then. None on Windows, where the
+        thread's own queue wakes it. */
+    [[nodiscard]] virtual std::vector<int> descriptors() const { return {}; }
 
     virtual std::string turnPage (void* object, int page) = 0;
     virtual std::string pointer (void* object, const PointerEvent& event) = 0;

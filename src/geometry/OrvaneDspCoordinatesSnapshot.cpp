@@ -1,44 +1,55 @@
 #include "geometry/OrvaneDspCoordinatesSnapshot.h"
+#include "common/OrvaneDspGuard.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace qel
 {
 
+const CoordinatesSnapshot* CoordinatesSnapshotStore::find (const String& name) const
+{
+    const auto place = places.find (name.str());
+    return place == places.end() ? nullptr : &*place->second;
+}
+
 int CoordinatesSnapshotStore::findIndex (const String& name) const
 {
     const auto place = places.find (name.str());
-    return place == places.end() ? -1 : static_cast<int> (place->second);
+    return place == places.end()
+               ? -1
+               : static_cast<int> (std::distance<Snapshots::const_iterator> (snapshots.begin(), place->second));
 }
 
 const Point3Array& CoordinatesSnapshotStore::points (const String& name) const
 {
     static const Point3Array none;
-    const auto index = findIndex (name);
-    return index < 0 ? none : snapshots[static_cast<std::size_t> (index)]->points;
+    const auto* const snapshot = find (name);
+    return snapshot == nullptr ? none : snapshot->points;
 }
 
-void CoordinatesSnapshotStore::store (const String& name, const Point3Array& points)
+void CoordinatesSnapshotStore::store (const String& name, Point3Array points)
 {
-    if (const auto index = findIndex (name); index >= 0) {
-        snapshots[static_cast<std::size_t> (index)]->points = points;
+    if (const auto place = places.find (name.str()); place != places.end()) {
+        place->second->points = std::move (points);
         return;
     }
-    snapshots.push_back (std::make_unique<CoordinatesSnapshot> (CoordinatesSnapshot{ name, points }));
-    places.emplace (snapshots.back()->name.str(), snapshots.size() - 1);
+    guardedGrowth (QEL_HERE, GuardText::whatOccurred, [&] {
+        Snapshots added;
+        added.push_back ({ name, std::move (points) });
+        places.emplace (added.front().name.str(), added.begin());
+        snapshots.splice (snapshots.end(), added);
+    });
 }
 
 void CoordinatesSnapshotStore::remove (const String& name)
 {
-    const auto place = places.find (name.str());
-    if (place == places.end())
-        return;
-    const auto index = place->second;
-    places.erase (place);
-    snapshots.erase (index);
-    for (auto& [other, otherIndex] : places)
-        if (otherIndex > index)
-            --otherIndex;
+    if (const auto place = places.find (name.str()); place != places.end()) {
+        const auto snapshot = place->second;
+        places.erase (place); // first: its key is the snapshot's name
+        snapshots.erase (snapshot);
+    }
 }
 
 void CoordinatesSnapshotStore::removeAll() noexcept
@@ -51,16 +62,18 @@ void CoordinatesSnapshotStore::listNames (Vector<String>& names) const
 {
     names.clear();
     for (const auto& snapshot : snapshots)
-        names.push_back (snapshot->name);
+        names.push_back (snapshot.name);
 }
 
 void CoordinatesSnapshotStore::interpolate (Point3Array& output, const String& nameA, const String& nameB,
                                             float amount) const
 {
-    if (findIndex (nameA) < 0 || findIndex (nameB) < 0)
+    const auto* const first = find (nameA);
+    const auto* const second = find (nameB);
+    if (first == nullptr || second == nullptr)
         return;
-    const auto& a = points (nameA);
-    const auto& b = points (nameB);
+    const auto& a = first->points;
+    const auto& b = second->points;
     const float ofB = amount > 0 ? std::min (amount, 1.0F) : 0.0F; // no number counts as 0
     const float ofA = 1.0F - ofB;
     output.resize (std::min (a.size(), b.size()));

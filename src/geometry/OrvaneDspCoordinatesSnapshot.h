@@ -4,7 +4,7 @@
 #include "math/OrvaneDspVector.h"
 #include "text/OrvaneDspString.h"
 
-#include <memory>
+#include <list>
 #include <string_view>
 #include <unordered_map>
 
@@ -25,12 +25,12 @@ public:
     [[nodiscard]] std::size_t size() const noexcept { return snapshots.size(); }
     [[nodiscard]] bool empty() const noexcept { return snapshots.empty(); }
 
-    /** -1 if there is none of that name. */
+    /** Place in the order, from 0; -1 if there is none of that name. Walks the snapshots before it. */
     [[nodiscard]] int findIndex (const String& name) const;
     /** A shared empty array if there is none of that name. */
     [[nodiscard]] const Point3Array& points (const String& name) const;
     /** Replaces the points of a name that is there; a new name goes to the end. */
-    void store (const String& name, const Point3Array& points);
+    void store (const String& name, Point3Array points);
     /** Nothing happens if there is none of that name. */
     void remove (const String& name);
     void removeAll() noexcept;
@@ -40,17 +40,23 @@ public:
         to 0 to 1. If either name is unknown, the output is left as it stands. */
     void interpolate (Point3Array& output, const String& nameA, const String& nameB, float amount) const;
 
-    /** Adds a file's snapshots, each as store does. Raises NoSuchFile, "error parsing file " and the quoted path, or
-        the first bad snapshot's fault: those before it stay in the store. */
+    /** Adds a file's snapshots, each as store does. Raises NoSuchFile, "error parsing file " and the quoted path
+        (a file that is malformed anywhere changes nothing), or the first bad snapshot's fault: those before it stay in
+        the store. Memory beyond the snapshots: the file's size. */
     bool read (const File& file);
     /** Writes all snapshots that have points. False if the file could not be written: then it is as it was. Raises
         "no snapshot", or that the file exists if it must not be overwritten. An empty version is left out. */
     bool write (const File& file, const String& version, bool overwrite) const;
 
 private:
-    Vector<std::unique_ptr<CoordinatesSnapshot>> snapshots;
-    /** Place of each name. The keys are the snapshots' own names. */
-    std::unordered_map<std::string_view, std::size_t> places;
+    using Snapshots = std::list<CoordinatesSnapshot>;
+
+    [[nodiscard]] const CoordinatesSnapshot* find (const String& name) const;
+
+    /** A list, so that removing one of many moves no other. */
+    Snapshots snapshots;
+    /** Where each name is. The keys are the snapshots' own names. */
+    std::unordered_map<std::string_view, Snapshots::iterator> places;
 };
 
 }

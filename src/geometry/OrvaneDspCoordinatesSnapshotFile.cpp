@@ -1,10 +1,14 @@
+#include "files/OrvaneDspFileWriter.h"
 #include "files/OrvaneDspNoSuchFile.h"
+#include "files/OrvaneDspTemporaryFile.h"
 #include "geometry/OrvaneDspCoordinatesSnapshot.h"
 #include "math/OrvaneDspSort.h"
-#include "text/OrvaneDspXmlElement.h"
+#include "text/OrvaneDspXmlParser.h"
+#include "text/OrvaneDspXmlWriter.h"
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace qel
 {
@@ -12,7 +16,8 @@ namespace qel
 namespace
 {
 
-constexpr std::size_t lineWrapLength = 60;
+/** In bytes; the file is written in pieces of about this size. */
+constexpr std::size_t pieceSize = 65536;
 
 /** An axis of a point, under its name in the file. */
 struct Axis
@@ -23,73 +28,126 @@ struct Axis
 
 constexpr Axis axes[] = { { "x", &Point3::x }, { "y", &Point3::y }, { "z", &Point3::z } };
 
-template <typename Visitor>
-void forEachSource (const XmlElement& snapshot, Visitor&& visit)
+const std::string* valueOf (const XmlAttributes& attributes, std::string_view name)
 {
-    for (const auto* child = snapshot.firstChild(); child != nullptr; child = child->nextSibling())
-        if (child->hasTagName ("source"))
-            visit (*child);
+    const auto found =
+        std::find_if (attributes.begin(), attributes.end(), [name] (const auto& one) { return one.name == name; });
+    return found == attributes.end() ? nullptr : &found->value;
 }
 
-/** The indices must be those from 1 to their number, in any order. Returns the number. */
-std::size_t checkedIndices (const XmlElement& element, const String& name)
+/** Builds snapshots out of a document as it is parsed. It keeps those before the first bad one. */
+class SnapshotBuilder : public XmlVisitor
 {
-    Vector<int> indices;
-    forEachSource (element, [&] (const XmlElement& source) {
-        if (! source.hasAttribute ("index"))
-            throw Exception ("invalid index in snapshot " + name, QEL_HERE);
-        indices.push_back (source.intAttribute ("index"));
-    });
-    if (indices.size() > 1 && hasRepetitions (indices, false))
-        throw Exception ("index repetitions in snapshot " + name, QEL_HERE);
-    const auto isInRange = [count = indices.size()] (int index) {
-        return index >= 1 && static_cast<std::size_t> (index) <= count;
-    };
-    if (indices.empty() || ! std::all_of (indices.begin(), indices.end(), isInRange))
-        throw Exception ("invalid index range in snapshot " + name, QEL_HERE);
-    return indices.size();
-}
+public:
+    std::list<CoordinatesSnapshot> snapshots;
+    /** What is wrong with the first bad snapshot; empty if all are good. */
+    String complaint;
 
-/** A text that is no number counts as 0; a number that a float can't hold is refused. */
-Point3 pointOf (const XmlElement& source, const String& name)
-{
-    Point3 point;
-    for (const auto& axis : axes) {
-        const auto value = static_cast<float> (source.doubleAttribute (axis.name, 0.0));
-        if (! source.hasAttribute (axis.name) || ! std::isfinite (value))
-            throw Exception ("invalid x y or z in snapshot " + name, QEL_HERE);
-        point.*axis.value = value;
+    void startElement (std::string_view tagName, const XmlAttributes& attributes) override
+    {
+        ++depth;
+        if (depth == snapshotDepth)
+            startSnapshot (tagName, attributes);
+        else if (depth == sourceDepth && tagName == "source")
+            addSource (attributes);
     }
-    return point;
-}
 
-CoordinatesSnapshot snapshotOf (const XmlElement& element)
+    void endElement() override
+    {
+        if (depth-- == snapshotDepth && complaint.empty())
+            endSnapshot();
+    }
+
+    void text (std::string_view) override
+    {
+        if (depth == snapshotDepth - 1)
+            complain ("invalid snapshot");
+    }
+
+private:
+    static constexpr int snapshotDepth = 2, sourceDepth = 3; // the root's is 1
+
+    void complain (const String& fault)
+    {
+        if (complaint.empty())
+            complaint = fault;
+    }
+
+    void startSnapshot (std::string_view tagName, const XmlAttributes& attributes)
+    {
+        if (tagName != "snapshot")
+            return complain ("invalid snapshot");
+        const auto* const given = valueOf (attributes, "name");
+        if (given == nullptr)
+            return complain ("invalid name");
+        name = *given;
+        indices.clear();
+        points.clear();
+        lacksIndex = hasBadPlace = false;
+    }
+
+    /** A text that is no number counts as 0; a number that a float can't hold is refused. */
+    void addSource (const XmlAttributes& attributes)
+    {
+        const auto* const index = valueOf (attributes, "index");
+        lacksIndex = lacksIndex || index == nullptr;
+        Point3 point;
+        for (const auto& axis : axes) {
+            const auto* const given = valueOf (attributes, axis.name);
+            const auto value = given == nullptr ? 0.0F : static_cast<float> (String (*given).toDouble());
+            hasBadPlace = hasBadPlace || given == nullptr || ! std::isfinite (value);
+            point.*axis.value = value;
+        }
+        indices.push_back (index == nullptr ? 0 : String (*index).toInt());
+        points.push_back (point);
+    }
+
+    /** The indices must be those from 1 to their number, in any order. */
+    [[nodiscard]] const char* faultOfSnapshot() const
+    {
+        if (lacksIndex)
+            return "invalid index in snapshot ";
+        if (indices.size() > 1 && hasRepetitions (indices, false))
+            return "index repetitions in snapshot ";
+        const auto isInRange = [count = indices.size()] (int index) {
+            return index >= 1 && static_cast<std::size_t> (index) <= count;
+        };
+        if (indices.empty() || ! std::all_of (indices.begin(), indices.end(), isInRange))
+            return "invalid index range in snapshot ";
+        return hasBadPlace ? "invalid x y or z in snapshot " : nullptr;
+    }
+
+    void endSnapshot()
+    {
+        if (const auto* const fault = faultOfSnapshot())
+            return complain (fault + name);
+        auto& snapshot = snapshots.emplace_back();
+        snapshot.name = name;
+        snapshot.points.resize (points.size());
+        for (std::size_t i = 0; i < points.size(); ++i)
+            snapshot.points[static_cast<std::size_t> (indices[i] - 1)] = points[i];
+    }
+
+    int depth = 0;
+    String name;
+    Vector<int> indices;
+    Point3Array points; // in the order of the file
+    bool lacksIndex = false, hasBadPlace = false;
+};
+
+void writeSnapshot (XmlWriter& writer, const CoordinatesSnapshot& snapshot)
 {
-    if (! element.hasTagName ("snapshot"))
-        throw Exception ("invalid snapshot", QEL_HERE);
-    if (! element.hasAttribute ("name"))
-        throw Exception ("invalid name", QEL_HERE);
-
-    CoordinatesSnapshot snapshot{ element.textAttribute ("name"), {} };
-    snapshot.points.resize (checkedIndices (element, snapshot.name));
-    forEachSource (element, [&] (const XmlElement& source) {
-        snapshot.points[static_cast<std::size_t> (source.intAttribute ("index") - 1)] = pointOf (source, snapshot.name);
-    });
-    return snapshot;
-}
-
-std::unique_ptr<XmlElement> elementOf (const CoordinatesSnapshot& snapshot)
-{
-    auto element = std::make_unique<XmlElement> ("snapshot");
-    element->setAttribute ("name", snapshot.name);
+    writer.start ("snapshot");
+    writer.attribute ("name", snapshot.name.str());
     int index = 0;
     for (const auto& point : snapshot.points) {
-        auto* const source = element->addChild (std::make_unique<XmlElement> ("source"));
-        source->setAttribute ("index", ++index);
+        writer.start ("source");
+        writer.attribute ("index", String (++index).str());
         for (const auto& axis : axes)
-            source->setAttribute (axis.name, point.*axis.value);
+            writer.attribute (axis.name, xmlNumber (point.*axis.value).str());
+        writer.end();
     }
-    return element;
+    writer.end();
 }
 
 }
@@ -98,14 +156,16 @@ bool CoordinatesSnapshotStore::read (const File& file)
 {
     if (! file.exists())
         throw exceptions::NoSuchFile (file, QEL_HERE);
-    const auto document = XmlElement::parse (file);
-    if (! document)
+    SnapshotBuilder builder;
+    if (! XmlParser().parse (file, builder))
         throw Exception ("error parsing file " + file.path().quoted(), QEL_HERE);
 
-    for (const auto* child = document->firstChild(); child != nullptr; child = child->nextSibling()) {
-        const auto snapshot = snapshotOf (*child);
-        store (snapshot.name, snapshot.points);
+    for (; ! builder.snapshots.empty(); builder.snapshots.pop_front()) {
+        auto& snapshot = builder.snapshots.front();
+        store (snapshot.name, std::move (snapshot.points));
     }
+    if (! builder.complaint.empty())
+        throw Exception (builder.complaint, QEL_HERE);
     return true;
 }
 
@@ -116,13 +176,30 @@ bool CoordinatesSnapshotStore::write (const File& file, const String& version, b
     if (! overwrite && file.exists())
         throw Exception ("file " + file.path().quoted() + " already exists", QEL_HERE);
 
-    XmlElement document ("ambrel.viewer");
+    const TemporaryFile temporary (file);
+    FileWriter fileWriter (temporary.file());
+    MemoryOutput piece (pieceSize + pieceSize / 4);
+    const auto flush = [&] {
+        const bool isWritten = fileWriter.write (piece);
+        piece.reset();
+        return isWritten;
+    };
+
+    const XmlLayout layout;
+    XmlWriter writer (piece, layout);
+    writer.startDocument();
+    writer.start ("ambrel.viewer");
     if (! version.empty())
-        document.setAttribute ("version", version);
-    for (const auto& snapshot : snapshots)
-        if (! snapshot->points.empty())
-            document.addChild (elementOf (*snapshot));
-    return document.writeTo (file, {}, "UTF-8", lineWrapLength);
+        writer.attribute ("version", version.str());
+    for (const auto& snapshot : snapshots) {
+        if (! snapshot.points.empty())
+            writeSnapshot (writer, snapshot);
+        if (piece.size() >= pieceSize && ! flush())
+            return false;
+    }
+    writer.end();
+    writer.endDocument();
+    return flush() && fileWriter.finish() && temporary.replaceTarget();
 }
 
 }

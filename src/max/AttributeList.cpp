@@ -6,6 +6,7 @@
 #include "max/OrvanemaxSymbols.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvanemax
 {
@@ -42,11 +43,25 @@ bool isHostAttribute (t_symbol* name) noexcept
                         [name] (SymbolField field) { return symbol (field) == name; });
 }
 
-bool isVisible (void* object, t_symbol* name)
+/** Whether users see the attribute if it holds anything. */
+bool isForUsers (void* object, t_symbol* name)
 {
     const MaxAttribute attribute (object, name);
-    return attribute.exists() && ! attribute.IsInvisible() && ! attribute.isOpaque() && ! isHostAttribute (name) &&
-           GetNumberOfAtomsNeededToStoreAttribute (object, name) > 0;
+    return attribute.exists() && ! attribute.IsInvisible() && ! attribute.isOpaque() && ! isHostAttribute (name);
+}
+
+/** The number of atoms that were read; a failure is told and counts 0. */
+t_clong sizeOf (const AttributeValue& value, void* object, t_symbol* name)
+{
+    if (value.error() != MAX_ERR_NONE)
+        tellError (object, std::string ("GetNumberOfAtomsNeededToStoreAttribute : ") + errorText (value.error()) +
+                               " in object_attr_getvalueof (" + name->s_name + ")");
+    else if (value.size() < 0)
+        tellError (object, std::string ("GetNumberOfAtomsNeededToStoreAttribute : error in object_attr_getvalueof ") +
+                               name->s_name + " (ac=" + std::to_string (value.size()) + ")");
+    else
+        return value.size();
+    return 0;
 }
 
 void sortByOrder (void* object, AttributeNames& names)
@@ -89,24 +104,34 @@ AttributeNames attributeNames (void* object, SortMode mode)
 AttributeNames visibleAttributes (void* object, SortMode mode)
 {
     auto names = attributeNames (object, mode);
-    names.erase (
-        std::remove_if (names.begin(), names.end(), [=] (t_symbol* name) { return ! isVisible (object, name); }),
-        names.end());
+    const auto isHidden = [=] (t_symbol* name) {
+        return ! isForUsers (object, name) || GetNumberOfAtomsNeededToStoreAttribute (object, name) == 0;
+    };
+    names.erase (std::remove_if (names.begin(), names.end(), isHidden), names.end());
     return names;
+}
+
+std::vector<VisibleValue> visibleValues (void* object)
+{
+    std::vector<VisibleValue> values;
+    for (auto* name : attributeNames (object, SortMode::byName))
+        if (isForUsers (object, name))
+            if (AttributeValue value (object, name); sizeOf (value, object, name) > 0)
+                values.push_back ({ name, std::move (value) });
+    return values;
+}
+
+t_clong numberOfAtoms (const std::vector<VisibleValue>& values) noexcept
+{
+    t_clong sum = 0;
+    for (const auto& [name, value] : values)
+        sum += value.size();
+    return sum;
 }
 
 t_clong GetNumberOfAtomsNeededToStoreAttribute (void* object, t_symbol* name)
 {
-    const AttributeValue value (object, name);
-    if (value.error() != MAX_ERR_NONE)
-        tellError (object, std::string ("GetNumberOfAtomsNeededToStoreAttribute : ") + errorText (value.error()) +
-                               " in object_attr_getvalueof (" + name->s_name + ")");
-    else if (value.size() < 0)
-        tellError (object, std::string ("GetNumberOfAtomsNeededToStoreAttribute : error in object_attr_getvalueof ") +
-                               name->s_name + " (ac=" + std::to_string (value.size()) + ")");
-    else
-        return value.size();
-    return 0;
+    return sizeOf (AttributeValue (object, name), object, name);
 }
 
 t_clong numberOfAtoms (void* object, const AttributeNames& names)

@@ -29,15 +29,12 @@ bool hasAttribute (void* object, t_symbol* name)
     return false;
 }
 
-void appendAttribute (void* object, t_symbol* name, std::vector<t_atom>& list)
+void appendAttribute (void* object, const VisibleValue& attribute, std::vector<t_atom>& list)
 {
-    const AttributeValue value (object, name);
-    if (value.error() != MAX_ERR_NONE)
-        return tellBug (object, failureOf ("DumpAllAttributes", value.error(), name));
     t_atom word{};
-    atom_setsym (&word, name);
+    atom_setsym (&word, attribute.name);
     list.push_back (word);
-    for (const auto& atom : value.atoms()) {
+    for (const auto& atom : attribute.value.atoms()) {
         if (isKnownType (atom))
             list.push_back (atom);
         else
@@ -49,12 +46,12 @@ void appendAttribute (void* object, t_symbol* name, std::vector<t_atom>& list)
 
 void dumpAll (void* object, t_outlet* outlet)
 {
-    const auto names = visibleAttributes (object);
-    const auto expected = static_cast<std::size_t> (numberOfAtoms (object, names)) + 2 * names.size();
+    const auto attributes = visibleValues (object);
+    const auto expected = static_cast<std::size_t> (numberOfAtoms (attributes)) + 2 * attributes.size();
     std::vector<t_atom> list;
     list.reserve (expected);
-    for (auto* name : names)
-        appendAttribute (object, name, list);
+    for (const auto& attribute : attributes)
+        appendAttribute (object, attribute, list);
     if (list.size() != expected)
         tellError (object, std::to_string (expected) + " atoms allocated but " + std::to_string (list.size()) +
                                " atoms dumped");

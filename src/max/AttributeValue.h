@@ -1,6 +1,8 @@
 #pragma once
 #include "max/Atoms.h"
 
+#include <utility>
+
 namespace orvanemax
 {
 
@@ -16,6 +18,9 @@ public:
         if (storage != nullptr)
             sysmem_freeptr (storage);
     }
+    AttributeValue (AttributeValue&& other) noexcept
+        : count (other.count), storage (std::exchange (other.storage, nullptr)), failure (other.failure)
+    {}
     AttributeValue (const AttributeValue&) = delete;
     AttributeValue& operator= (const AttributeValue&) = delete;
 

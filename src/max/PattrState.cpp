@@ -17,24 +17,16 @@ namespace
 {
 
 /** The values of the attributes one behind the other. */
-std::vector<t_atom> collect (void* object, const AttributeNames& names)
+std::vector<t_atom> collect (void* object, const std::vector<VisibleValue>& attributes)
 {
     std::vector<t_atom> values;
-    for (auto* name : names) {
-        const AttributeValue value (object, name);
-        if (value.error() != MAX_ERR_NONE)
-            tellBug (object, std::string ("orvanemax_getvalueof : ") + errorText (value.error()) +
-                                 " in object_attr_getvalueof (" + name->s_name + ")");
-        else if (value.size() < 0)
-            tellBug (object, std::string ("orvanemax_getvalueof : error in object_attr_getvalueof ") + name->s_name +
-                                 " (tmpac=" + std::to_string (value.size()) + ")");
+    for (const auto& [name, value] : attributes)
         for (const auto& atom : value.atoms()) {
             if (isKnownType (atom))
                 values.push_back (atom);
             else
                 tellError (object, "orvanemax_getvalueof : unknown atom type");
         }
-    }
     return values;
 }
 
@@ -92,9 +84,9 @@ t_max_err orvanemax_getvalueof (void* x, t_clong* ac, t_atom** av)
     guarded (x, [&] {
         if (ac == nullptr || av == nullptr)
             return tellBug (x, "orvanemax_getvalueof : there is a problem");
-        const auto names = visibleAttributes (x);
-        const auto expected = numberOfAtoms (x, names);
-        const auto values = collect (x, names);
+        const auto attributes = visibleValues (x);
+        const auto expected = numberOfAtoms (attributes);
+        const auto values = collect (x, attributes);
         if (static_cast<t_clong> (values.size()) != expected)
             tellError (x, std::to_string (expected) + " atoms allocated but " + std::to_string (values.size()) +
                               " atoms stored by the pattrstorage");
@@ -125,7 +117,7 @@ void orvanemax_preset (void* x)
         auto* binbuf = gensym ("_preset")->s_thing;
         if (binbuf == nullptr)
             return;
-        const auto expected = static_cast<std::size_t> (numberOfAtoms (x, visibleAttributes (x)));
+        const auto expected = static_cast<std::size_t> (numberOfAtoms (visibleValues (x)));
         t_clong count = 0;
         t_atom* values = nullptr;
         const auto error = orvanemax_getvalueof (x, &count, &values);

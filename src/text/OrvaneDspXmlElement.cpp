@@ -1,12 +1,10 @@
 #include "text/OrvaneDspXmlElement.h"
+#include "files/OrvaneDspFileWriter.h"
+#include "files/OrvaneDspTemporaryFile.h"
 #include "text/OrvaneDspXmlReader.h"
 
-#include <array>
-#include <charconv>
-#include <cmath>
-#include <limits>
-#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace qel
 {
@@ -16,32 +14,6 @@ namespace
 
 /** Under this name a text node keeps its text. */
 const String textOfNode = "text";
-
-template <typename Number>
-std::string_view shortest (std::array<char, 64>& buffer, Number value)
-{
-    const auto magnitude = std::abs (value);
-    const bool isPlain = magnitude == 0 || (magnitude >= Number (1e-5) && magnitude < Number (1e7));
-    const auto form = isPlain ? std::chars_format::fixed : std::chars_format::scientific;
-    const auto [end, fault] = std::to_chars (buffer.data(), buffer.data() + buffer.size(), value, form);
-    return { buffer.data(), fault == std::errc() ? static_cast<std::size_t> (end - buffer.data()) : 0 };
-}
-
-/** The digits of single precision do for a float, unless reading them as a double and then narrowing it goes astray:
-    rounding twice can end one step aside. */
-String numberText (double value)
-{
-    std::array<char, 64> buffer{};
-    if (std::abs (value) <= static_cast<double> (std::numeric_limits<float>::max())) {
-        const auto single = static_cast<float> (value);
-        const auto text = shortest (buffer, single);
-        double readBack = 0;
-        std::from_chars (text.data(), text.data() + text.size(), readBack);
-        if (static_cast<double> (single) == value && static_cast<float> (readBack) == single)
-            return String (text);
-    }
-    return String (shortest (buffer, value));
-}
 
 }
 
@@ -144,6 +116,60 @@ void XmlElement::setAttribute (const String& name, const String& value)
 }
 
 void XmlElement::setAttribute (const String& name, int value) { setAttribute (name, String (value)); }
-void XmlElement::setAttribute (const String& name, double value) { setAttribute (name, numberText (value)); }
+void XmlElement::setAttribute (const String& name, double value) { setAttribute (name, xmlNumber (value)); }
+
+void XmlElement::writeStart (XmlWriter& writer) const
+{
+    writer.start (tag.str());
+    for (const auto* attribute = attributes.get(); attribute != nullptr; attribute = attribute->next.get())
+        writer.attribute (attribute->name.str(), attribute->value.str());
+}
+
+/** Without recursion: it keeps the next child of each element that is open in a list of its own. */
+void XmlElement::writeTree (XmlWriter& writer) const
+{
+    if (isTextNode())
+        return writer.text (text().str());
+
+    writeStart (writer);
+    std::vector<const XmlElement*> nextChildren{ firstChild() };
+    while (! nextChildren.empty()) {
+        const auto* const child = nextChildren.back();
+        if (child == nullptr) {
+            writer.end();
+            nextChildren.pop_back();
+            continue;
+        }
+        nextChildren.back() = child->nextSibling();
+        if (child->isTextNode()) {
+            writer.text (child->text().str());
+        } else {
+            child->writeStart (writer);
+            nextChildren.push_back (child->firstChild());
+        }
+    }
+}
+
+void XmlElement::writeTo (MemoryOutput& output, const Layout& layout) const
+{
+    XmlWriter writer (output, layout);
+    writer.startDocument();
+    writeTree (writer);
+    writer.endDocument();
+}
+
+bool XmlElement::writeTo (const File& file, const String& dtd, const String& encoding, std::size_t lineWrapLength) const
+{
+    Layout layout;
+    layout.dtd = dtd;
+    layout.encoding = encoding;
+    layout.lineWrapLength = lineWrapLength;
+    MemoryOutput document (2048);
+    writeTo (document, layout);
+
+    const TemporaryFile temporary (file);
+    FileWriter writer (temporary.file());
+    return writer.write (document) && writer.finish() && temporary.replaceTarget();
+}
 
 }

@@ -2,6 +2,7 @@
 #include "files/OrvaneDspFile.h"
 #include "memory/OrvaneDspMemoryOutput.h"
 #include "text/OrvaneDspString.h"
+#include "text/OrvaneDspXmlWriter.h"
 
 #include <memory>
 
@@ -12,16 +13,7 @@ namespace qel
 class XmlElement
 {
 public:
-    /** How a document is laid out. */
-    struct Layout
-    {
-        bool allOnOneLine = false;
-        bool includeHeader = true;
-        String dtd;
-        String encoding = "UTF-8";
-        /** Attributes go on in a new line once a line of them is longer. */
-        std::size_t lineWrapLength = 60;
-    };
+    using Layout = XmlLayout;
 
     explicit XmlElement (const String& tagName);
     XmlElement (const XmlElement&) = delete;
@@ -69,7 +61,6 @@ public:
 
 private:
     friend class XmlReader;
-    friend class XmlWriter;
 
     struct Attribute
     {
@@ -79,6 +70,8 @@ private:
 
     [[nodiscard]] const Attribute* find (const String& name) const noexcept;
     void append (const String& name, const String& value);
+    void writeStart (XmlWriter& writer) const;
+    void writeTree (XmlWriter& writer) const;
 
     std::unique_ptr<XmlElement> next;
     std::unique_ptr<XmlElement> childList;

@@ -1,331 +1,41 @@
 #include "text/OrvaneDspXmlReader.h"
 
-#include <algorithm>
-#include <charconv>
-#include <cstdint>
 #include <utility>
 
 namespace qel
 {
 
-namespace
+template <typename Source>
+std::unique_ptr<XmlElement> XmlReader::treeOf (const Source& source) noexcept
 {
-
-/** In bytes. Some thousand times what anyone writes, and still a tree that memory holds. */
-constexpr std::uint64_t largestDocument = 256 << 20;
-
-constexpr std::string_view whiteSpace = " \t\r\n";
-
-struct NamedEscape
-{
-    std::string_view name;
-    char character;
-};
-
-constexpr NamedEscape namedEscapes[] = {
-    { "amp;", '&' }, { "quot;", '"' }, { "apos;", '\'' }, { "lt;", '<' }, { "gt;", '>' },
-};
-
-bool isNameByte (char c) noexcept
-{
-    const bool isLetter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-    const bool isDigit = c >= '0' && c <= '9';
-    const bool isUtf8 = (static_cast<unsigned char> (c) & 0x80U) != 0;
-    return isLetter || isDigit || isUtf8 || c == '_' || c == '-' || c == ':' || c == '.';
-}
-
-void appendUtf8 (std::string& text, unsigned code)
-{
-    const auto byte = [&text] (unsigned value) { text += static_cast<char> (value); };
-    const auto continued = [&byte] (unsigned bits) { byte (0x80U | (bits & 0x3fU)); };
-    if (code < 0x800) {
-        byte (0xc0U | (code >> 6U));
-    } else if (code < 0x10000) {
-        byte (0xe0U | (code >> 12U));
-        continued (code >> 6U);
-    } else {
-        byte (0xf0U | (code >> 18U));
-        continued (code >> 12U);
-        continued (code >> 6U);
-    }
-    continued (code);
-}
-
-/** A number from -128 to 127 is a byte, as our own writer tells those above 127; a larger one a character's code. */
-bool appendCharacter (std::string& text, int code)
-{
-    const bool isSurrogate = code >= 0xd800 && code <= 0xdfff;
-    if (code < -128 || code > 0x10ffff || isSurrogate)
-        return false;
-    if (code < 128)
-        text += static_cast<char> (code);
-    else
-        appendUtf8 (text, static_cast<unsigned> (code));
-    return true;
-}
-
-/** Takes an escape, whose "&" is gone, off the text; false if there is none. */
-bool takeEscape (std::string_view& raw, std::string& decoded)
-{
-    for (const auto& [name, character] : namedEscapes)
-        if (raw.substr (0, name.size()) == name) {
-            decoded += character;
-            raw.remove_prefix (name.size());
-            return true;
-        }
-
-    if (raw.substr (0, 1) != "#")
-        return false;
-    const bool isHexadecimal = raw.substr (1, 1) == "x";
-    raw.remove_prefix (isHexadecimal ? 2 : 1);
-    int code = 0;
-    const auto [end, fault] = std::from_chars (raw.data(), raw.data() + raw.size(), code, isHexadecimal ? 16 : 10);
-    raw.remove_prefix (static_cast<std::size_t> (end - raw.data()));
-    if (fault != std::errc() || raw.substr (0, 1) != ";")
-        return false;
-    raw.remove_prefix (1);
-    return appendCharacter (decoded, code);
-}
-
-}
-
-std::unique_ptr<XmlElement> XmlReader::read (const File& file) noexcept
-{
-    if (file.size() <= largestDocument)
-        return read (file.readAll());
-    error = "too much input";
-    return nullptr;
-}
-
-std::unique_ptr<XmlElement> XmlReader::read (const String& document) noexcept
-{
-    rest = document.str();
-    error = String();
+    const bool isWhole = parser.parse (source, *this);
     open.clear();
-    root.reset();
-    try {
-        if (readDocument())
-            return std::move (root);
-    } catch (const std::exception&) {
-        error = "out of memory";
-    }
-    root.reset();
-    return nullptr;
+    auto tree = std::exchange (root, nullptr);
+    return isWhole ? std::move (tree) : nullptr;
 }
 
-bool XmlReader::fail (const String& complaint)
+std::unique_ptr<XmlElement> XmlReader::read (const String& document) noexcept { return treeOf (document.str()); }
+std::unique_ptr<XmlElement> XmlReader::read (const File& file) noexcept { return treeOf (file); }
+
+void XmlReader::startElement (std::string_view tagName, const XmlAttributes& attributes)
 {
-    error = complaint;
-    return false;
-}
-
-bool XmlReader::failAtCharacter (const String& tagName)
-{
-    if (rest.empty())
-        return fail ("not enough input");
-    return fail ("illegal character found in " + tagName + ": '" + String (rest.substr (0, 1)) + "'");
-}
-
-void XmlReader::skipWhiteSpace() noexcept
-{
-    rest.remove_prefix (std::min (rest.find_first_not_of (whiteSpace), rest.size()));
-}
-
-std::string_view XmlReader::takeName() noexcept
-{
-    const auto end = std::find_if_not (rest.begin(), rest.end(), isNameByte);
-    const auto name = rest.substr (0, static_cast<std::size_t> (end - rest.begin()));
-    rest.remove_prefix (name.size());
-    return name;
-}
-
-bool XmlReader::skipThrough (std::string_view opening, std::string_view closing, const char* complaint)
-{
-    const auto end = rest.find (closing, opening.size());
-    if (end == std::string_view::npos)
-        return fail (complaint);
-    rest.remove_prefix (end + closing.size());
-    return true;
-}
-
-bool XmlReader::readDocument()
-{
-    constexpr std::string_view byteOrderMark = "\xef\xbb\xbf";
-    if (startsWith (byteOrderMark))
-        rest.remove_prefix (byteOrderMark.size());
-
-    if (! skipAside (true))
-        return false;
-    if (rest.empty())
-        return fail ("not enough input");
-    if (rest.front() != '<')
-        return fail ("tag name missing");
-    if (! readStartTag())
-        return false;
-    while (! open.empty())
-        if (! readContent())
-            return false;
-    return skipAside (false) && (rest.empty() || failAtCharacter (root->tagName()));
-}
-
-/** Skips what may stand before and behind the root element. */
-bool XmlReader::skipAside (bool doctypeToo)
-{
-    for (;;) {
-        skipWhiteSpace();
-        if (startsWith ("<?")) {
-            if (! skipThrough ("<?", "?>", "malformed header"))
-                return false;
-        } else if (startsWith ("<!--")) {
-            if (! skipThrough ("<!--", "-->", "unterminated comment"))
-                return false;
-        } else if (doctypeToo && startsWith ("<!DOCTYPE")) {
-            if (! skipDoctype())
-                return false;
-        } else {
-            return true;
-        }
-    }
-}
-
-bool XmlReader::skipDoctype()
-{
-    std::size_t depth = 0;
-    for (std::size_t i = 0; i < rest.size(); ++i) {
-        if (rest[i] == '<')
-            ++depth;
-        else if (rest[i] == '>' && --depth == 0) {
-            rest.remove_prefix (i + 1);
-            return true;
-        }
-    }
-    return fail ("malformed DTD");
-}
-
-/** One piece of what the innermost open element holds, or its end. */
-bool XmlReader::readContent()
-{
-    if (rest.empty())
-        return fail ("not enough input");
-    if (rest.front() != '<')
-        return readText();
-    if (startsWith ("</"))
-        return readEndTag();
-    if (startsWith ("<!--"))
-        return skipThrough ("<!--", "-->", "unterminated comment");
-    if (startsWith ("<![CDATA["))
-        return readCharacterData();
-    if (startsWith ("<?"))
-        return skipThrough ("<?", "?>", "malformed header");
-    return readStartTag();
-}
-
-bool XmlReader::readStartTag()
-{
-    rest.remove_prefix (1);
-    const String tagName (takeName());
-    if (tagName.empty())
-        return fail ("tag name missing");
-    auto element = std::make_unique<XmlElement> (tagName);
-
-    names.clear();
-    for (skipWhiteSpace(); ! rest.empty() && isNameByte (rest.front()); skipWhiteSpace())
-        if (! readAttribute (*element))
-            return false;
-    std::sort (names.begin(), names.end());
-    if (const auto twin = std::adjacent_find (names.begin(), names.end()); twin != names.end())
-        return fail ("repeated attribute '" + String (*twin) + "'");
-
-    const bool isClosed = startsWith ("/>");
-    if (! isClosed && ! startsWith (">"))
-        return failAtCharacter (tagName);
-    rest.remove_prefix (isClosed ? 2 : 1);
+    auto element = std::make_unique<XmlElement> (String (tagName));
+    for (const auto& [name, value] : attributes)
+        element->append (String (name), value);
 
     auto* const added = element.get();
     if (open.empty())
         root = std::move (element);
     else
         open.back()->addChild (std::move (element));
-    if (! isClosed)
-        open.push_back (added);
-    return true;
+    open.push_back (added);
 }
 
-bool XmlReader::readAttribute (XmlElement& element)
+void XmlReader::endElement() { open.pop_back(); }
+
+void XmlReader::text (std::string_view characters)
 {
-    const auto name = takeName();
-    skipWhiteSpace();
-    if (! startsWith ("="))
-        return fail ("expected '=' after attribute '" + String (name) + "'");
-    rest.remove_prefix (1);
-    skipWhiteSpace();
-    if (! startsWith ("\"") && ! startsWith ("'"))
-        return failAtCharacter (element.tagName());
-
-    const auto end = rest.find (rest.front(), 1);
-    if (end == std::string_view::npos)
-        return fail ("unmatched quotes");
-    std::string value;
-    if (! decode (rest.substr (1, end - 1), value))
-        return false;
-    rest.remove_prefix (end + 1);
-    element.append (String (name), std::move (value));
-    names.push_back (name);
-    return true;
-}
-
-bool XmlReader::readEndTag()
-{
-    rest.remove_prefix (2);
-    const auto& tagName = open.back()->tagName();
-    if (takeName() != tagName.str())
-        return fail (rest.empty() ? "not enough input" : "expected '</" + tagName + ">'");
-    skipWhiteSpace();
-    if (! startsWith (">"))
-        return failAtCharacter (tagName);
-    rest.remove_prefix (1);
-    open.pop_back();
-    return true;
-}
-
-bool XmlReader::readText()
-{
-    const auto raw = rest.substr (0, rest.find ('<'));
-    rest.remove_prefix (raw.size());
-    if (raw.find_first_not_of (whiteSpace) == std::string_view::npos)
-        return true;
-
-    std::string text;
-    if (! decode (raw, text))
-        return false;
-    open.back()->addChild (XmlElement::createTextNode (text));
-    return true;
-}
-
-bool XmlReader::readCharacterData()
-{
-    constexpr std::string_view opening = "<![CDATA[", closing = "]]>";
-    const auto whole = rest;
-    if (! skipThrough (opening, closing, "unterminated CDATA section"))
-        return false;
-    const auto size = whole.size() - rest.size() - opening.size() - closing.size();
-    open.back()->addChild (XmlElement::createTextNode (String (whole.substr (opening.size(), size))));
-    return true;
-}
-
-bool XmlReader::decode (std::string_view raw, std::string& decoded)
-{
-    while (! raw.empty()) {
-        const auto plain = raw.substr (0, raw.find ('&'));
-        decoded += plain;
-        raw.remove_prefix (plain.size());
-        if (raw.empty())
-            break;
-        raw.remove_prefix (1);
-        if (! takeEscape (raw, decoded))
-            return fail ("illegal escape sequence");
-    }
-    return true;
+    open.back()->addChild (XmlElement::createTextNode (String (characters)));
 }
 
 }

@@ -1,46 +1,16 @@
+#include "text/OrvaneDspXmlWriter.h"
 #include "common/OrvaneDspTime.h"
 #include "common/OrvaneDspVersion.h"
-#include "files/OrvaneDspFileWriter.h"
-#include "files/OrvaneDspTemporaryFile.h"
-#include "text/OrvaneDspXmlElement.h"
 
-#include <string_view>
-#include <vector>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <system_error>
+#include <utility>
 
 namespace qel
 {
-
-/** Writes a tree without recursion: it keeps the elements that are still open in a list of its own. */
-class XmlWriter
-{
-public:
-    XmlWriter (MemoryOutput& outputToUse, const XmlElement::Layout& layoutToUse)
-        : output (outputToUse), layout (layoutToUse)
-    {}
-
-    void header();
-    void tree (const XmlElement& root);
-
-private:
-    struct Open
-    {
-        const XmlElement* element;
-        const XmlElement* nextChild;
-        std::size_t indentation;
-        bool isAfterText;
-    };
-
-    void start (const XmlElement& element, std::size_t indentation);
-    void attributes (const XmlElement& element, std::size_t column);
-    void child (Open& parent);
-    void end (const Open& element);
-    void escaped (const String& text, bool inAttribute);
-    void newLine (std::size_t indentation);
-
-    MemoryOutput& output;
-    const XmlElement::Layout& layout;
-    std::vector<Open> open;
-};
 
 namespace
 {
@@ -70,6 +40,44 @@ bool isSafe (char c, bool inAttribute) noexcept
     return (c >= ' ' && c <= '~' && namedEscape (c) == nullptr) || (isLineBreak && ! inAttribute);
 }
 
+template <typename Number>
+std::string_view shortest (std::array<char, 64>& buffer, Number value)
+{
+    const auto magnitude = std::abs (value);
+    const bool isPlain = magnitude == 0 || (magnitude >= Number (1e-5) && magnitude < Number (1e7));
+    const auto form = isPlain ? std::chars_format::fixed : std::chars_format::scientific;
+    const auto [end, fault] = std::to_chars (buffer.data(), buffer.data() + buffer.size(), value, form);
+    return { buffer.data(), fault == std::errc() ? static_cast<std::size_t> (end - buffer.data()) : 0 };
+}
+
+}
+
+/** The digits of single precision do for a float, unless reading them as a double and then narrowing it goes astray:
+    rounding twice can end one step aside. */
+String xmlNumber (double value)
+{
+    std::array<char, 64> buffer{};
+    if (std::abs (value) <= static_cast<double> (std::numeric_limits<float>::max())) {
+        const auto single = static_cast<float> (value);
+        const auto text = shortest (buffer, single);
+        double readBack = 0;
+        std::from_chars (text.data(), text.data() + text.size(), readBack);
+        if (static_cast<double> (single) == value && static_cast<float> (readBack) == single)
+            return String (text);
+    }
+    return String (shortest (buffer, value));
+}
+
+XmlWriter::XmlWriter (MemoryOutput& outputToUse, const XmlLayout& layoutToUse)
+    : output (outputToUse), layout (layoutToUse)
+{}
+
+void XmlWriter::startDocument()
+{
+    if (layout.includeHeader)
+        header();
+    if (! layout.dtd.empty())
+        output << layout.dtd << (layout.allOnOneLine ? " " : lineEnd);
 }
 
 void XmlWriter::header()
@@ -83,6 +91,8 @@ void XmlWriter::header()
            << Time::now().toText (Time::Parts()) << " -->" << lineEnd << lineEnd;
 }
 
+void XmlWriter::endDocument() { output << lineEnd; }
+
 void XmlWriter::newLine (std::size_t indentation)
 {
     if (layout.allOnOneLine)
@@ -91,78 +101,74 @@ void XmlWriter::newLine (std::size_t indentation)
     output.writeRepeated (' ', indentation);
 }
 
-void XmlWriter::tree (const XmlElement& root)
+void XmlWriter::beginContent (Open& element)
 {
-    if (root.isTextNode())
-        return escaped (root.text(), false);
+    if (! std::exchange (element.hasContent, true))
+        output << '>';
+}
 
-    start (root, 0);
-    while (! open.empty()) {
-        if (open.back().nextChild != nullptr) {
-            child (open.back());
-        } else {
-            end (open.back());
-            open.pop_back();
-        }
+void XmlWriter::start (std::string_view tagName)
+{
+    Open element{ std::string (tagName) };
+    if (! open.empty()) {
+        auto& parent = open.back();
+        beginContent (parent);
+        element.indentation = parent.indentation + 2;
+        if (! std::exchange (parent.isAfterText, false))
+            newLine (element.indentation);
     }
+    output << '<';
+    put (tagName);
+    lineLength = 0;
+    open.push_back (std::move (element));
+}
+
+void XmlWriter::attribute (std::string_view name, std::string_view value)
+{
+    auto& element = open.back();
+    element.hasAttributes = true;
+    if (lineLength > layout.lineWrapLength && ! layout.allOnOneLine) {
+        newLine (element.indentation + 1 + element.tagName.size());
+        lineLength = 0;
+    }
+    const auto before = output.position();
+    output << ' ';
+    put (name);
+    output << "=\"";
+    escaped (value, true);
+    output << '"';
+    lineLength += output.position() - before;
 }
 
 /** Text goes on where it stands, since a line end before it would be read back as a part of it. */
-void XmlWriter::child (Open& parent)
+void XmlWriter::text (std::string_view characters)
 {
-    const auto& element = *parent.nextChild;
-    parent.nextChild = element.nextSibling();
-    const bool wasAfterText = parent.isAfterText;
-    parent.isAfterText = element.isTextNode();
-    if (element.isTextNode())
-        return escaped (element.text(), false);
-
-    const auto indentation = parent.indentation + 2;
-    if (! wasAfterText)
-        newLine (indentation);
-    start (element, indentation);
+    if (! open.empty()) {
+        beginContent (open.back());
+        open.back().isAfterText = true;
+    }
+    escaped (characters, false);
 }
 
-void XmlWriter::start (const XmlElement& element, std::size_t indentation)
+void XmlWriter::end()
 {
-    output << '<' << element.tagName();
-    attributes (element, indentation + 1 + element.tagName().size());
-    if (element.firstChild() != nullptr) {
-        output << '>';
-        open.push_back ({ &element, element.firstChild(), indentation, false });
-    } else if (element.attributes) {
+    const auto element = std::move (open.back());
+    open.pop_back();
+    if (! element.hasContent && element.hasAttributes) {
         output << "/>";
-    } else {
+        return;
+    }
+    if (! element.hasContent)
         output << '>';
-        newLine (indentation);
-        output << "</" << element.tagName() << '>';
-    }
-}
-
-void XmlWriter::attributes (const XmlElement& element, std::size_t column)
-{
-    auto lineStart = output.position();
-    for (const auto* attribute = element.attributes.get(); attribute != nullptr; attribute = attribute->next.get()) {
-        if (output.position() - lineStart > layout.lineWrapLength && ! layout.allOnOneLine) {
-            newLine (column);
-            lineStart = output.position();
-        }
-        output << ' ' << attribute->name << "=\"";
-        escaped (attribute->value, true);
-        output << '"';
-    }
-}
-
-void XmlWriter::end (const Open& element)
-{
     if (! element.isAfterText)
         newLine (element.indentation);
-    output << "</" << element.element->tagName() << '>';
+    output << "</";
+    put (element.tagName);
+    output << '>';
 }
 
-void XmlWriter::escaped (const String& text, bool inAttribute)
+void XmlWriter::escaped (std::string_view bytes, bool inAttribute)
 {
-    const std::string_view bytes (text.str());
     for (std::size_t i = 0; i < bytes.size();) {
         auto safeEnd = i;
         while (safeEnd < bytes.size() && isSafe (bytes[safeEnd], inAttribute))
@@ -177,32 +183,6 @@ void XmlWriter::escaped (const String& text, bool inAttribute)
         }
         i = safeEnd;
     }
-}
-
-void XmlElement::writeTo (MemoryOutput& output, const Layout& layout) const
-{
-    const auto* const lineEndOrSpace = layout.allOnOneLine ? " " : lineEnd;
-    XmlWriter writer (output, layout);
-    if (layout.includeHeader)
-        writer.header();
-    if (! layout.dtd.empty())
-        output << layout.dtd << lineEndOrSpace;
-    writer.tree (*this);
-    output << lineEnd;
-}
-
-bool XmlElement::writeTo (const File& file, const String& dtd, const String& encoding, std::size_t lineWrapLength) const
-{
-    Layout layout;
-    layout.dtd = dtd;
-    layout.encoding = encoding;
-    layout.lineWrapLength = lineWrapLength;
-    MemoryOutput document (2048);
-    writeTo (document, layout);
-
-    const TemporaryFile temporary (file);
-    FileWriter writer (temporary.file());
-    return writer.write (document) && writer.finish() && temporary.replaceTarget();
 }
 
 }

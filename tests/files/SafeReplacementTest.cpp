@@ -1,5 +1,6 @@
 #include "files/OrvaneDspFileWriter.h"
 #include "files/OrvaneDspTemporaryFile.h"
+#include "geometry/OrvaneDspCoordinatesSnapshot.h"
 #include "support/files/ScratchFolder.h"
 #include "text/OrvaneDspXmlElement.h"
 
@@ -131,6 +132,34 @@ TEST_F (SafeReplacement, ADiskThatIsFullAtAnyByteLeavesTheOldFileWhole)
     const DiskOfBytes justEnough (size);
     EXPECT_TRUE (writeDocument());
     EXPECT_NE (target.readAll().str().find ("second"), std::string::npos);
+}
+
+/** Snapshots go out in pieces: the disk may be full behind any of them. */
+TEST_F (SafeReplacement, ADiskThatIsFullBetweenThePiecesOfASnapshotFileLeavesTheOldFileWhole)
+{
+    qel::CoordinatesSnapshotStore store;
+    for (int i = 0; i < 100; ++i)
+        store.store (qel::String (i), qel::Point3Array (64));
+    const auto copy = scratch.file ("copy");
+    ASSERT_TRUE (store.write (copy, "", false));
+    const auto size = copy.size();
+    ASSERT_TRUE (size > 200000 && copy.remove());
+
+    for (const rlim_t room : { rlim_t{ 0 }, rlim_t{ 70000 }, rlim_t{ 140000 }, rlim_t{ size - 1 } }) {
+        const bool isWritten = [&] {
+            const DiskOfBytes disk (room);
+            return store.write (target, "", true);
+        }();
+        EXPECT_FALSE (isWritten) << "room for " << room << " bytes";
+        expectOldFile ("room for " + std::to_string (room) + " bytes");
+    }
+    for (const auto call : { writing, flushing, closing, renaming }) {
+        refusals[call] = call == renaming ? 5 : 1;
+        EXPECT_FALSE (store.write (target, "", true)) << callNames[call];
+        expectOldFile (callNames[call]);
+    }
+    EXPECT_TRUE (store.write (target, "", true));
+    EXPECT_EQ (target.size(), size);
 }
 
 TEST_F (SafeReplacement, ARefusedCallLeavesTheOldFileWhole)

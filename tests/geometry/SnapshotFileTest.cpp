@@ -4,10 +4,36 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <functional>
 #include <limits>
 #include <random>
+#include <utility>
+
+#include <unistd.h>
+
+namespace
+{
+
+/** Runs once, between the first bytes that are read of a file and the others. */
+std::function<void()> behindTheFirstBytes;
+
+}
+
+extern "C"
+{
+    ssize_t __real_read (int, void*, size_t);
+    ssize_t __wrap_read (int file, void* bytes, size_t count)
+    {
+        if (! behindTheFirstBytes)
+            return __real_read (file, bytes, count);
+        const auto result = __real_read (file, bytes, std::min<size_t> (count, 100));
+        std::exchange (behindTheFirstBytes, nullptr)();
+        return result;
+    }
+}
 
 namespace
 {
@@ -66,9 +92,10 @@ TEST_F (SnapshotFile, NamesTheFaultAndKeepsWhatWasReadBeforeIt)
         { snapshot (source ("1", "x='1' y='2' z='-3.5e38'")), place },
     };
     const auto good = "<snapshot name='good'>" + source ("1") + "</snapshot>";
+    const auto late = "<snapshot name='late'>" + source ("1") + "</snapshot>";
     for (const auto& [document, complaint] : rows) {
         store.removeAll();
-        EXPECT_EQ (complaintOfReading (write (good + document + "<snapshot name='late'/>")), complaint) << document;
+        EXPECT_EQ (complaintOfReading (write (good + document + late)), complaint) << document;
         EXPECT_EQ (store.size(), 1U) << document;
         EXPECT_EQ (store.points ("good"), (Point3Array{ { 1, 2, 3 } })) << document;
     }
@@ -88,6 +115,52 @@ TEST_F (SnapshotFile, FaultyFilesLeaveTheStoreAsItIs)
                "Could not find file \"" + scratch.file ("none.xml").path().str() + "\"");
     EXPECT_TRUE (store.read (write ("")) && store.read (write (" <!-- none --> ")));
     EXPECT_EQ (store.size(), 1U);
+}
+
+TEST_F (SnapshotFile, MalformedAnywhereChangesNothing)
+{
+    const auto good = "<v>" + snapshot (source ("1")) + "<snapshot name='b'>" + source ("1") + "</snapshot></v>";
+    const auto bad = "<v>" + snapshot (source ("1")) + "<snapshot/>" + source ("1") + "</v>";
+    store.store ("s 1", { { 9, 9, 9 } });
+    const auto expectRefused = [this] (const std::string& document) {
+        const auto file = scratch.write ("given.xml", document);
+        EXPECT_EQ (complaintOfReading (file), "error parsing file " + file.path().quoted().str()) << document;
+        EXPECT_EQ (store.points ("s 1"), (Point3Array{ { 9, 9, 9 } })) << document;
+        EXPECT_EQ (store.size(), 1U) << document;
+    };
+    for (const auto& document : { good, bad })
+        for (std::size_t length = 0; length < document.size(); ++length)
+            expectRefused (document.substr (0, length));
+    expectRefused (good + "<more/>");
+    expectRefused ("<v>" + snapshot (source ("1")) + "<snapshot name='b' name='b'/></v>");
+    EXPECT_TRUE (store.read (scratch.write ("given.xml", good)));
+    EXPECT_EQ (store.size(), 2U);
+}
+
+TEST_F (SnapshotFile, ThatChangesWhileItIsReadIsReadAsItWasOrRefused)
+{
+    const auto whole = "<v>" + snapshot (source ("1")) + "<snapshot name='b'>" + source ("1") + "</snapshot></v>";
+    const auto file = scratch.file ("given.xml");
+    const auto path = file.path().str();
+    const auto readWhile = [&] (const std::function<void()>& change) {
+        store.removeAll();
+        store.store ("mine", { { 9, 9, 9 } });
+        scratch.write ("given.xml", whole);
+        behindTheFirstBytes = change;
+        const auto complaint = complaintOfReading (file);
+        EXPECT_FALSE (behindTheFirstBytes) << "it was read in the middle of the change";
+        EXPECT_EQ (store.points ("mine"), (Point3Array{ { 9, 9, 9 } }));
+        return complaint;
+    };
+    EXPECT_EQ (readWhile ([&] { std::filesystem::resize_file (path, 0); }), "error parsing file \"" + path + "\"");
+    EXPECT_EQ (store.size(), 1U) << "cut short";
+    EXPECT_EQ (readWhile ([&] { std::ofstream (path, std::ios::app) << "<more/>"; }), "nothing");
+    EXPECT_EQ (store.size(), 3U) << "grown";
+    const auto replace = [&] {
+        std::filesystem::rename (scratch.write ("other.xml", "<v/>").path().str(), path);
+    };
+    EXPECT_EQ (readWhile (replace), "nothing");
+    EXPECT_EQ (store.size(), 3U) << "replaced by another";
 }
 
 TEST_F (SnapshotFile, ReadsSourcesInTheOrderOfTheirIndices)

@@ -6,6 +6,8 @@
 
 #include <chrono>
 #include <cstring>
+#include <utility>
+#include <vector>
 
 // What a frame of each picture costs, and how that compares with the least that anyone could do: the "ratio" column is
 // the frame over its floor, both taken in turn.
@@ -55,6 +57,21 @@ struct Canvas
     juce::Image image;
 };
 
+/** A band's decay as the page first shows it, on a picture of 904 by 144. */
+juce::Path decayOf (float ratio, float control)
+{
+    const lumo::ImpulseResponseScale scale{ 904, 144 };
+    const float x = scale.x (95.37f), width = scale.x (2000 * ratio);
+    juce::Path path;
+    path.startNewSubPath (x, 72);
+    path.quadraticTo (x + control * width, 72 + 72 * 47.0f / 49, x + width, 144);
+    path.lineTo (x, 144);
+    path.closeSubPath();
+    return path;
+}
+
+/** A step of the decay's slider. The floor draws as much with the same renderer, all of it worked out before: the
+    ground, each band once in an opaque colour, the lines of the axis and its texts, and one line a tap. */
 void impulseResponseFrame (benchmark::State& state)
 {
     const auto taps = static_cast<std::uint32_t> (state.range (0));
@@ -66,19 +83,44 @@ void impulseResponseFrame (benchmark::State& state)
     early.setMinMax (22.22f, 39.71f, 0.5f);
     cluster.setMinMax (42.47f, 105.64f, 0.5f);
     const lumo::ImpulseResponseScale scale{ 904, 144 };
-    juce::RectangleList<float> lines;
-    for (const float ms : early.getDelays()) {
-        lines.addWithoutMerging ({ scale.x (ms) - 0.5f, 72, 1, 72 });
-        for (const float offset : cluster.getDelays())
-            lines.addWithoutMerging ({ scale.x (ms + offset) - 0.5f, 72, 1, 72 });
+    std::vector<juce::Rectangle<float>> axis, lines;
+    juce::GlyphArrangement texts;
+    for (int ms = 20; ms < 400; ms += 20) {
+        const float x = scale.x (static_cast<float> (ms));
+        axis.push_back ({ x - 0.5f, 0, 1, 144 });
+        texts.addLineOfText (juce::Font (12), juce::String (ms), x, 12);
     }
-    compare (
-        state, [&] { canvas.draw(); },
-        [&] {
-            juce::Graphics g (canvas.image);
-            g.setColour (juce::Colours::blue.withAlpha (0.5f));
-            g.fillRectList (lines);
-        });
+    for (const float ms : early.getDelays()) {
+        lines.push_back ({ scale.x (ms) - 0.5f, 72, 1, 72 });
+        for (const float offset : cluster.getDelays())
+            lines.push_back ({ scale.x (ms + offset) - 0.5f, 72, 1, 72 });
+    }
+    const std::pair<juce::Path, juce::Colour> bands[] = {
+        { decayOf (1, 0.35f), juce::Colour (0xFFDA5B5B) },
+        { decayOf (0.9f, 0.31f), juce::Colour (0xFFC4AD2D) },
+        { decayOf (0.5f, 0.44f), juce::Colour (0xFF628296) },
+    };
+    float seconds = 2;
+    const auto frame = [&] {
+        display.setTr0 (seconds = seconds > 2 ? 2.0f : 2.1f);
+        canvas.draw();
+    };
+    const auto floor = [&] {
+        juce::Graphics g (canvas.image);
+        g.fillAll (juce::Colour (0xFFB5B5B5));
+        for (const auto& [path, colour] : bands) {
+            g.setColour (colour);
+            g.fillPath (path);
+        }
+        g.setColour (juce::Colours::grey.withAlpha (0.2f));
+        for (const auto& line : axis)
+            g.fillRect (line);
+        texts.draw (g);
+        g.setColour (juce::Colours::blue.withAlpha (0.5f));
+        for (const auto& line : lines)
+            g.fillRect (line);
+    };
+    compare (state, frame, floor);
 }
 
 void responseCurveFrame (benchmark::State& state)

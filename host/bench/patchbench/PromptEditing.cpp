@@ -4,8 +4,8 @@
 #include <cstring>
 #include <editline/readline.h>
 #include <iostream>
-#include <poll.h>
 #include <unistd.h>
+#include <utility>
 
 namespace patchbench
 {
@@ -63,18 +63,12 @@ std::string historyFile()
     return home == nullptr ? std::string() : std::string (home) + "/.patchbench_history";
 }
 
-bool isInputWaiting()
-{
-    pollfd input{ STDIN_FILENO, POLLIN, 0 };
-    return poll (&input, 1, 0) > 0;
-}
 }
 
 bool isInteractive() { return isatty (STDIN_FILENO) != 0; }
 
 void runPrompt (Session& session, const std::function<void (const std::string&)>& runLine)
 {
-    constexpr int pause = 10; // ms between two looks at the keyboard, spent on the GUI and the scheduler
     Prompt prompt{ &session, runLine, {}, false };
     current = &prompt;
     char breaks[] = " \t";
@@ -86,16 +80,18 @@ void runPrompt (Session& session, const std::function<void (const std::string&)>
         read_history (history.c_str());
     rl_callback_handler_install (text, takeLine);
     Session::setLineStart (clearLine);
+    auto shown = Session::linesPrinted();
+    const auto showLine = [&] {
+        std::cout.flush();
+        const auto printed = Session::linesPrinted();
+        if (std::exchange (shown, printed) != printed && ! prompt.ended)
+            rl_forced_update_display();
+    };
     while (! prompt.ended) {
         rl_prep_terminal (1); // libedit forgets it behind each line
-        const auto before = Session::linesPrinted();
-        if (isInputWaiting())
-            rl_callback_read_char();
-        else
-            session.bench.wait (pause);
-        std::cout.flush();
-        if (Session::linesPrinted() != before && ! prompt.ended)
-            rl_forced_update_display();
+        session.bench.waitForInput (STDIN_FILENO, showLine);
+        rl_callback_read_char();
+        showLine();
     }
     Session::setLineStart ("");
     rl_callback_handler_remove();

@@ -1,6 +1,7 @@
 #include "host/bench/window/GuiPump.h"
 
 #include <JucePrivateParts.h>
+#include <juce_events/native/juce_linux_EventLoopInternal.h>
 
 bool pumpGui()
 {
@@ -9,3 +10,5 @@ bool pumpGui()
         worked = true;
     return worked;
 }
+
+std::vector<int> guiDescriptors() { return juce::LinuxEventLoopInternal::getRegisteredFds(); }

@@ -79,6 +79,7 @@ JuceWindowDriver::~JuceWindowDriver()
 void JuceWindowDriver::setSink (Sink sink) { tell = std::move (sink); }
 
 bool JuceWindowDriver::pump() { return pumpGui(); }
+std::vector<int> JuceWindowDriver::descriptors() const { return guiDescriptors(); }
 
 std::string JuceWindowDriver::turnPage (void* object, int page)
 {

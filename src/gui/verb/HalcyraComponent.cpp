@@ -98,6 +98,7 @@ void HalcyraComponent::makePages()
     addAndMakeVisible (pages->tabs);
     sendLookAndFeelChange();       // the children were laid out before they had this one
     addMouseListener (this, true); // the end of every press is the end of a gesture
+    addMouseListener (pages->tooltipWindow, true);
 }
 
 void HalcyraComponent::parentHierarchyChanged()

@@ -2,6 +2,8 @@
 
 #include "reverb/EarlyGains.h"
 
+#include <utility>
+
 namespace lumo
 {
 
@@ -115,8 +117,10 @@ ImpulseResponseScale ImpulseResponseComponent::scale() const noexcept
     return { static_cast<float> (getWidth()), static_cast<float> (getHeight()), zoom };
 }
 
-void ImpulseResponseComponent::bringUpToDate()
+void ImpulseResponseComponent::bringUpToDate (float pixelScale)
 {
+    if (std::exchange (decayPixelScale, pixelScale) != pixelScale)
+        stale |= decay;
     if ((stale & earlyDelays) != 0)
         early.setMinMax (earlyStart, earlyEnd, earlyDistr);
     if ((stale & clusterDelays) != 0)
@@ -124,13 +128,13 @@ void ImpulseResponseComponent::bringUpToDate()
     if ((stale & earlyGains) != 0)
         halcyra::earlyGains (gains, earlyShape, std::abs (earlyEnd - earlyStart), false);
     if ((stale & decay) != 0)
-        buildDecay();
+        buildDecay (pixelScale);
     if ((stale & ticks) != 0)
         buildTicks();
     stale = 0;
 }
 
-void ImpulseResponseComponent::buildDecay()
+void ImpulseResponseComponent::buildDecay (float pixelScale)
 {
     const auto s = scale();
     const juce::Point<float> corner{ s.x (reverbStart), s.top (1) };
@@ -139,9 +143,37 @@ void ImpulseResponseComponent::buildDecay()
     const auto shape = [&] (float ratio, float control) {
         return decayShape (corner, s.x (seconds * ratio * 1000), s.height, control, s.width);
     };
-    low = shape (trl, 67.0f / 193);
-    mid = shape (trm, 42.0f / 134);
-    high = shape (trh, 37.0f / 84);
+    const std::vector<OverlaidFill> bands{
+        { shape (trl, 67.0f / 193), juce::Colour (0x80FF0000) },
+        { shape (trm, 42.0f / 134), juce::Colour (0x80AEFF00) },
+        { shape (trh, 37.0f / 84), juce::Colour (0x800057FF) },
+    };
+    juce::Rectangle<float> extent;
+    for (const auto& band : bands)
+        extent = extent.getUnion (band.path.getBounds());
+    const auto toScreen = juce::AffineTransform::scale (pixelScale);
+    const auto screen = getLocalBounds().toFloat().transformedBy (toScreen).getSmallestIntegerContainer();
+    decayArea = extent.transformedBy (toScreen).getSmallestIntegerContainer().getIntersection (screen);
+    decayImage = {};
+    if (decayArea.isEmpty())
+        return;
+    decayImage =
+        juce::Image (juce::Image::RGB, decayArea.getWidth(), decayArea.getHeight(), false, juce::SoftwareImageType());
+    {
+        juce::Graphics g (decayImage);
+        g.addTransform (toScreen.translated (-decayArea.getPosition().toFloat()));
+        paintGround (g);
+    }
+    const auto frame = static_cast<int> (std::ceil (pixelScale / 2));
+    overlayFills (decayImage, decayArea, screen.reduced (frame), bands, toScreen);
+}
+
+void ImpulseResponseComponent::paintGround (juce::Graphics& g) const
+{
+    g.setColour (backgroundColour);
+    g.fillRect (getLocalBounds());
+    g.setColour (juce::Colours::black);
+    g.drawRect (getLocalBounds().toFloat().expanded (0.5f), 1); // centred on the edge: half of it shows
 }
 
 void ImpulseResponseComponent::buildTicks()
@@ -162,10 +194,8 @@ void ImpulseResponseComponent::paint (juce::Graphics& g)
 {
     if (! isVisible())
         return;
-    bringUpToDate();
-    g.fillAll (backgroundColour);
-    g.setColour (juce::Colours::black);
-    g.drawRect (getLocalBounds().toFloat().expanded (0.5f), 1); // centred on the edge: half of it shows
+    bringUpToDate (g.getInternalContext().getPhysicalPixelScaleFactor());
+    paintGround (g);
     paintDecay (g);
     paintTicks (g);
     paintTaps (g);
@@ -173,12 +203,12 @@ void ImpulseResponseComponent::paint (juce::Graphics& g)
 
 void ImpulseResponseComponent::paintDecay (juce::Graphics& g) const
 {
-    g.setColour (juce::Colour (0x80FF0000));
-    g.fillPath (low);
-    g.setColour (juce::Colour (0x80AEFF00));
-    g.fillPath (mid);
-    g.setColour (juce::Colour (0x800057FF));
-    g.fillPath (high);
+    if (decayImage.isNull())
+        return;
+    g.setOpacity (1);
+    g.drawImageTransformed (
+        decayImage,
+        juce::AffineTransform::translation (decayArea.getPosition().toFloat()).scaled (1 / decayPixelScale));
 }
 
 void ImpulseResponseComponent::paintTicks (juce::Graphics& g) const

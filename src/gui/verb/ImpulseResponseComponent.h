@@ -1,5 +1,6 @@
 #pragma once
 #include "gui/verb/ImpulseResponseScale.h"
+#include "gui/verb/OverlaidFills.h"
 #include "reverb/Delgen.h"
 
 #include <juce_gui_basics/juce_gui_basics.h>
@@ -52,9 +53,11 @@ private:
 
     void store (float& field, float value, unsigned makesStale);
     [[nodiscard]] ImpulseResponseScale scale() const noexcept;
-    void bringUpToDate();
-    void buildDecay();
+    void bringUpToDate (float pixelScale);
+    /** At so many pixels of the screen a pixel. */
+    void buildDecay (float pixelScale);
     void buildTicks();
+    void paintGround (juce::Graphics& g) const;
     void paintDecay (juce::Graphics& g) const;
     void paintTicks (juce::Graphics& g) const;
     void paintTaps (juce::Graphics& g) const;
@@ -67,7 +70,9 @@ private:
 
     Ambrel::Delgen early, cluster;
     qel::Vector<float> gains; // of the early taps
-    juce::Path low, mid, high;
+    juce::Image decayImage;   // of decayArea, in pixels of the screen
+    juce::Rectangle<int> decayArea;
+    float decayPixelScale = 0;
     juce::GlyphArrangement tickTexts;
     unsigned stale = decay | earlyDelays | earlyGains | clusterDelays | ticks;
 

@@ -7,18 +7,18 @@ namespace
 {
 
 /** A connection to the display of the environment, of our own. */
-class Connection
+class DisplayConnection
 {
 public:
-    Connection() : display (XOpenDisplay (nullptr)) {}
-    ~Connection()
+    DisplayConnection() : display (XOpenDisplay (nullptr)) {}
+    ~DisplayConnection()
     {
         if (display != nullptr)
             XCloseDisplay (display);
     }
 
-    Connection (const Connection&) = delete;
-    Connection& operator= (const Connection&) = delete;
+    DisplayConnection (const DisplayConnection&) = delete;
+    DisplayConnection& operator= (const DisplayConnection&) = delete;
 
     [[nodiscard]] bool isOpen() const { return display != nullptr; }
 
@@ -61,14 +61,14 @@ void startJuceInHost()
     XSetErrorHandler (passOverError);
 
     // Atoms live as long as the server has clients: the connection stays open until JUCE has its own.
-    Connection connection;
+    DisplayConnection connection;
     if (connection.isOpen())
         connection.internWindowManagerAtoms();
     juce::Desktop::getInstance();
     juce::XWindowSystem::getInstance();
 }
 
-bool X11Window::isDisplayAvailable() { return Connection().isOpen(); }
+bool X11Window::isDisplayAvailable() { return DisplayConnection().isOpen(); }
 
 void X11Window::setTitle (const juce::String& title)
 {
@@ -81,5 +81,13 @@ void X11Window::setTitle (const juce::String& title)
 
 std::unique_ptr<JuceWindow::Shell> X11Window::makeShell (const juce::String& title)
 {
-    return std::make_unique<Shell> (*this, title);
+    struct RestingShell : Shell
+    {
+        using Shell::Shell;
+        juce::ComponentPeer* createNewPeer (int styleFlags, void*) override
+        {
+            return juce::createRestingPeer (*this, styleFlags);
+        }
+    };
+    return std::make_unique<RestingShell> (*this, title);
 }

@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
+#include <JucePrivateParts.h>
 #include <limits>
 
 namespace
@@ -260,6 +262,33 @@ TEST (HalcyraComponent, SharesOneTooltipWindowWithOthers)
     EXPECT_EQ (colour(), juce::Colour (0xFF808080));
     second.reset();
     EXPECT_EQ (tooltips(), 0);
+}
+
+/** The first component below another for which the test holds, or null. */
+juce::Component* below (juce::Component& root, const std::function<bool (juce::Component&)>& test)
+{
+    for (auto* child : root.getChildren()) {
+        if (test (*child))
+            return child;
+        if (auto* found = below (*child, test))
+            return found;
+    }
+    return nullptr;
+}
+
+TEST (HalcyraComponent, PollsThePointerForTipsOnlyWhileItIsOverATip)
+{
+    const juce::SharedResourcePointer<widgets::TooltipWindow> tooltip;
+    const auto& timer = juce::timerOf (*tooltip);
+    HalcyraComponent component (0, 0, 1);
+    Stage stage (component);
+    const auto* const toggle = below (component, [] (auto& child) { return child.getName() == "infinite"; });
+    ASSERT_NE (toggle, nullptr);
+    EXPECT_FALSE (timer.isTimerRunning());
+    stage.move (stage.at (*toggle));
+    EXPECT_TRUE (timer.isTimerRunning());
+    stage.move ({ 5, 435 });
+    EXPECT_FALSE (timer.isTimerRunning());
 }
 
 }

@@ -96,6 +96,51 @@ TEST_F (ImpulseResponse, TheWheelZoomsAboutTheLeftEdge)
     EXPECT_TRUE (isGreenish (at (42.5f, 140)));
 }
 
+/** The largest difference of two images in any channel. */
+int levelsApart (const juce::Image& a, const juce::Image& b)
+{
+    int most = 0;
+    for (int y = 0; y < a.getHeight(); ++y)
+        for (int x = 0; x < a.getWidth(); ++x) {
+            const auto p = a.getPixelAt (x, y), q = b.getPixelAt (x, y);
+            most = std::max ({ most, std::abs (p.getRed() - q.getRed()), std::abs (p.getGreen() - q.getGreen()),
+                               std::abs (p.getBlue() - q.getBlue()) });
+        }
+    return most;
+}
+
+TEST (OverlaidFills, AreThePixelsOfFillsOneOverAnother)
+{
+    juce::Random random (7);
+    for (int turn = 0; turn < 60; ++turn) {
+        const float scale = turn % 3 == 0 ? 1.0f : turn % 3 == 1 ? 2.0f : 1.25f;
+        const auto transform = juce::AffineTransform::scale (scale);
+        std::vector<lumo::OverlaidFill> fills;
+        for (const auto colour : { 0x80FF0000, 0x80AEFF00, 0x800057FF }) {
+            juce::Path path;
+            path.startNewSubPath (random.nextFloat() * 200 - 20, random.nextFloat() * 60);
+            for (int i = 0; i < 5; ++i)
+                path.lineTo (random.nextFloat() * 200 - 20, random.nextFloat() * 60);
+            path.closeSubPath();
+            fills.push_back ({ path, juce::Colour (static_cast<juce::uint32> (colour)) });
+        }
+        const juce::Rectangle<int> area (random.nextInt (20), random.nextInt (20), 150, 40);
+        juce::Image wanted (juce::Image::RGB, 150, 40, true, juce::SoftwareImageType());
+        juce::Graphics g (wanted);
+        g.fillAll (juce::Colour (0xFFB5B5B5));
+        g.setColour (juce::Colours::black);
+        g.fillRect (149, 0, 1, 40);
+        g.fillRect (0, 39, 150, 1);
+        auto image = wanted.createCopy();
+        for (const auto& fill : fills) {
+            g.setColour (fill.colour);
+            g.fillPath (fill.path, transform.translated (-area.getPosition().toFloat()));
+        }
+        lumo::overlayFills (image, area, area.withTrimmedRight (1).withTrimmedBottom (1), fills, transform);
+        EXPECT_LE (levelsApart (image, wanted), 2) << turn;
+    }
+}
+
 TEST_F (ImpulseResponse, AnEqualValueKeepsThePicture)
 {
     const auto before = stage.picture().createCopy();

@@ -30,31 +30,90 @@ juce::Image NewImage (juce::Image::PixelFormat format, juce::int64 width, juce::
 
 // ---- PNG
 
-juce::Image DecodePng (png_image& header)
+struct PngReader
 {
-    if (! IsReasonable (header.width, header.height))
-        return {};
-    header.format = PNG_FORMAT_RGBA;
-    juce::HeapBlock<png_byte> rows (static_cast<std::size_t> (header.width) * header.height * 4);
-    if (png_image_finish_read (&header, nullptr, rows, 0, nullptr) == 0)
-        return {};
-    auto image = NewImage (juce::Image::ARGB, header.width, header.height);
-    const juce::Image::BitmapData pixels (image, juce::Image::BitmapData::writeOnly);
-    const auto* from = rows.get();
+    png_structp png;
+    png_infop info;
+    const juce::MemoryBlock* bytes;
+    std::size_t position;
+    const juce::Image::BitmapData* pixels;
+};
+
+void TakeBytes (png_structp png, png_bytep target, std::size_t count)
+{
+    auto& reader = *static_cast<PngReader*> (png_get_io_ptr (png));
+    if (count > reader.bytes->getSize() - reader.position)
+        png_error (png, "cut short");
+    reader.bytes->copyTo (target, static_cast<int> (reader.position), count);
+    reader.position += count;
+}
+
+void FailPng (png_structp png, png_const_charp) { png_longjmp (png, 1); }
+void PassOver (png_structp, png_const_charp) {}
+
+void BeginPng (PngReader& reader)
+{
+    png_set_read_fn (reader.png, &reader, TakeBytes);
+    png_read_info (reader.png, reader.info);
+}
+
+/** Whatever the file holds, rows come as 8 bits of blue, green, red and alpha, as JUCE keeps them but for the alpha in
+    the colours. The values stand for sRGB unless the file names another gamma. The library's simplified interface
+    would be shorter, but its 16-bit interlaced pictures come out wrong. */
+void DecodePng (PngReader& reader)
+{
+    auto* const png = reader.png;
+    png_set_alpha_mode (png, PNG_ALPHA_PNG, PNG_DEFAULT_sRGB);
+    png_set_expand (png);
+    png_set_scale_16 (png);
+    png_set_gray_to_rgb (png);
+    png_set_add_alpha (png, 0xFF, PNG_FILLER_AFTER);
+    png_set_bgr (png);
+    const int passes = png_set_interlace_handling (png);
+    png_read_update_info (png, reader.info);
+    for (int pass = 0; pass < passes; ++pass)
+        for (int y = 0; y < reader.pixels->height; ++y)
+            png_read_row (png, reader.pixels->getLinePointer (y), nullptr);
+    png_read_end (png, nullptr);
+}
+
+/** The library leaves a step with an error by a long jump, so that no object may be born in one. */
+bool Succeeds (void (*step) (PngReader&), PngReader& reader)
+{
+    if (setjmp (png_jmpbuf (reader.png)) != 0) // NOLINT(cert-err52-cpp): the library's way
+        return false;
+    step (reader);
+    return true;
+}
+
+void Premultiply (const juce::Image::BitmapData& pixels)
+{
     for (int y = 0; y < pixels.height; ++y)
-        for (int x = 0; x < pixels.width; ++x, from += 4)
-            pixels.setPixelColour (x, y, juce::Colour (from[0], from[1], from[2], from[3]));
-    return image;
+        for (int x = 0; x < pixels.width; ++x)
+            reinterpret_cast<juce::PixelARGB*> (pixels.getPixelPointer (x, y))->premultiply();
 }
 
 juce::Image ReadPng (const juce::MemoryBlock& bytes)
 {
-    png_image header{};
-    header.version = PNG_IMAGE_VERSION;
+    PngReader reader{};
+    reader.bytes = &bytes;
+    reader.png = png_create_read_struct (PNG_LIBPNG_VER_STRING, nullptr, FailPng, PassOver);
+    reader.info = reader.png == nullptr ? nullptr : png_create_info_struct (reader.png);
     juce::Image image;
-    if (png_image_begin_read_from_memory (&header, bytes.getData(), bytes.getSize()) != 0)
-        image = DecodePng (header);
-    png_image_free (&header);
+    if (reader.info != nullptr && Succeeds (BeginPng, reader)) {
+        const auto width = png_get_image_width (reader.png, reader.info);
+        const auto height = png_get_image_height (reader.png, reader.info);
+        if (IsReasonable (width, height)) {
+            image = NewImage (juce::Image::ARGB, width, height);
+            const juce::Image::BitmapData pixels (image, juce::Image::BitmapData::readWrite);
+            reader.pixels = &pixels;
+            if (Succeeds (DecodePng, reader))
+                Premultiply (pixels);
+            else
+                image = {};
+        }
+    }
+    png_destroy_read_struct (&reader.png, &reader.info, nullptr);
     return image;
 }
 
@@ -62,7 +121,7 @@ juce::Image ReadPng (const juce::MemoryBlock& bytes)
 
 struct JpegReader
 {
-    jpeg_decompress_struct info; // first, so that the library's pointer to it leads here
+    jpeg_decompress_struct info; // whose client_data leads here
     jpeg_error_mgr errors;
     std::jmp_buf failed;
     bool cutShort;
@@ -88,23 +147,35 @@ void BeginJpeg (JpegReader& reader)
     jpeg_read_header (&reader.info, TRUE);
 }
 
+/** Of four inks without a profile. Programs that leave Adobe's mark write how much paper shows instead. */
+juce::Colour ColourOfInks (const JSAMPLE* inks, bool areInverted)
+{
+    const auto paper = [=] (int i) { return areInverted ? int{ inks[i] } : 255 - inks[i]; };
+    const auto light = [=] (int i) { return static_cast<juce::uint8> ((paper (i) * paper (3) + 127) / 255); };
+    return { light (0), light (1), light (2) };
+}
+
 void DecodeJpeg (JpegReader& reader)
 {
-    reader.info.out_color_space = JCS_RGB;
+    const bool hasInks = reader.info.jpeg_color_space == JCS_CMYK || reader.info.jpeg_color_space == JCS_YCCK;
+    const auto isInverted = reader.info.saw_Adobe_marker != 0;
+    const int channels = hasInks ? 4 : 3;
+    reader.info.out_color_space = hasInks ? JCS_CMYK : JCS_RGB;
     jpeg_start_decompress (&reader.info);
     auto* row = (*reader.info.mem->alloc_sarray) (reinterpret_cast<j_common_ptr> (&reader.info), JPOOL_IMAGE,
-                                                  reader.info.output_width * 3, 1);
+                                                  reader.info.output_width * static_cast<unsigned> (channels), 1);
     while (reader.info.output_scanline < reader.info.output_height) {
         const auto y = static_cast<int> (reader.info.output_scanline);
         jpeg_read_scanlines (&reader.info, row, 1);
         const auto* from = *row;
-        for (int x = 0; x < reader.pixels->width; ++x, from += 3)
-            reader.pixels->setPixelColour (x, y, juce::Colour (from[0], from[1], from[2]));
+        for (int x = 0; x < reader.pixels->width; ++x, from += channels)
+            reader.pixels->setPixelColour (
+                x, y, hasInks ? ColourOfInks (from, isInverted) : juce::Colour (from[0], from[1], from[2]));
     }
     jpeg_finish_decompress (&reader.info);
 }
 
-/** The library leaves a step with an error by a long jump, so that no object may be born in one. */
+/** As above. */
 bool Succeeds (void (*step) (JpegReader&), JpegReader& reader)
 {
     if (setjmp (reader.failed) != 0) // NOLINT(cert-err52-cpp): the library's way

@@ -1,0 +1,111 @@
+#include "gui/verb/OverlaidFills.h"
+
+#include <algorithm>
+
+namespace lumo
+{
+
+namespace
+{
+
+/** Pixels of one row that a path covers alike: from x to end, at a level up to 255. */
+struct Run
+{
+    int x, end, level;
+};
+
+/** The runs of a path, row by row from the top, as the edge table hands them over. */
+class Coverage
+{
+public:
+    Coverage (const juce::Path& path, juce::Rectangle<int> area, const juce::AffineTransform& transform)
+        : top (area.getY()), rows (static_cast<std::size_t> (area.getHeight()))
+    {
+        const juce::EdgeTable edges (area, path, transform);
+        edges.iterate (*this);
+    }
+
+    [[nodiscard]] const std::vector<Run>& row (int y) const { return rows[static_cast<std::size_t> (y - top)]; }
+
+    // What the edge table calls.
+    void setEdgeTableYPos (int y) { current = &rows[static_cast<std::size_t> (y - top)]; }
+    void handleEdgeTablePixel (int x, int level) { current->push_back ({ x, x + 1, level }); }
+    void handleEdgeTablePixelFull (int x) { current->push_back ({ x, x + 1, 255 }); }
+    void handleEdgeTableLine (int x, int width, int level) { current->push_back ({ x, x + width, level }); }
+    void handleEdgeTableLineFull (int x, int width) { current->push_back ({ x, x + width, 255 }); }
+
+private:
+    int top;
+    std::vector<std::vector<Run>> rows;
+    std::vector<Run>* current = nullptr;
+};
+
+struct Layer
+{
+    Coverage coverage;
+    juce::PixelARGB colour;
+    const Run *next = nullptr, *end = nullptr; // of the row that is being written
+};
+
+/** A row of the image, its columns named as those of the picture. */
+struct Row
+{
+    juce::PixelRGB* pixels;
+    int left, right;    // of the image
+    int evenX, evenEnd; // the ground is of one colour between them
+
+    [[nodiscard]] juce::PixelRGB& at (int x) const { return pixels[x - left]; }
+    /** How far the ground goes on unchanged. */
+    [[nodiscard]] int evenFrom (int x) const { return x >= evenX && x < evenEnd ? evenEnd : x + 1; }
+};
+
+/** Fills one row from run to run of all layers. */
+void writeRow (std::vector<Layer>& layers, const Row& row, int y)
+{
+    for (auto& layer : layers) {
+        const auto& runs = layer.coverage.row (y);
+        layer.next = runs.data();
+        layer.end = runs.data() + runs.size();
+    }
+    for (int x = row.left; x < row.right;) {
+        auto pixel = row.at (x);
+        int end = std::min (row.right, row.evenFrom (x));
+        for (auto& layer : layers) {
+            while (layer.next != layer.end && layer.next->end <= x)
+                ++layer.next;
+            if (layer.next == layer.end)
+                continue;
+            const auto& run = *layer.next;
+            end = std::min (end, run.x > x ? run.x : run.end);
+            if (run.x <= x && run.level >= 255)
+                pixel.blend (layer.colour);
+            else if (run.x <= x)
+                pixel.blend (layer.colour, static_cast<juce::uint32> (run.level));
+        }
+        std::fill (&row.at (x), &row.at (x) + (end - x), pixel);
+        x = end;
+    }
+}
+
+}
+
+void overlayFills (juce::Image& image, juce::Rectangle<int> area, juce::Rectangle<int> evenGround,
+                   const std::vector<OverlaidFill>& fills, const juce::AffineTransform& transform)
+{
+    std::vector<Layer> layers;
+    layers.reserve (fills.size());
+    for (const auto& fill : fills)
+        layers.push_back ({ Coverage (fill.path, area, transform), fill.colour.getPixelARGB() });
+
+    const juce::Image::BitmapData pixels (image, juce::Image::BitmapData::readWrite);
+    jassert (pixels.pixelStride == static_cast<int> (sizeof (juce::PixelRGB)));
+    for (int y = area.getY(); y < area.getBottom(); ++y) {
+        const bool isEven = y >= evenGround.getY() && y < evenGround.getBottom();
+        writeRow (layers,
+                  { reinterpret_cast<juce::PixelRGB*> (pixels.getLinePointer (y - area.getY())), area.getX(),
+                    area.getRight(), evenGround.getX(), isEven ? evenGround.getRight() : evenGround.getX() },
+                  y);
+    }
+}
+
+}

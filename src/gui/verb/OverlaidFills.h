@@ -1,0 +1,22 @@
+#pragma once
+#include <juce_graphics/juce_graphics.h>
+
+#include <vector>
+
+namespace lumo
+{
+
+/** A path and the translucent colour that fills it. */
+struct OverlaidFill
+{
+    juce::Path path;
+    juce::Colour colour;
+};
+
+/** Fills paths one over the other in an RGB image in memory, with the pixels that JUCE's renderer would give, but each
+    pixel is written once, in its blended colour. The image shows an area of the picture that the transform makes of
+    the paths; within evenGround it holds one colour. */
+void overlayFills (juce::Image& image, juce::Rectangle<int> area, juce::Rectangle<int> evenGround,
+                   const std::vector<OverlaidFill>& fills, const juce::AffineTransform& transform);
+
+}
