@@ -203,6 +203,7 @@ void Bench::settle()
 }
 
 void Bench::hold() { patch->held = true; }
+bool Bench::isHeld() const { return patch->held; }
 
 void Bench::release()
 {

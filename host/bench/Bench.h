@@ -73,6 +73,7 @@ public:
     void settle();
     void hold();
     void release();
+    [[nodiscard]] bool isHeld() const;
 
     /** Lets time pass, pumping. The scheduler's clock moves by this alone. */
     void wait (int milliseconds);

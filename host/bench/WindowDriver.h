@@ -48,6 +48,9 @@ public:
         painted when its picture is written. True if there was anything to deliver. */
     virtual bool pump() = 0;
 
+    /** False for windows in memory, which nobody can close by hand. */
+    [[nodiscard]] virtual bool isOnDisplay() const = 0;
+
     virtual std::string turnPage (void* object, int page) = 0;
     virtual std::string pointer (void* object, const PointerEvent& event) = 0;
     virtual std::string key (void* object, const std::string& description) = 0;
