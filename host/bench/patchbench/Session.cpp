@@ -8,7 +8,7 @@
 namespace patchbench
 {
 
-Session::Session (const Settings& s) : bench (s.deferMedium), settings (s)
+Session::Session (const Settings& s) : settings (s), bench (s.deferMedium)
 {
     bench.setListener ([this] (const bench::Event& event) {
         if (event.kind == bench::Event::Kind::window)

@@ -70,14 +70,18 @@ public:
     /** Where lines go instead of standard output; null for standard output. Called on the thread that prints. */
     static void setPrinter (std::function<void (const std::string& line)> printer);
 
+private:
+    // Outlive the bench, whose last events come while it goes.
+    const Settings settings;
+    std::set<std::string> openWindows; // names of the boxes whose window is shown; main thread
+
+public:
     bench::Thread thread = bench::Thread::main; // where sends come from
     bench::Bench bench;
 
 private:
     void followWindow (const bench::Event& event);
 
-    Settings settings;
-    std::set<std::string> openWindows; // names of the boxes whose window is shown; main thread
     bool over = false;
 };
 
