@@ -53,8 +53,15 @@ def attributes():
     return [Attribute(*line.split(" | ")) for line in lines if line.count(" | ") == 2 and not line.startswith("#")]
 
 
+def tidy(value):
+    """Numbers without the digits that single precision adds, and without a bare point."""
+    return " ".join(f"{float(word):.6g}" if re.fullmatch(r"-?\d*\.\d*(e-?\d+)?", word) else word for word in value.split())
+
+
 def short_default(value):
-    """A list of one value over and over, for the 250 objects that there can be, as that value."""
+    """A default for people: tidy numbers, and a list of one value over and over, for the 250 objects that there can be,
+    as that value."""
+    value = tidy(value)
     words = value.split()
     return f"{words[0]} for each" if len(words) > 20 and len(set(words)) == 1 else value
 
