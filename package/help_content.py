@@ -472,7 +472,7 @@ FIRST_STEPS = {
                 ("send", "reset", "back to the defaults"),
             ]),
             ("A second object hears the first", [
-                ("object", "second", "halcyra~.control @numsources 2 @numspeakers 2 @windowtitle Second", ""),
+                ("object", "second", "halcyra~.control @numsources 2 @numspeakers 2 @windowtitle Second @windowtopleft 90 90", ""),
                 ("to", "second", "open", "its window follows the first"),
             ]),
         ],
@@ -639,12 +639,12 @@ SILENT = {
 
 SURFACES = {
     "title": "Two surfaces for one reverberator",
-    "digest": "Positions always come out again, so two objects in a ring would never rest. Only one of two gates is open: the surface that leads feeds the other one, and both feed halcyra~.",
+    "digest": "Positions always come out again, so two objects in a ring would never rest. Only one of two gates is open: what the leading surface says goes to the other one, and to halcyra~, which belongs below both gates.",
     "columns": [
         [
             ("Which one leads", [
                 ("object", "first", "halcyra~.control @numsources 2 @numspeakers 2 @windowtitle First", ""),
-                ("object", "second", "halcyra~.control @numsources 2 @numspeakers 2 @windowtitle Second", ""),
+                ("object", "second", "halcyra~.control @numsources 2 @numspeakers 2 @windowtitle Second @windowtopleft 90 90", ""),
                 ("object", "to-second", "gate 1 1", "open: the first leads"),
                 ("object", "to-first", "gate 1 0", "open: the second leads"),
                 ("to", "to-first", "0", "1: close the way back"),

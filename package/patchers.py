@@ -133,7 +133,7 @@ class Page:
             limits = dict(zip(("minimum", "maximum"), map(float, text.split()[1:]))) if kind in ("flonum", "number") else {}
             pictures = {"pic": text.split()[1], "autofit": 1} if kind == "fpic" else {}
             return self.box(kind, x, y, width, height, **limits, **pictures, **own)
-        if kind == OBJECT:
+        if kind == OBJECT and "@windowtopleft" not in text:
             text += WINDOW_PLACE
         return self.box("newobj", x, y, text_width(text), 22, text=text, **own)
 

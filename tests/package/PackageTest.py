@@ -190,7 +190,7 @@ class Patchers(unittest.TestCase):
         for name, page in pages():
             for box in boxes_of(page).values():
                 if is_object(box):
-                    self.assertIn("@windowtopleft 60 60", box["text"], name)
+                    self.assertRegex(box["text"], r"@windowtopleft (60 60|90 90)$", name)
 
     def test_links_lead_to_files_of_the_package(self):
         names = {p.name for p in PATCHERS}
