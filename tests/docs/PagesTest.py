@@ -13,6 +13,11 @@ from pathlib import Path
 
 import markdown
 
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(sys.argv[1]).resolve() / "package"))
+
+import rows
+
 ROOT, BENCH = Path(sys.argv[1]).resolve(), str(Path(sys.argv[2]).resolve())
 PAGES = sorted([*ROOT.glob("*.md"), *(ROOT / "docs").glob("*.md")])
 
@@ -87,6 +92,12 @@ class Help(unittest.TestCase):
             status, _, complaints = played([*before, example])
             with self.subTest(verb, example=example):
                 self.assertEqual((shlex.split(example)[0], status, complaints), (verb, 0, ""))
+
+    def test_every_message_is_explained_as_the_table_has_it(self):
+        for message in rows.messages():
+            _, explained, _ = played([f"help {message.name}"])
+            for form in message.forms:
+                self.assertIn(f"# send NAME {form.form}\n#     {form.meaning}\n# example: send verb {form.example}\n", explained)
 
     def test_an_unknown_topic_is_told(self):
         self.assertEqual(played(["help nonsense"])[0], 1)

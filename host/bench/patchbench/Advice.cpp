@@ -51,7 +51,11 @@ std::string adviceFor (Session& session, const std::vector<bench::Word>& words)
     const auto names = session.bench.names();
     for (const auto& name : names)
         if (understands (*session.bench.find (name), word))
-            return "; a message needs its receiver: send " + name + " " + word + (words.size() > 1 ? " ..." : "");
+            return std::string ("; a message needs its receiver: send ")
+                .append (name)
+                .append (" ")
+                .append (word)
+                .append (words.size() > 1 ? " ..." : "");
     if (session.bench.find (word) != nullptr)
         return "; \"" + word + "\" is a box: send " + word + " MESSAGE";
 

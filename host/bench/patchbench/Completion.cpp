@@ -149,7 +149,7 @@ std::vector<std::string> wordsOfNew (Session& session, const std::vector<bench::
     const auto& before = words[index - 1].text;
     if (before.size() > 1 && before.front() == '@') {
         session.load (words[className].text);
-        const auto found = bench::choicesOf (words[className].text, before.substr (1));
+        auto found = bench::choicesOf (words[className].text, before.substr (1));
         if (! found.empty())
             return found;
     }

@@ -120,7 +120,7 @@ std::string escaped (const std::string& word)
 
 std::string inColumns (const std::vector<std::string>& words, std::size_t width)
 {
-    std::size_t widest = 0;
+    std::size_t widest = 1;
     for (const auto& word : words)
         widest = std::max (widest, word.size() + 2);
     const auto columns = std::max<std::size_t> (1, width / widest);

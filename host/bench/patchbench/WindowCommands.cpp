@@ -45,12 +45,22 @@ constexpr ModifierRow modifiers[] = {
     { "right", &PointerEvent::right },
 };
 
+/** The words of a table, for a complaint about one that is not among them. */
+template <typename Row, std::size_t size>
+std::string wordsIn (const Row (&table)[size])
+{
+    std::string words;
+    for (const auto& row : table)
+        words += (words.empty() ? "" : ", ") + std::string (row.word);
+    return words;
+}
+
 PointerEvent::Action actionNamed (const std::string& word)
 {
     for (const auto& row : actions)
         if (word == row.word)
             return row.action;
-    throw CommandError ("unknown action \"" + word + "\"");
+    throw CommandError ("unknown action \"" + word + "\"; there are " + wordsIn (actions));
 }
 
 void addModifier (PointerEvent& event, const std::string& word)
@@ -60,7 +70,7 @@ void addModifier (PointerEvent& event, const std::string& word)
             event.*row.flag = true;
             return;
         }
-    throw CommandError ("unknown modifier \"" + word + "\"");
+    throw CommandError ("unknown modifier \"" + word + "\"; there are " + wordsIn (modifiers));
 }
 
 float coordinate (const bench::Word& word, const char* what)
