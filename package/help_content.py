@@ -1,7 +1,7 @@
 """What the package's patchers say: one table of rows for each page. patchers.py lays them out.
 
-A page: tab (help only), title, digest, columns of sections (heading, rows), the object's text, and what its outlets
-are connected to (hear: words routed to a print each; answers: a chain below the right outlet).
+A page: tab (help only), title, digest, columns of sections (heading, rows), and the object's text. What its outlets say
+appears in message boxes; answers: a chain below the right outlet instead.
 
 Rows:
     ("say", text)                        a comment
@@ -30,7 +30,7 @@ BASIC = {
             ]),
             ("Settings", [
                 ("attr", "gain", "level of the late reverberation, dB"),
-                ("from", ["flonum 0.1 30"], "tr0 $1", "decay time in seconds: an exact value by message"),
+                ("from", ["flonum 0.1 30"], "tr0 $1", "decay time in seconds"),
                 ("send", "reverb tr0 1.5", "the same in the words of the reverberator"),
                 ("send", "getgain", "asks for a value: it answers on the right outlet. Every attribute has its get"),
                 ("send", "bang", "sends all positions, filters and reverb settings again, for instance to a reverberator that was just loaded"),
@@ -46,7 +46,7 @@ BASIC = {
                 ("say", "Right: answers to get messages, to dump and to dumpdict."),
             ]),
             ("Good to know", [
-                ("say", "The mouse moves a slider in steps; a message sets the exact value. What is out of range is clipped, what makes no sense is refused in the Max window and changes nothing."),
+                ("say", "Sliders and messages move in the same steps; filters take the exact value. What is out of range is clipped. A word where a number belongs counts as 0; any other nonsense is refused in the Max window and changes nothing."),
                 ("send", "version", "posts the version in the Max window"),
                 ("attr", "useopengl", "draws the window with OpenGL"),
                 ("attr", "showfps", "shows how fast it draws"),
@@ -60,7 +60,6 @@ TIME = {
     "title": "Time structure",
     "digest": "Early reflections, then a cluster of denser ones, then the late reverberation: three stages on one time axis, in milliseconds. A time that is set stops at its neighbours: a start at the start of the stage before and at its own end, an end at its own start and at the end of the other stage.",
     "object": MIN_SIZES,
-    "hear": ["reverb", "early", "cluster"],
     "columns": [
         [
             ("Room size", [
@@ -108,7 +107,6 @@ FILTERS = {
     "title": "Filters",
     "digest": "Four filters of three bands: direct sound, room, early reflections, cluster. Each has an overall gain, a low, a middle and a high gain in dB, and two crossover frequencies in Hz.",
     "object": MIN_SIZES,
-    "hear": ["direct", "room", "early", "cluster"],
     "columns": [
         [
             ("All six values", [
@@ -139,9 +137,8 @@ FILTERS = {
 SCENE = {
     "tab": "scene",
     "title": "Scene",
-    "digest": "Sources, speakers and a listener, in metres or in degrees and metres: x to the right, y to the front, z up; azimuth 0 is in front and grows clockwise. Indices begin at 1.",
+    "digest": "Sources, in metres or in degrees and metres: x to the right, y to the front, z up; azimuth 0 is in front and grows clockwise. Indices start at 1.",
     "object": "halcyra~.control @numsources 2 @numspeakers 4 @numareas 1 @numanchors 1",
-    "hear": ["source", "speakers"],
     "columns": [
         [
             ("Sources", [
@@ -154,11 +151,29 @@ SCENE = {
                 ("send", "source 2 color 0.2 0.6 1 1", "red, green, blue, alpha from 0 to 1"),
                 ("attr", "format", "how positions leave"),
             ]),
+        ],
+        [
+            ("From a fast process", [
+                ("attr", "defer", "1: scene messages wait for the main thread. Use it when they come from a metro in overdrive"),
+            ]),
             ("Everything", [
                 ("send", "rotate 0 15 0 0", "the whole scene (1, 2, ... for one source): yaw, pitch, roll in degrees"),
                 ("send", "adjustzoom", "fits all into the view"),
             ]),
+            ("Try it", [
+                ("say", "Open the window, turn to its third page and drag a source: what leaves is shown above."),
+                ("send", "open", ""),
+            ]),
         ],
+    ],
+}
+
+SPEAKERS = {
+    "tab": "speakers",
+    "title": "Speakers, listener, areas, anchors",
+    "digest": "What stands around the sources. Positions are written as those of sources.",
+    "object": "halcyra~.control @numsources 2 @numspeakers 4 @numareas 1 @numanchors 1",
+    "columns": [
         [
             ("Speakers", [
                 ("send", "speakers ad -45 1 45 1 135 1 -135 1", "all at once; loudspeakers is the same"),
@@ -167,6 +182,8 @@ SCENE = {
                 ("send", "loudspeakers xy -1 1 1 1 1 -1 -1 -1", ""),
                 ("send", "loudspeaker 2 name right", "also color, visible"),
             ]),
+        ],
+        [
             ("Listener, areas, anchors", [
                 ("send", "listener xyz 0 0 0", ""),
                 ("send", "listener yaw 20", "also pitch, roll; rpy takes roll, pitch, yaw"),
@@ -177,9 +194,6 @@ SCENE = {
                 ("attr", "numanchors", "how many anchors there are"),
                 ("attr", "showanchors", ""),
                 ("send", "anchor 1 xyz 0 2 0", "a fixed mark"),
-            ]),
-            ("From a fast process", [
-                ("attr", "defer", "1: scene messages wait for the main thread. Use it when they come from a metro in overdrive"),
             ]),
         ],
     ],
@@ -263,6 +277,8 @@ DETAILS = {
                 ("attr", "speakerslevels", "dB, from a meter of your own"),
                 ("attr", "speakersproportion", "how large they are drawn"),
             ]),
+        ],
+        [
             ("Listener", [
                 ("attr", "listenerposition", "x y z"),
                 ("attr", "listeneryaw", "degrees"),
@@ -270,8 +286,6 @@ DETAILS = {
                 ("attr", "listenerroll", "degrees"),
                 ("attr", "listenerproportion", "how large it is drawn"),
             ]),
-        ],
-        [
             ("Background", [
                 ("attr", "showbackgroundimage", ""),
                 ("attr", "backgroundimagexoffset", "pixels"),
@@ -282,12 +296,26 @@ DETAILS = {
                 ("attr", "gridcolor", ""),
                 ("attr", "dashedgrid", ""),
             ]),
+        ],
+    ],
+}
+
+MARKS = {
+    "tab": "room",
+    "title": "Room, marks and the place of the view",
+    "digest": "Walls, anchors and areas in the scene tab, and where its picture stands.",
+    "object": "halcyra~.control @numsources 2 @numspeakers 4",
+    "remark": "open the window and turn to its third tab",
+    "columns": [
+        [
             ("Room and marks", [
                 ("attr", "showshoebox", "a box of six walls"),
                 ("attr", "shoeboxcorners", "two opposite corners: x y z, x y z"),
                 ("attr", "showanchorslabel", ""),
                 ("attr", "areasmonitoring", "keeps watch on which areas hold what; nothing of it leaves this object"),
             ]),
+        ],
+        [
             ("Place of the view", [
                 ("attr", "xoffset", "pixels"),
                 ("attr", "yoffset", "pixels"),
@@ -330,7 +358,8 @@ KEYS = {
                 ("say", "c: moves only around the centre, or freely"),
                 ("say", "+ and -: zoom;  = goes back to 1"),
                 ("say", "arrows: shift the view"),
-                ("say", "ctrl + w: closes the window, in the first two tabs"),
+                ("say", "ctrl + w: closes the window"),
+                ("say", "ctrl + z: undoes the last gesture of the hand, on every page; ctrl + shift + z or ctrl + y does it again"),
             ]),
             ("Start", [
                 ("send", "open", ""),
@@ -345,7 +374,6 @@ SNAPSHOTS = {
     "title": "Snapshots",
     "digest": "A snapshot keeps the positions of all sources under a name. Snapshots live in the object: neither pattr nor preset nor the patcher saves them, so write them to a file.",
     "object": MIN_SIZES,
-    "hear": ["source"],
     "columns": [
         [
             ("Keep", [
@@ -378,7 +406,7 @@ STATE = {
     "columns": [
         [
             ("pattr and preset", [
-                ("say", "Saved: all attributes, that is every reverb setting, the filters, the positions, the view and the window. Not saved: snapshots, the corners of areas, the places of anchors, names and colours of speakers, what is shown or hidden one by one, the room size slider, the selection."),
+                ("say", "Saved: all attributes, that is every reverb setting, the filters, the positions, the view and the window. Not saved: snapshots, the corners of areas, the places of anchors, names and colours of speakers, what is shown or hidden one by one, the room size slider, the selection. Positions, names, colours and levels behind an @ in the box are overwritten when it is made: set them by pattr, a preset or a message."),
                 ("say", "A state fits only an object with the same sizes (numsources, numspeakers, numinternals); another one is refused as a whole, with a message."),
                 ("to", "states", "store 1", ""),
                 ("to", "states", "recall 1", ""),
@@ -394,12 +422,11 @@ STATE = {
                 ("to", "settings", "set gain -6., set tr0 3.2", "puts something into the dict below"),
                 ("object", "settings", "dict verb-settings", ""),
                 ("send", "dictionary verb-settings", "sets what that dict holds"),
-                ("send", "dump gain", "one attribute with its name; without a name, all in one list"),
+                ("send", "dump gain", "a list; without a name, all in one list"),
             ]),
-            ("Files and defaults", [
+            ("Files", [
                 ("send", "exportdict", "all attributes into a JSON file; asks where. A file name may follow"),
                 ("send", "postattributes gain", "posts it in the Max window; without a name, all"),
-                ("send", "reset", "the time structure and the filters return to their defaults"),
             ]),
         ],
     ],
@@ -428,7 +455,7 @@ NOTES = {
     ],
 }
 
-HELP = [BASIC, TIME, FILTERS, SCENE, VIEW, DETAILS, KEYS, SNAPSHOTS, STATE, NOTES]
+HELP = [BASIC, TIME, FILTERS, SCENE, SPEAKERS, VIEW, DETAILS, MARKS, KEYS, SNAPSHOTS, STATE, NOTES]
 
 FIRST_STEPS = {
     "title": "First steps",
@@ -445,7 +472,7 @@ FIRST_STEPS = {
                 ("send", "reset", "back to the defaults"),
             ]),
             ("A second object hears the first", [
-                ("object", "second", "halcyra~.control @numsources 2 @numspeakers 2 @windowtitle Second", ""),
+                ("object", "second", "halcyra~.control @numsources 2 @numspeakers 2 @windowtitle Second @windowtopleft 90 90", ""),
                 ("to", "second", "open", "its window follows the first"),
             ]),
         ],
@@ -457,7 +484,6 @@ MOVING = {
     "title": "A moving source",
     "digest": "Steps on a clock: a metro turns one source, a number moves the other.",
     "object": "halcyra~.control @numsources 2 @numspeakers 4 @defer 1",
-    "hear": ["source"],
     "columns": [
         [
             ("Movement", [
@@ -475,7 +501,6 @@ CROSSFADE = {
     "title": "From scene to scene",
     "digest": "Two snapshots and a way between them, in steps of a line or by hand.",
     "object": "halcyra~.control @numsources 3 @numspeakers 4",
-    "hear": ["source"],
     "columns": [
         [
             ("First store both", [
@@ -491,24 +516,250 @@ CROSSFADE = {
     ],
 }
 
-EXAMPLES = {"halcyra-first-steps": FIRST_STEPS, "halcyra-moving-source": MOVING, "halcyra-scene-to-scene": CROSSFADE}
+TUTORIAL = {
+    "title": "Tutorial: a moving scene in six steps",
+    "digest": "Click the boxes from top to bottom, the left column first. It ends with two snapshots of a scene and a line that moves from one to the other.",
+    "object": "halcyra~.control @numsources 3 @numspeakers 4",
+    "varname": "verb",
+    "columns": [
+        [
+            ("1  Open the window", [
+                ("send", "open", "three pages: time structure, filters, scene"),
+            ]),
+            ("2  Choose a room", [
+                ("send", "roomsize 2000.", "cubic metres, with a point: times and density follow"),
+                ("from", ["flonum 0.1 30"], "tr0 $1", "drag the number: decay time in seconds"),
+                ("send", "gain -3", "level of the late reverberation, dB"),
+            ]),
+            ("3  Colour it", [
+                ("send", "room gains 0 -2 0 -6", "less low and high frequencies in the room"),
+                ("send", "cluster Gh -9", "one gain of one filter"),
+            ]),
+        ],
+        [
+            ("4  Place three sources", [
+                ("send", "source 1 aed -60 0 2, source 1 name voice", "azimuth, elevation, distance; a name"),
+                ("send", "source 2 aed 60 0 2, source 2 name guitar", ""),
+                ("send", "source 3 xyz 0 -1 0, source 3 name strings", "or in metres"),
+                ("send", "store wide", "keeps the positions as wide"),
+            ]),
+            ("5  Another scene", [
+                ("send", "sourcespositions -0.3 1 0 0.3 1 0 0 2 0", "all sources in one list"),
+                ("send", "store close", "keeps them as close"),
+            ]),
+            ("6  Let it move", [
+                ("from", ["line 0. 50", "flonum 0 1"], "xsnapshot wide close $1", "0 is wide, 1 is close"),
+                ("to", "line 0. 50", "0., 1. 4000", "there in four seconds"),
+                ("to", "line 0. 50", "1., 0. 4000", "and back"),
+                ("send", "writesnapshot", "snapshots live in the object: save them to a file"),
+            ]),
+        ],
+    ],
+}
+
+LAYOUTS = {
+    "title": "Speaker layouts",
+    "digest": "Azimuth and distance of every speaker in one message; as many as the box has. Azimuth 0 is in front and grows clockwise, so left is negative.",
+    "columns": [
+        [
+            ("Two to five", [
+                ("to", "two", "speakers ad -30 1 30 1", "stereo"),
+                ("object", "two", "halcyra~.control @numspeakers 2 @windowtitle Two", ""),
+                ("to", "three", "speakers ad -30 1 30 1 0 1", "left, right, centre"),
+                ("object", "three", "halcyra~.control @numspeakers 3 @windowtitle Three", ""),
+                ("to", "four", "speakers ad -45 1 45 1 135 1 -135 1", "a square, clockwise"),
+                ("object", "four", "halcyra~.control @numspeakers 4 @windowtitle Four", ""),
+                ("to", "five", "speakers ad -30 1 30 1 0 1 -110 1 110 1", "left, right, centre, surrounds"),
+                ("object", "five", "halcyra~.control @numspeakers 5 @windowtitle Five", ""),
+            ]),
+        ],
+        [
+            ("Six to eight", [
+                ("to", "six", "speakers ad -30 1 30 1 90 1 150 1 -150 1 -90 1", "a hexagon"),
+                ("object", "six", "halcyra~.control @numspeakers 6 @windowtitle Six", ""),
+                ("to", "seven", "speakers ad -30 1 30 1 0 1 -90 1 90 1 -150 1 150 1", ""),
+                ("object", "seven", "halcyra~.control @numspeakers 7 @windowtitle Seven", ""),
+                ("to", "eight", "speakers ad -22.5 1 22.5 1 67.5 1 112.5 1 157.5 1 -157.5 1 -112.5 1 -67.5 1", ""),
+                ("object", "eight", "halcyra~.control @numspeakers 8 @windowtitle Eight", ""),
+            ]),
+            ("A ring of any number, and layouts of the IEM plug-ins", [
+                ("object", "any", "halcyra~.control @numspeakers 12 @windowtitle Ring", ""),
+                ("object", "layouts", "js halcyra-layouts.js", "makes one speakers message"),
+                ("to", "layouts", "ring 12 1.5", "twelve in a circle of 1.5 metres"),
+                ("object", "ask", "opendialog", "then choose a JSON file"),
+                ("object", "file", "prepend iem", ""),
+                ("to", "ask", "bang", "a layout of the IEM plug-ins, with twelve speakers"),
+            ]),
+        ],
+    ],
+    "cords": [("ask", 0, "file"), ("file", 0, "layouts"), ("layouts", 0, "any")],
+}
+
+OSC = {
+    "title": "OSC to and from another program",
+    "digest": "Another program sends /halcyra with the words of a message as its arguments, and gets every change in the same form.",
+    "object": "halcyra~.control @numsources 2 @numspeakers 2",
+    "varname": "verb",
+    "columns": [
+        [
+            ("In: for instance /halcyra source 1 aed 30. 0. 1.", [
+                ("object", "in", "udpreceive 7400", "the port to send to"),
+                ("object", "ours", "route /halcyra", "takes the address off"),
+            ]),
+            ("Out: every change", [
+                ("object", "address", "prepend /halcyra", "puts it back"),
+                ("object", "out", "udpsend 127.0.0.1 7401", "the other program's machine and port"),
+            ]),
+            ("Try it", [
+                ("send", "source 1 aed 45 0 1", "leaves by OSC as well"),
+            ]),
+        ],
+    ],
+    "cords": [("in", 0, "ours"), ("ours", 0, "verb"), ("verb", 0, "address"), ("address", 0, "out")],
+}
+
+SILENT = {
+    "title": "Silent sources disappear",
+    "digest": "A level in dB hides its source below a threshold and shows it above. Put a meter of your own in place of each number.",
+    "object": "halcyra~.control @numsources 2 @numspeakers 2 @showsourceslevels 1",
+    "columns": [
+        [
+            ("Source 1", [
+                ("from", ["flonum -60 6", "> -50.", "change"], "source 1 visible $1", "only when it changes"),
+            ]),
+            ("Source 2", [
+                ("from", ["number -60 6", "> -50", "change 0"], "source 2 visible $1", ""),
+            ]),
+            ("Levels at the sources", [
+                ("send", "sourceslevels -12 -40", "dB for each source, drawn while showsourceslevels is 1"),
+            ]),
+        ],
+    ],
+}
+
+SURFACES = {
+    "title": "Two surfaces for one reverberator",
+    "digest": "Positions always come out again, so two objects in a ring would never rest. Only one of two gates is open: what the leading surface says goes to the other one, and to halcyra~, which belongs below both gates.",
+    "columns": [
+        [
+            ("Which one leads", [
+                ("object", "first", "halcyra~.control @numsources 2 @numspeakers 2 @windowtitle First", ""),
+                ("object", "second", "halcyra~.control @numsources 2 @numspeakers 2 @windowtitle Second @windowtopleft 90 90", ""),
+                ("object", "to-second", "gate 1 1", "open: the first leads"),
+                ("object", "to-first", "gate 1 0", "open: the second leads"),
+                ("to", "to-first", "0", "1: close the way back"),
+                ("to", "to-second", "1", "2: the first leads"),
+                ("to", "to-second", "0", "1: close the way there"),
+                ("to", "to-first", "1", "2: the second leads"),
+                ("to", "first", "open", ""),
+                ("to", "second", "open", ""),
+                ("to", "first", "source 1 aed 30 0 1", "moves in both windows while the first leads"),
+            ]),
+        ],
+    ],
+    "cords": [("first", 0, "to-second", 1), ("to-second", 0, "second"), ("second", 0, "to-first", 1), ("to-first", 0, "first")],
+}
+
+COLOURS = {
+    "title": "Colours that everybody can tell apart",
+    "digest": "Eight colours chosen so that colour-blind users can tell them apart, in light and shade as well; the first ones go to the first sources.",
+    "object": "halcyra~.control @numsources 8 @numspeakers 2",
+    "columns": [
+        [
+            ("One message for all", [
+                ("send", "sourcecolor 0.9 0.62 0 1 0.34 0.71 0.91 1 0 0.62 0.45 1 0.94 0.89 0.26 1 0 0.45 0.7 1 0.84 0.37 0 1 0.8 0.47 0.65 1 0.1 0.1 0.1 1", ""),
+            ]),
+            ("Or one by one", [
+                ("send", "source 1 color 0.9 0.62 0 1", "orange"),
+                ("send", "source 2 color 0.34 0.71 0.91 1", "light blue"),
+                ("send", "source 3 color 0 0.62 0.45 1", "green"),
+                ("send", "source 4 color 0.94 0.89 0.26 1", "yellow"),
+            ]),
+        ],
+    ],
+    "width": 2,
+}
+
+WRAP = {
+    "title": "Angles that wrap",
+    "digest": "From azimuth 170 to -170 a line of numbers runs through the front, 340 degrees the wrong way. Between two snapshots a source takes the straight way in x y z, through the back.",
+    "object": "halcyra~.control @numsources 1 @numspeakers 2",
+    "columns": [
+        [
+            ("The long way round", [
+                ("from", ["number -180 180"], "source 1 azim $1", "drag from 170 to -170"),
+            ]),
+            ("The short way", [
+                ("send", "source 1 aed 170 0 1, store here", "1"),
+                ("send", "source 1 aed -170 0 1, store there", "2"),
+                ("from", ["line 0. 50", "flonum 0 1"], "xsnapshot here there $1", "interpolates x, y and z"),
+                ("to", "line 0. 50", "0., 1. 2000", "there"),
+                ("to", "line 0. 50", "1., 0. 2000", "and back"),
+            ]),
+        ],
+    ],
+}
+
+EXAMPLES = {
+    "halcyra-tutorial": TUTORIAL,
+    "halcyra-first-steps": FIRST_STEPS,
+    "halcyra-moving-source": MOVING,
+    "halcyra-scene-to-scene": CROSSFADE,
+    "halcyra-speaker-layouts": LAYOUTS,
+    "halcyra-osc": OSC,
+    "halcyra-silent-sources": SILENT,
+    "halcyra-two-surfaces": SURFACES,
+    "halcyra-colours": COLOURS,
+    "halcyra-angles": WRAP,
+}
+
+# Pasted into a patcher by its menu: small, and whole.
+CLIPPINGS = {
+    "control with a display": {
+        "title": "halcyra~.control",
+        "digest": "Set the sizes in the box before you store states.",
+        "object": "halcyra~.control @numsources 4 @numspeakers 8",
+        "columns": [[("Start", [("send", "open", ""), ("send", "bang", "sends everything again")])]],
+    },
+    "fade between two scenes": {**CROSSFADE, "title": "Fade between two scenes"},
+}
+
+LOOKUP = {
+    "digest": "Control interface of a room reverberator",
+    "description": "A window and a set of messages for the parameters of halcyra~: time structure, filters, and a scene of sources, speakers and a listener.",
+    "module": "max",
+    "category": ["Interaction"],
+    "keyword": ["reverb", "room", "spatialisation", "source", "speaker", "snapshot"],
+    "seealso": ["pattrstorage", "preset", "dict"],
+}
 
 OVERVIEW = {
     "title": "Halcyra",
-    "digest": "halcyra~.control sets up a room reverberator: in its window, and by messages.",
+    "digest": "halcyra~.control sets up a room reverberator: in its window, and by messages. It makes no sound: halcyra~, the reverberator, is a separate object and not part of this package. Without it everything here works, and is silent.",
     "columns": [
         [
             ("Start here", [
+                ("to", "loader", "load halcyra-tutorial.maxpat", "six steps to a moving scene"),
                 ("to", "loader", "load halcyra~.control.maxhelp", "the help, one topic a tab"),
-            ]),
-            ("Examples", [
-                ("to", "loader", "load halcyra-first-steps.maxpat", "a few settings, and two objects in a chain"),
-                ("to", "loader", "load halcyra-moving-source.maxpat", "positions on a clock"),
-                ("to", "loader", "load halcyra-scene-to-scene.maxpat", "snapshots and the way between them"),
                 ("object", "loader", "pcontrol", ""),
             ]),
-            ("What it needs", [
-                ("say", "halcyra~, the reverberator that makes the sound, is a separate object and not part of this package. Without it everything here works, and is silent."),
+            ("Examples", [
+                ("to", "loader", "load halcyra-first-steps.maxpat", "two objects in a chain"),
+                ("to", "loader", "load halcyra-moving-source.maxpat", "positions on a clock"),
+                ("to", "loader", "load halcyra-scene-to-scene.maxpat", "snapshots and the way between them"),
+                ("to", "loader", "load halcyra-speaker-layouts.maxpat", "stereo to eight, rings, JSON"),
+                ("to", "loader", "load halcyra-osc.maxpat", "to and from another program"),
+                ("to", "loader", "load halcyra-silent-sources.maxpat", "hidden by their levels"),
+                ("to", "loader", "load halcyra-two-surfaces.maxpat", "for one reverberator"),
+                ("to", "loader", "load halcyra-colours.maxpat", "for colour-blind users too"),
+                ("to", "loader", "load halcyra-angles.maxpat", "that wrap"),
+            ]),
+        ],
+        [
+            ("The three pages of the window", [
+                ("object", "time", "fpic halcyra-time-structure.png", "time structure"),
+                ("object", "filters", "fpic halcyra-filters.png", "filters"),
+                ("object", "scene", "fpic halcyra-scene.png", "scene"),
             ]),
         ],
     ],

@@ -15,13 +15,15 @@ sys.dont_write_bytecode = True
 import help_content
 
 COLUMN_WIDTH = 470
-ROW = 30
+ROW = 26
 MARGIN = 20
 GUTTER = 12  # between a column's left edge and its boxes; the cords run down here
 COMMENT_GAP = 10
 CONTROL_WIDTH = 240
 NAME_WIDTH = 150  # of an attribute's name in its control
 OBJECT = "halcyra~.control"
+WINDOW_PLACE = " @windowtopleft 60 60"  # on every screen; the default lies mostly beyond the edge of a small one
+DISPLAY_WIDTH = 330  # of the message boxes that show what comes out
 
 # Class of a box: inlets, and the type of each outlet. `route` and `t` depend on their words.
 PORTS = {
@@ -34,6 +36,14 @@ PORTS = {
     "number": (1, ["", "bang"]),
     "preset": (1, ["preset", "int", "preset", "int"]),
     "dict.view": (1, []),
+    "fpic": (1, ["jit_matrix"]),
+    ">": (2, ["int"]),
+    "change": (1, ["", "int", "int"]),
+    "js": (1, [""]),
+    "opendialog": (1, ["", "bang"]),
+    "udpreceive": (1, [""]),
+    "udpsend": (1, []),
+    "gate": (2, [""]),
     OBJECT: (1, ["", ""]),
     "autopattr": (1, ["", "", "", ""]),
     "dict": (2, ["dictionary", "", "", ""]),
@@ -46,7 +56,7 @@ PORTS = {
     "print": (1, []),
 }
 # Classes that draw themselves: their size.
-PICTURES = {"toggle": (22, 22), "button": (22, 22), "flonum": (60, 22), "number": (60, 22), "preset": (100, 40), "dict.view": (300, 80)}
+PICTURES = {"toggle": (22, 22), "button": (22, 22), "flonum": (60, 22), "number": (60, 22), "preset": (100, 40), "dict.view": (300, 60), "fpic": (279, 139)}
 
 
 def ports(text):
@@ -121,7 +131,10 @@ class Page:
         if kind in PICTURES:
             width, height = PICTURES[kind]
             limits = dict(zip(("minimum", "maximum"), map(float, text.split()[1:]))) if kind in ("flonum", "number") else {}
-            return self.box(kind, x, y, width, height, **limits, **own)
+            pictures = {"pic": text.split()[1], "autofit": 1} if kind == "fpic" else {}
+            return self.box(kind, x, y, width, height, **limits, **pictures, **own)
+        if kind == OBJECT and "@windowtopleft" not in text:
+            text += WINDOW_PLACE
         return self.box("newobj", x, y, text_width(text), 22, text=text, **own)
 
     def height_of(self, name):
@@ -132,7 +145,7 @@ class Page:
         kind, *rest = row
         room = COLUMN_WIDTH - 2 * GUTTER
         if kind == "say":
-            return None, self.comment(rest[0], x, y, room) + 8
+            return None, self.comment(rest[0], x, y, room) + 6
         if kind == "object":
             name, text, remark, *own = rest
             made = self.named[name] = self.object(text, x, y, **(own[0] if own else {}))
@@ -162,73 +175,70 @@ class Page:
     def remark(self, text, x, y, beside):
         _, _, width, height = self.place[beside]
         if not text:
-            return max(ROW, height + 8)
+            return max(ROW, height + 4)
         left = x + max(width, CONTROL_WIDTH) + COMMENT_GAP
         used = self.comment(text, left, y, x + COLUMN_WIDTH - 2 * GUTTER - left)
-        return max(ROW, height + 8, used + 8)
+        return max(ROW, height + 4, used + 4)
 
     def column(self, sections, x, y):
         """Lays sections out one below the other; returns the boxes that feed our object and the lower edge."""
         feeds = []
         for heading, rows in sections:
             self.comment(heading, x + GUTTER, y, COLUMN_WIDTH - 2 * GUTTER, 14.0, bold=True)
-            y += 28
+            y += 24
             for row in rows:
                 feed, height = self.row(row, x + GUTTER, y)
                 if feed:
                     feeds.append((feed, x))
                 y += height
-            y += 10
+            y += 6
         return feeds, y
 
     def fill(self, content):
-        self.comment(content["title"], MARGIN, 12, COLUMN_WIDTH, 20.0, bold=True)
-        y = 50 + self.comment(content["digest"], MARGIN, 48, len(content["columns"]) * COLUMN_WIDTH) + 10
+        """Title and digest, our object with what its outlets say, then the columns that feed it."""
+        self.comment(content["title"], MARGIN, 8, COLUMN_WIDTH, 20.0, bold=True)
+        y = 44 + self.comment(content["digest"], MARGIN, 40, max(len(content["columns"]), content.get("width", 1)) * COLUMN_WIDTH) + 18
+        if "object" in content:
+            y = self.head(content, y) + 12
         feeds, bottom = [], y
         for number, sections in enumerate(content["columns"]):
             made, lower = self.column(sections, MARGIN + number * COLUMN_WIDTH, y)
             feeds, bottom = feeds + made, max(bottom, lower)
-        if "object" in content:
-            bottom = self.tail(content, feeds, bottom)
+        for feed, left in feeds:
+            self.cord_by_gutter(feed, self.named["verb"], left, 10)
         self.other_cords(content)
-        return max(x + width for x, _, width, _ in self.place.values()) + MARGIN, bottom + MARGIN
+        return max(x + width for x, _, width, _ in self.place.values()) + MARGIN, bottom + 10
 
-    def tail(self, content, feeds, bottom):
-        """Our object below the columns, everything wired to it by the gutters, and what its outlets go to."""
-        x, y = MARGIN + GUTTER, bottom + 20
+    def head(self, content, y):
+        x = MARGIN + GUTTER
         own = {"varname": content["varname"]} if "varname" in content else {}
         verb = self.named["verb"] = self.object(content["object"], x, y, **own)
-        self.comment(content.get("remark", "double-click it when the patcher is locked: its window opens"), x + self.place[verb][2] + COMMENT_GAP, y, 400)
-        for feed, left in feeds:
-            self.cord_by_gutter(feed, verb, left, 14)
-        return self.outlets(content, verb, x, y + 50)
-
-    def outlets(self, content, verb, x, y):
-        right = x + self.place[verb][2] + 40
-        heard = content.get("hear", [])
-        if heard:
-            text = "route " + " ".join(heard)
-            route = self.object(text, x, y)
-            right = max(right, x + self.place[route][2] + 40)
-            self.cord(verb, route)
-            left = x
-            for number, word in enumerate(heard):
-                printed = self.object(f"print {word}", left, y + 44)
-                self.cord(route, printed, outlet=number)
-                left += self.place[printed][2] + 12
-        else:
-            self.cord(verb, self.object("print to-halcyra~", x, y))
-        answers = content.get("answers", ["print answers"])
+        self.comment(content.get("remark", "double-click it (locked): its window opens"), x + self.place[verb][2] + COMMENT_GAP, y, 330)
+        lower = self.display(verb, 0, x, y + ROW, "what leaves on the left, for halcyra~")
+        right = x + DISPLAY_WIDTH + 120
+        if "answers" not in content:
+            return max(lower, self.display(verb, 1, right, y + ROW, "answers, on the right"))
         above, outlet = verb, 1
-        for text in answers:
-            made = self.object(text, right, y)
+        for text in content["answers"]:
+            made = self.object(text, right, y + ROW)
+            if text.startswith("route"):
+                self.display(made, 1, x, lower + 8, "other answers: lists")
             self.cord(above, made, outlet=outlet)
-            above, outlet, y = made, 0, y + self.height_of(made) + 10
-        return max(top + height for _, top, _, height in self.place.values())
+            above, outlet, y = made, 0, y + self.height_of(made) + 4
+        return max(lower, y + ROW)
+
+    def display(self, source, outlet, x, y, remark):
+        """A message box that shows what comes out of an outlet; returns its lower edge."""
+        shown = self.object("prepend set", x, y)
+        self.comment(remark, x + self.place[shown][2] + COMMENT_GAP, y, 260)
+        box = self.box("message", x, y + ROW, DISPLAY_WIDTH, 22, text="")
+        self.cord(source, shown, outlet=outlet)
+        self.cord(shown, box)
+        return y + ROW + 22
 
     def other_cords(self, content):
-        for source, outlet, destination in content.get("cords", []):
-            self.cord(self.named[source], self.named[destination], outlet=outlet)
+        for source, outlet, destination, *inlet in content.get("cords", []):
+            self.cord(self.named[source], self.named[destination], outlet=outlet, inlet=inlet[0] if inlet else 0)
         for message, target, left in self.pending:
             self.cord_by_gutter(message, self.named[target], left, 4)
 
@@ -275,6 +285,14 @@ def write(path, content):
     path.write_text(json.dumps(content, indent=1) + "\n", encoding="utf-8")
 
 
+def write_lookup(folder):
+    """What the host's search of objects shows, and the patchers that it leaves out."""
+    about = help_content.LOOKUP
+    write(folder / "halcyra-obj-qlookup.json", {OBJECT: about})
+    helpers = sorted([*help_content.EXAMPLES, "Halcyra Overview", *help_content.CLIPPINGS])
+    write(folder / "max.db.json", {"exclude": [f"{name}.maxpat" for name in helpers]})
+
+
 def main():
     if len(sys.argv) != 2:
         sys.exit(f"usage: {sys.argv[0]} FOLDER")
@@ -283,6 +301,9 @@ def main():
     write(folder / "extras" / "Halcyra Overview.maxpat", single(help_content.OVERVIEW))
     for name, content in help_content.EXAMPLES.items():
         write(folder / "examples" / f"{name}.maxpat", single(content))
+    for name, content in help_content.CLIPPINGS.items():
+        write(folder / "clippings" / "Halcyra" / f"{name}.maxpat", single(content))
+    write_lookup(folder / "interfaces")
 
 
 if __name__ == "__main__":

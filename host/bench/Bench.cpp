@@ -55,7 +55,7 @@ struct Bench::Patch
 
     /** Pumps when there is something to pump and sleeps meanwhile, until the time is over or the input can be read. */
     void letTimePass (Bench& bench, std::chrono::milliseconds time, int input,
-                      const std::function<void()>& afterEachStep);
+                      const std::function<bool()>& goesOn);
 
     t_object* create (t_class* c, BoxRecord& record, const std::vector<Word>& words)
     {
@@ -218,6 +218,7 @@ void Bench::pump()
 }
 
 void Bench::hold() { patch->held = true; }
+bool Bench::isHeld() const { return patch->held; }
 
 void Bench::release()
 {
@@ -227,35 +228,36 @@ void Bench::release()
 
 void Bench::wait (int milliseconds) { patch->letTimePass (*this, std::chrono::milliseconds (milliseconds), -1, {}); }
 
-void Bench::waitForInput (int descriptor, const std::function<void()>& afterEachStep)
+void Bench::waitFor (int milliseconds, int descriptor, const std::function<bool()>& goesOn)
 {
-    patch->letTimePass (*this, std::chrono::milliseconds::max(), descriptor, afterEachStep);
+    const auto time =
+        milliseconds == forEver ? std::chrono::milliseconds::max() : std::chrono::milliseconds (milliseconds);
+    patch->letTimePass (*this, time, descriptor, goesOn);
 }
 
 void Bench::Patch::letTimePass (Bench& bench, std::chrono::milliseconds time, int input,
-                                const std::function<void()>& afterEachStep)
+                                const std::function<bool()>& goesOn)
 {
     using Clock = std::chrono::steady_clock;
     using Milliseconds = std::chrono::milliseconds;
     auto& scheduler = Scheduler::instance();
     const auto start = Clock::now();
     const auto elapsed = [&] { return std::min (time, std::chrono::floor<Milliseconds> (Clock::now() - start)); };
-    bool hasInput = false;
-    for (Milliseconds passed (0); passed < time && ! hasInput;) {
+    bool isOver = goesOn && ! goesOn();
+    for (Milliseconds passed (0); passed < time && ! isOver;) {
         bench.settle();
         const auto next = passed + std::min (time - passed, Milliseconds (scheduler.untilNextEvent()));
         // Held, nothing of the GUI is delivered, so what waits there would not let us sleep.
         auto* const driver = held ? nullptr : windowDriver();
-        hasInput = doze (std::max (next - elapsed(), Milliseconds (0)),
-                         driver == nullptr ? std::vector<int>() : driver->descriptors(), input);
+        isOver = doze (std::max (next - elapsed(), Milliseconds (0)),
+                       driver == nullptr ? std::vector<int>() : driver->descriptors(), input);
         // The scheduler is a thread of its own, so hold() does not stop it; what it runs is over before we go on.
         const auto now = elapsed();
         scheduler.advance (static_cast<int> ((now - passed).count()));
         passed = now;
         scheduler.settle();
         bench.settle();
-        if (afterEachStep)
-            afterEachStep();
+        isOver = (goesOn && ! goesOn()) || isOver;
     }
 }
 

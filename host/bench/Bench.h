@@ -3,6 +3,7 @@
 #include "host/bench/Event.h"
 #include "host/bench/Words.h"
 #include <functional>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -73,6 +74,7 @@ public:
     void settle();
     void hold();
     void release();
+    [[nodiscard]] bool isHeld() const;
 
     /** Runs what waits for the main thread now, and waits for no other thread: the scheduler's goes on meanwhile. */
     void pump();
@@ -81,9 +83,10 @@ public:
         next one alone. */
     void wait (int milliseconds);
 
-    /** Lets time pass until a descriptor can be read (not on Windows). The step is called whenever something was
-        pumped. */
-    void waitForInput (int descriptor, const std::function<void()>& afterEachStep);
+    /** The same, but no longer than until a descriptor can be read (not on Windows; below 0 for none) or goesOn, which
+        is called whenever something was pumped or the main thread was woken, answers false. */
+    static constexpr int forEver = std::numeric_limits<int>::max();
+    void waitFor (int milliseconds, int descriptor, const std::function<bool()>& goesOn);
 
     /** Runs something on the scheduler thread: to its end, or while the caller goes on. */
     void runOnScheduler (const std::function<void()>& task);

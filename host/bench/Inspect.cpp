@@ -79,14 +79,43 @@ bool setAttribute (const Box& box, const std::string& attribute, const Atoms& at
                                    copy.empty() ? nullptr : copy.data()) == MAX_ERR_NONE;
 }
 
-std::vector<std::string> visibleAttributes (const Box& box)
+namespace
+{
+std::vector<std::string> visibleNames (const std::vector<Attribute*>& attributes)
 {
     std::vector<std::string> names;
-    for (const auto* attribute : attributesOf (box.object))
+    for (const auto* attribute : attributes)
         if (! attribute->has (ATTR_IS_JBOXATTR) && ! attribute->has (ATTR_GET_OPAQUE_USER) &&
             ! attribute->has (ATTR_GET_OPAQUE) && ! isInvisible (*attribute))
             names.emplace_back (attribute->visible.name->s_name);
     return names;
+}
+
+const ClassRecord* classNamed (const std::string& name)
+{
+    auto* c = class_findbyname (CLASS_BOX, gensym (name.c_str()));
+    return c == nullptr ? nullptr : recordOf (c);
+}
+}
+
+std::vector<std::string> visibleAttributes (const Box& box) { return visibleNames (attributesOf (box.object)); }
+
+std::vector<std::string> visibleAttributes (const std::string& className)
+{
+    const auto* c = classNamed (className);
+    return c == nullptr ? std::vector<std::string>() : visibleNames (c->attributes);
+}
+
+std::vector<std::string> choicesOf (const std::string& className, const std::string& attribute)
+{
+    const auto* c = classNamed (className);
+    const auto* found = c == nullptr ? nullptr : c->findAttribute (gensym (attribute.c_str()));
+    const auto* words = found == nullptr ? nullptr : found->findProperty (gensym ("enumvals"));
+    std::vector<std::string> choices;
+    if (words != nullptr)
+        for (const auto& word : words->value)
+            choices.push_back (textOf (Atoms{ word }));
+    return choices;
 }
 
 std::vector<MethodRow> methodsOf (const Box& box)

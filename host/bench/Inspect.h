@@ -15,6 +15,10 @@ bool setAttribute (const Box& box, const std::string& attribute, const Atoms& at
 /** The attributes of the object that the user may see, in order of registration. */
 std::vector<std::string> visibleAttributes (const Box& box);
 
+/** The same of a class that is loaded, without a box; and the words that one of them is chosen from, if it is. */
+std::vector<std::string> visibleAttributes (const std::string& className);
+std::vector<std::string> choicesOf (const std::string& className, const std::string& attribute);
+
 struct MethodRow
 {
     std::string message;

@@ -53,6 +53,9 @@ public:
         thread's own queue wakes it. */
     [[nodiscard]] virtual std::vector<int> descriptors() const { return {}; }
 
+    /** False for windows in memory, which nobody can close by hand. */
+    [[nodiscard]] virtual bool isOnDisplay() const = 0;
+
     virtual std::string turnPage (void* object, int page) = 0;
     virtual std::string pointer (void* object, const PointerEvent& event) = 0;
     virtual std::string key (void* object, const std::string& description) = 0;

@@ -7,5 +7,6 @@ int main (int argc, char** argv)
     const auto find = [] (const std::string& name) -> bench::Entry {
         return name == "bench.example" ? example_main : nullptr;
     };
-    return patchbench::run (argc, argv, { find, {} });
+    return patchbench::run (argc, argv,
+                            { { find, [] { return std::vector<std::string>{ "bench.example" }; }, {} }, {} });
 }

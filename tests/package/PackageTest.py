@@ -1,6 +1,6 @@
 """The package as it is made: its patchers are sound, and all that their boxes say is understood by the object.
 
-Called as PackageTest.py FOLDER PATCHBENCH; FOLDER is filled by package/contents."""
+Called as PackageTest.py FOLDER PATCHBENCH VERSION; FOLDER is filled by package/contents."""
 
 import json
 import re
@@ -11,7 +11,12 @@ import unittest
 import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
-FOLDER, BENCH = Path(sys.argv[1]), Path(sys.argv[2]).resolve()
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "package"))
+
+import rows
+
+FOLDER, BENCH, VERSION = Path(sys.argv[1]), Path(sys.argv[2]).resolve(), sys.argv[3]
 OBJECT = "halcyra~.control"
 PATCHERS = sorted(p for p in FOLDER.rglob("*") if p.suffix in (".maxpat", ".maxhelp"))
 # What a message may not print: the host's and the object's ways to complain.
@@ -21,6 +26,14 @@ NOT_FOR_USERS = {"generatexml", "preset", "recallpreset"}
 # Messages that ask for a file, and what the dialog answers: what is read is what was written.
 DIALOGS = {"writesnapshot": "snapshots.xml", "readsnapshot": "snapshots.xml", "exportdict": "state.json"}
 COLUMN_WIDTH = 470
+LAYOUT_CHECK = """
+console.log(ringMessage(4, 1.5).join(" "));
+console.log(iemMessage(JSON.stringify({ LoudspeakerLayout: { Loudspeakers: [
+    { Azimuth: -30, Elevation: 0, Radius: 2, Channel: 2 }, { Azimuth: 0, Elevation: -90, Radius: 1, IsImaginary: true, Channel: 3 },
+    { Azimuth: 30, Elevation: 0, Radius: 1, Channel: 1 }, { Azimuth: 180, Elevation: 45, Channel: 4 }] } })).join(" "));
+for (const bad of ["", "{}", '{"Loudspeakers":[{"Azimuth":"left"}]}'])
+    try { iemMessage(bad); } catch (problem) { console.log("refused"); }
+"""
 
 
 def load(path):
@@ -47,6 +60,12 @@ def cords_of(page):
 
 def is_object(box):
     return box["maxclass"] == "newobj" and box["text"].split()[0] == OBJECT
+
+
+def is_display(box, page):
+    """A message box that shows what another box puts into it."""
+    boxes = boxes_of(page)
+    return any(boxes[s[0]].get("text") == "prepend set" for s, d in cords_of(page) if d[0] == box["id"])
 
 
 def overlap(a, b):
@@ -105,7 +124,7 @@ class Patchers(unittest.TestCase):
                 self.assertEqual(len(set(varnames)), len(varnames))
                 for box in boxes:
                     self.assertEqual(len(box.get("outlettype", [])), box["numoutlets"], box)
-                    self.assertTrue(box["maxclass"] != "message" or box["text"], box)
+                    self.assertTrue(box["maxclass"] != "message" or box["text"] or is_display(box, page), box)
 
     def test_cords_join_existing_ports_once(self):
         for name, page in pages():
@@ -121,7 +140,7 @@ class Patchers(unittest.TestCase):
             with self.subTest(name):
                 used = {s[0] for s, _ in cords_of(page)}
                 for box in boxes_of(page).values():
-                    if box["maxclass"] in ("message", "attrui", "flonum", "number", "toggle", "button"):
+                    if box["maxclass"] in ("message", "attrui", "flonum", "number", "toggle", "button") and not is_display(box, page):
                         self.assertIn(box["id"], used, box)
 
     def test_boxes_lie_apart_and_inside_the_window(self):
@@ -155,6 +174,23 @@ class Patchers(unittest.TestCase):
         self.assertLessEqual({"time structure", "filters", "scene", "snapshots", "state"}, set(names))
         self.assertTrue(all(t["patcher"]["showontab"] == 1 for t in tabs))
         self.assertEqual(root["lines"], [])
+
+    def test_help_fits_a_small_screen_with_its_object_above_the_fold(self):
+        root = load(FOLDER / "help" / f"{OBJECT}.maxhelp")
+        self.assertLessEqual(root["rect"][3], 720)
+        for tab in (b["box"] for b in root["boxes"]):
+            tops = [b["patching_rect"][1] for b in boxes_of(tab["patcher"]).values() if is_object(b)]
+            self.assertTrue(all(top < 200 for top in tops), tab["text"])
+
+    def test_opening_a_patcher_prints_nothing(self):
+        for name, page in pages():
+            self.assertEqual([b["text"] for b in boxes_of(page).values() if b["maxclass"] == "newobj" and b["text"].split()[0] in ("print", "loadbang", "loadmess")], [], name)
+
+    def test_windows_open_on_the_screen(self):
+        for name, page in pages():
+            for box in boxes_of(page).values():
+                if is_object(box):
+                    self.assertRegex(box["text"], r"@windowtopleft (60 60|90 90)$", name)
 
     def test_links_lead_to_files_of_the_package(self):
         names = {p.name for p in PATCHERS}
@@ -203,7 +239,7 @@ class OnTheBench(unittest.TestCase):
         _, lines, _ = bench([f"new x {OBJECT}", "methods x"], FOLDER)
         methods = {line.split()[2] for line in lines if line.startswith("x method ") and "A_CANT" not in line}
         root = load(FOLDER / "help" / f"{OBJECT}.maxhelp")
-        shown = {m.split()[0] for t in root["boxes"] for b in boxes_of(t["box"]["patcher"]).values() if b["maxclass"] == "message" for m in split_message(b["text"])}
+        shown = {m.split()[0] for t in root["boxes"] for b in boxes_of(t["box"]["patcher"]).values() if b["maxclass"] == "message" and b["text"] for m in split_message(b["text"])}
         self.assertIn("source", methods)
         self.assertEqual(methods - NOT_FOR_USERS - shown, set())
 
@@ -211,7 +247,7 @@ class OnTheBench(unittest.TestCase):
 class Files(unittest.TestCase):
     def test_metadata(self):
         info = json.loads((FOLDER / "package-info.json").read_text())
-        self.assertEqual((info["name"], info["version"]), ("halcyra", "4.9.2"))
+        self.assertEqual((info["name"], info["version"]), ("halcyra", VERSION))
         self.assertIn(info["homepatcher"], {p.name for p in (FOLDER / "extras").iterdir()})
         self.assertIn("GNU", (FOLDER / "license.txt").read_text()[:2000])
 
@@ -224,8 +260,55 @@ class Files(unittest.TestCase):
         self.assertEqual(page.get("name"), OBJECT)
         self.assertGreater(len(page.findall("attributelist/attribute")), 50)
 
+    def test_reference_page_says_more_than_the_object(self):
+        page = ElementTree.parse(FOLDER / "docs" / f"{OBJECT}.maxref.xml").getroot()
+        for method in page.findall("methodlist/method"):
+            if method.get("name") not in NOT_FOR_USERS | {"dblclick"}:
+                self.assertTrue(method.findall("description/ul/li/m"), method.get("name"))
+        for attribute in page.findall("attributelist/attribute"):
+            self.assertNotEqual(attribute.findtext("digest"), "".join(attribute.find("description").itertext()), attribute.get("name"))
+            for detail in attribute.findall("attributelist/attribute"):
+                self.assertLess(len(detail.get("value")), 200, attribute.get("name"))
+
+    def test_every_message_and_attribute_of_the_object_has_its_row_and_the_reverse(self):
+        _, lines, _ = bench([f"new x {OBJECT}", "methods x", "attrs x"], FOLDER)
+        methods = {line.split()[2] for line in lines if line.startswith("x method ") and "A_CANT" not in line}
+        attributes = [line.split()[2] for line in lines if line.startswith("x attr ")]
+        self.assertEqual(methods - {"preset", "recallpreset"}, {m.name for m in rows.messages()})
+        self.assertEqual(set(attributes), {a.name for a in rows.attributes()})
+
+    def test_examples_of_the_attributes_are_understood(self):
+        commands = [f"new x {OBJECT} @numsources 2 @numspeakers 2"] + [f"send x {a.example}" for a in rows.attributes()]
+        status, lines, complaints = bench(commands, FOLDER)
+        self.assertEqual((status, complaints, [line for line in lines if COMPLAINT.search(line)]), (0, "", []))
+
+    def test_pictures_of_patchers_are_there(self):
+        named = {b["pic"] for _, page in pages() for b in boxes_of(page).values() if "pic" in b}
+        self.assertEqual(len(named), 3)
+        self.assertLessEqual(named, {p.name for p in (FOLDER / "media").iterdir()})
+
+    def test_notices_name_every_library_that_is_linked_in(self):
+        notices = (FOLDER / "third-party.txt").read_text(encoding="utf-8")
+        for library in ("JUCE", "libpng", "libjpeg", "zlib", "GCC runtime", "MinGW-w64"):
+            self.assertIn(f"== {library}", notices)
+        self.assertIn(f"halcyra-{VERSION}-source.tar.xz", notices)
+        self.assertGreater(len(notices), 5000, "the licences themselves")
+
+    def test_layouts_are_made_from_rings_and_from_json(self):
+        script = (FOLDER / "javascript" / "halcyra-layouts.js").read_text(encoding="utf-8") + LAYOUT_CHECK
+        run = subprocess.run(["node", "-"], input=script, text=True, capture_output=True, timeout=60)
+        self.assertEqual((run.returncode, run.stderr), (0, ""))
+        messages = run.stdout.splitlines()
+        self.assertEqual(messages[0], "speakers ad -45 1.5 45 1.5 135 1.5 -135 1.5")
+        self.assertEqual(messages[1], "speakers aed -30 0 1 30 0 2 -180 45 1")
+        self.assertEqual(messages[2:], ["refused"] * 3)
+        with tempfile.TemporaryDirectory() as folder:
+            status, lines, complaints = bench([f"new x {OBJECT} @numspeakers 3", f"send x {messages[1]}"], folder)
+        self.assertEqual(status, 0)
+        self.assertTrue(lines[-1].startswith("x out 0 speakers aed -30. 0. 1. 30. 0. 2. -180. 45."), lines[-1])
+
     def test_nothing_names_a_path_of_this_machine(self):
-        for path in (p for p in FOLDER.rglob("*") if p.is_file() and p.suffix != ".png"):
+        for path in (p for p in FOLDER.rglob("*") if p.is_file() and p.suffix not in (".png", ".svg")):
             self.assertNotIn(str(FOLDER.resolve().parent), path.read_text(encoding="utf-8"), path)
 
 

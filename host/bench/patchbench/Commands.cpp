@@ -6,7 +6,8 @@ namespace patchbench
 
 namespace
 {
-constexpr const std::vector<Command>& (*tables[])() = { patchCommands, inspectionCommands, windowCommands };
+constexpr const std::vector<Command>& (*tables[])() = { patchCommands, inspectionCommands, windowCommands,
+                                                        helpCommands };
 }
 
 std::vector<Command> allCommands()

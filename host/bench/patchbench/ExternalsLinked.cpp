@@ -6,3 +6,5 @@ bench::Entry findExternal (const std::string& className)
 {
     return className == "halcyra~.control" ? ext_main : nullptr;
 }
+
+std::vector<std::string> namesOfExternals() { return { "halcyra~.control" }; }

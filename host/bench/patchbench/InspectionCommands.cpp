@@ -101,15 +101,22 @@ void dictionary (Session&, const Words& words)
 const std::vector<Command>& inspectionCommands()
 {
     static const std::vector<Command> table = {
-        { "attr", 2, 2, "attr NAME ATTRIBUTE", attribute },
-        { "attrs", 1, 1, "attrs NAME", attributes },
-        { "property", 3, 3, "property NAME ATTRIBUTE PROPERTY", property },
-        { "methods", 1, 1, "methods NAME", methods },
-        { "assist", 3, 3, "assist NAME inlet|outlet N", assist },
-        { "getvalueof", 1, 1, "getvalueof NAME", getState },
-        { "setvalueof", 1, anyNumber, "setvalueof NAME [ATOM ...]", setState },
-        { "preset", 1, 1, "preset NAME", preset },
-        { "dict", 1, anyNumber, "dict NAME [KEY ATOM ...]", dictionary },
+        { "attr", 2, 2, "attr NAME ATTRIBUTE", "Prints the value of an attribute.", "attr verb gain", attribute },
+        { "attrs", 1, 1, "attrs NAME", "Prints all visible attributes with their values.", "attrs verb", attributes },
+        { "property", 3, 3, "property NAME ATTRIBUTE PROPERTY",
+          "Prints a property of an attribute: label, default, minvalue, maxvalue, style, enumvals, ...",
+          "property verb gain default", property },
+        { "methods", 1, 1, "methods NAME", "Lists the messages of a class with their argument kinds.", "methods verb",
+          methods },
+        { "assist", 3, 3, "assist NAME inlet|outlet N", "Prints the assistance text of an inlet or outlet.",
+          "assist verb outlet 0", assist },
+        { "getvalueof", 1, 1, "getvalueof NAME", "Prints the state that pattr saves.", "getvalueof verb", getState },
+        { "setvalueof", 1, anyNumber, "setvalueof NAME [ATOM ...]",
+          "Restores a state that getvalueof printed, by an object of the same sizes.", "setvalueof verb 1 2 3",
+          setState },
+        { "preset", 1, 1, "preset NAME", "Prints what a preset object would store.", "preset verb", preset },
+        { "dict", 1, anyNumber, "dict NAME [KEY ATOM ...]",
+          "Prints a named dictionary; with a key, adds an entry to it.", "dict settings gain -6.", dictionary },
     };
     return table;
 }

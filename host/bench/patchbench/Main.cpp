@@ -14,5 +14,6 @@ int main (int argc, char** argv)
     for (auto* stream : { stdout, stderr })
         _setmode (_fileno (stream), _O_BINARY); // lines end as they do everywhere else
 #endif
-    return patchbench::run (argc, argv, { findExternal, makeWindows });
+    return patchbench::run (
+        argc, argv, { { findExternal, namesOfExternals, patchbench::readMessageForms (messageTable()) }, makeWindows });
 }

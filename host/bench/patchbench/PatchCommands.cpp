@@ -62,11 +62,13 @@ void answerDialog (Session& session, const Words& words)
 
 void wait (Session& session, const Words& words)
 {
+    if (words.size() == 1)
+        return session.waitForWindows();
     constexpr long long aDay = 24LL * 60 * 60 * 1000;
     const auto time = wholeNumber (words[1], "the time");
     if (time < 0 || time > aDay)
         throw CommandError ("the time is out of range: " + words[1].text);
-    session.bench.wait (static_cast<int> (time));
+    session.wait (static_cast<int> (time));
 }
 
 /** A line of the script's own in the output. */
@@ -81,30 +83,33 @@ void mark (Session&, const Words& words)
 void hold (Session& session, const Words&) { session.bench.hold(); }
 void release (Session& session, const Words&) { session.bench.release(); }
 void quit (Session& session, const Words&) { session.quit(); }
-
-void help (Session&, const Words&)
-{
-    for (const auto& command : allCommands())
-        Session::print (std::string ("# ") + command.usage);
-}
 }
 
 const std::vector<Command>& patchCommands()
 {
     static const std::vector<Command> table = {
-        { "new", 2, anyNumber, "new NAME CLASS [ARG ...] [@ATTRIBUTE VALUE ...]", newBox },
-        { "send", 2, anyNumber, "send NAME MESSAGE [ATOM ...]", send },
-        { "free", 1, 1, "free NAME", freeBox },
-        { "connect", 3, 3, "connect NAME OUTLET NAME2", connect },
-        { "disconnect", 3, 3, "disconnect NAME OUTLET NAME2", disconnect },
-        { "dialog", 1, 1, "dialog PATH|cancel", answerDialog },
-        { "thread", 1, 1, "thread main|scheduler", chooseThread },
-        { "hold", 0, 0, "hold", hold },
-        { "release", 0, 0, "release", release },
-        { "wait", 1, 1, "wait MS", wait },
-        { "mark", 0, anyNumber, "mark [TEXT ...]", mark },
-        { "help", 0, 0, "help", help },
-        { "quit", 0, 0, "quit", quit },
+        { "new", 2, anyNumber, "new NAME CLASS [ARG ...] [@ATTRIBUTE VALUE ...]",
+          "Creates a box. Words after an @ set its attributes, as in a patcher.",
+          "new other halcyra~.control @numsources 2 @gain -6", newBox },
+        { "send", 2, anyNumber, "send NAME MESSAGE [ATOM ...]",
+          "Sends a message to the inlet of a box; getATTRIBUTE asks for a value.", "send verb tr0 3.2", send },
+        { "free", 1, 1, "free NAME", "Deletes a box.", "free other", freeBox },
+        { "connect", 3, 3, "connect NAME OUTLET NAME2",
+          "Connects an outlet (0 is the leftmost) to the inlet of another box.", "connect verb 0 other", connect },
+        { "disconnect", 3, 3, "disconnect NAME OUTLET NAME2", "Removes a patch cord.", "disconnect verb 0 other",
+          disconnect },
+        { "dialog", 1, 1, "dialog PATH|cancel", "Answers the next open or save dialog, in advance.",
+          "dialog scenes.xml", answerDialog },
+        { "thread", 1, 1, "thread main|scheduler",
+          "Chooses the thread that the following messages are sent from (main at first).", "thread scheduler",
+          chooseThread },
+        { "hold", 0, 0, "hold", "Keeps what follows in one turn: nothing queued runs until release.", "hold", hold },
+        { "release", 0, 0, "release", "Ends hold and runs what is queued.", "release", release },
+        { "wait", 0, 1, "wait [MS]",
+          "Lets time pass. Without a time, waits until the windows on the display are closed.", "wait 100", wait },
+        { "mark", 0, anyNumber, "mark [TEXT ...]", "Prints a line of your own, to find a place in the output.",
+          "mark second scene", mark },
+        { "quit", 0, 0, "quit", "Deletes what is left and ends.", "quit", quit },
     };
     return table;
 }

@@ -1,6 +1,8 @@
 #include "host/bench/patchbench/Program.h"
 #include "host/bench/patchbench/Prompt.h"
+#include "host/bench/patchbench/Script.h"
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 
@@ -14,6 +16,7 @@ struct Options
     WindowPlace window = WindowPlace::automatic;
     bench::DeferMedium deferMedium = bench::DeferMedium::queue;
     bool trace = false;
+    bool echo = false;
     std::vector<std::string> files;
 };
 
@@ -39,14 +42,19 @@ void describe (CLI::App& app, Options& options)
         ->transform (CLI::CheckedTransformer (modes))
         ->option_text ("queue|now");
     app.add_flag ("--trace", options.trace, "Prints notifications too");
-    app.add_option ("FILE", options.files, "Scripts to run, - for standard input; standard input without any");
+    app.add_flag ("--echo", options.echo, "Prints each line of a script before what it causes");
+    app.set_version_flag ("--version", "patchbench " PATCHBENCH_VERSION);
+    app.add_option (
+        "FILE", options.files,
+        "Scripts to run, - for standard input; standard input without any. With - last, a prompt follows the "
+        "scripts and their windows stay; so they do with a last command `wait`");
 }
 
-/** Runs lines and tells what could not be carried out, with the place where it stands. */
+/** Runs lines and reports what could not be carried out, with the place where it stands. */
 class Runner
 {
 public:
-    explicit Runner (Session& s) : session (s) {}
+    Runner (Session& s, bool echoesScripts) : session (s), echo (echoesScripts) {}
 
     void runLine (const std::string& line)
     {
@@ -61,9 +69,10 @@ public:
     void runFile (const std::string& name)
     {
         start (name);
-        std::ifstream file (name);
-        if (! file)
-            return complain ("cannot be read");
+        const auto complaint = complaintAbout (name);
+        std::ifstream file (std::filesystem::u8path (name), std::ios::binary);
+        if (! complaint.empty() || ! file)
+            return complain (complaint.empty() ? "cannot be read" : complaint);
         runStream (file);
     }
 
@@ -88,27 +97,38 @@ private:
     void runStream (std::istream& stream)
     {
         std::string line;
-        while (! session.isOver() && std::getline (stream, line))
+        while (! session.isOver() && std::getline (stream, line)) {
+            const auto complaint = lineNumber == 0 ? removeByteOrderMark (line) : std::string();
+            if (! complaint.empty())
+                complainAt (1, complaint);
+            if (! isText (line))
+                return complainAt (lineNumber + 1, "this is no text; the rest is passed over");
+            if (echo)
+                Session::print (echoOf (line));
             runLine (line);
+        }
     }
 
-    void complain (const std::string& text)
+    void complain (const std::string& text) { complainAt (lineNumber, text); }
+
+    void complainAt (int line, const std::string& text)
     {
         failed = true;
         std::cout.flush();
-        std::cerr << "patchbench: " << source << ":" << lineNumber << ": " << text << std::endl;
+        std::cerr << "patchbench: " << source << ":" << line << ": " << text << std::endl;
     }
 
     Session& session;
+    const bool echo;
     std::string source;
     int lineNumber = 0;
     bool failed = false;
 };
 
-Status runScripts (const Options& options, const Session::FindExternal& findExternal)
+Status runScripts (const Options& options, const Session::Externals& externals)
 {
-    Session session ({ options.deferMedium, options.trace, findExternal });
-    Runner runner (session);
+    Session session ({ options.deferMedium, options.trace, externals });
+    Runner runner (session, options.echo);
     const std::string standardInput = "-";
     for (const auto& file : options.files.empty() ? std::vector{ standardInput } : options.files) {
         if (session.isOver())
@@ -136,7 +156,7 @@ int run (int argc, const char* const* argv, const Parts& parts)
     if (parts.makeWindows)
         windows = parts.makeWindows (options.window);
     bench::setWindowDriver (windows.get());
-    const auto status = runScripts (options, parts.findExternal);
+    const auto status = runScripts (options, parts.externals);
     bench::setWindowDriver (nullptr);
     std::cout.flush();
     return status;

@@ -15,7 +15,7 @@ enum class WindowPlace
 /** What a program of this kind is made of: the externals that it can load and the windows that it can show. */
 struct Parts
 {
-    Session::FindExternal findExternal;
+    Session::Externals externals;
     std::function<std::unique_ptr<bench::WindowDriver> (WindowPlace)> makeWindows; // empty: none
 };
 

@@ -1,15 +1,20 @@
 #include "host/bench/patchbench/Session.h"
+#include "host/bench/Doze.h"
+#include "host/bench/patchbench/Advice.h"
 #include "host/bench/patchbench/Commands.h"
-#include <atomic>
+#include <algorithm>
 #include <iostream>
+#include <mutex>
 
 namespace patchbench
 {
 
-Session::Session (const Settings& settings) : bench (settings.deferMedium), findExternal (settings.findExternal)
+Session::Session (const Settings& s) : settings (s), bench (s.deferMedium)
 {
-    bench.setListener ([trace = settings.trace] (const bench::Event& event) {
-        if (trace || event.kind != bench::Event::Kind::notify)
+    bench.setListener ([this] (const bench::Event& event) {
+        if (event.kind == bench::Event::Kind::window)
+            followWindow (event);
+        if (settings.trace || event.kind != bench::Event::Kind::notify)
             print (lineOf (event));
     });
 }
@@ -21,7 +26,7 @@ void Session::run (const std::string& line)
         return;
     const auto* command = findCommand (words.front().text);
     if (command == nullptr)
-        throw CommandError ("unknown command \"" + words.front().text + "\"");
+        throw CommandError ("unknown command \"" + shortened (words.front().text) + "\"" + adviceFor (*this, words));
     const auto arguments = words.size() - 1;
     if (arguments < command->fewest || arguments > command->most)
         throw CommandError (std::string ("usage: ") + command->usage);
@@ -49,7 +54,7 @@ bool Session::load (const std::string& className)
 {
     if (class_findbyname (CLASS_BOX, gensym (className.c_str())) != nullptr)
         return true;
-    const auto entry = findExternal ? findExternal (className) : nullptr;
+    const auto entry = settings.externals.find ? settings.externals.find (className) : nullptr;
     if (entry != nullptr)
         bench.load (entry);
     return entry != nullptr;
@@ -57,17 +62,56 @@ bool Session::load (const std::string& className)
 
 namespace
 {
-std::atomic<const char*> lineStart{ "" };
-std::atomic<int> lines{ 0 };
+std::atomic<bool> isInterrupted{ false };
+std::mutex printerMutex;
+std::function<void (const std::string&)> linePrinter;
+}
+
+void Session::interrupt (bool interrupted)
+{
+    isInterrupted = interrupted;
+    bench::wakeMainThread();
+}
+
+void Session::followWindow (const bench::Event& event)
+{
+    if (event.text == "shown")
+        openWindows.insert (event.box);
+    else if (event.text == "hidden" || event.text == "destroyed")
+        openWindows.erase (event.box);
+}
+
+void Session::wait (int milliseconds)
+{
+    bench.waitFor (milliseconds, -1, [] { return ! isInterrupted; });
+}
+
+void Session::waitForWindows()
+{
+    const auto* driver = bench::windowDriver();
+    if (driver == nullptr || ! driver->isOnDisplay())
+        return;
+    if (bench.isHeld())
+        throw CommandError ("no window can be closed before release");
+    bench.waitFor (bench::Bench::forEver, -1, [this] {
+        std::cout.flush();
+        return ! openWindows.empty() && ! isInterrupted;
+    });
 }
 
 void Session::print (const std::string& line)
 {
-    std::cout << lineStart.load() + line + '\n';
-    ++lines;
+    const std::lock_guard<std::mutex> lock (printerMutex);
+    if (linePrinter)
+        linePrinter (line);
+    else
+        std::cout << line + '\n';
 }
 
-void Session::setLineStart (const char* text) { lineStart = text; }
-int Session::linesPrinted() { return lines; }
+void Session::setPrinter (std::function<void (const std::string&)> printer)
+{
+    const std::lock_guard<std::mutex> lock (printerMutex);
+    linePrinter = std::move (printer);
+}
 
 }

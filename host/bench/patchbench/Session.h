@@ -1,7 +1,10 @@
 #pragma once
 #include "host/bench/Bench.h"
 #include "host/bench/WindowDriver.h"
+#include "host/bench/patchbench/MessageForms.h"
+#include <atomic>
 #include <functional>
+#include <set>
 #include <stdexcept>
 #include <string>
 
@@ -18,13 +21,19 @@ struct CommandError : std::runtime_error
 class Session
 {
 public:
-    using FindExternal = std::function<bench::Entry (const std::string& className)>;
+    /** What can be loaded: the entry point of a class, the names of all classes, and how their messages are written. */
+    struct Externals
+    {
+        std::function<bench::Entry (const std::string& className)> find;
+        std::function<std::vector<std::string>()> names;
+        MessageForms forms;
+    };
 
     struct Settings
     {
         bench::DeferMedium deferMedium = bench::DeferMedium::queue;
         bool trace = false; // prints notifications too
-        FindExternal findExternal;
+        Externals externals;
     };
 
     explicit Session (const Settings& settings);
@@ -45,19 +54,34 @@ public:
     /** Loads the external of a class unless that was done before; false if there is none. */
     bool load (const std::string& className);
 
+    [[nodiscard]] const Externals& externals() const { return settings.externals; }
+
+    /** Lets time pass, in milliseconds; waitForWindows() until no window is on the display any more. Both end at
+        once when the user interrupts. */
+    void wait (int milliseconds);
+    void waitForWindows();
+
+    /** Set by a prompt when the user presses Ctrl+C; safe in a signal handler. */
+    static void interrupt (bool interrupted);
+
     /** Writes a line of output. Any thread. */
     static void print (const std::string& line);
 
-    /** What a prompt needs to keep its own line apart from the output: a text that goes before every line, and how
-        many lines there were so far. */
-    static void setLineStart (const char* text);
-    static int linesPrinted();
+    /** Where lines go instead of standard output; null for standard output. Called on the thread that prints. */
+    static void setPrinter (std::function<void (const std::string& line)> printer);
 
+private:
+    // Outlive the bench, whose last events come while it goes.
+    const Settings settings;
+    std::set<std::string> openWindows; // names of the boxes whose window is shown; main thread
+
+public:
     bench::Thread thread = bench::Thread::main; // where sends come from
     bench::Bench bench;
 
 private:
-    FindExternal findExternal;
+    void followWindow (const bench::Event& event);
+
     bool over = false;
 };
 

@@ -19,6 +19,7 @@ public:
 
     void setSink (Sink sink) override { tell = std::move (sink); }
     bool pump() override;
+    [[nodiscard]] bool isOnDisplay() const override { return true; }
     std::string turnPage (void* object, int page) override;
     std::string pointer (void* object, const bench::PointerEvent& event) override;
     std::string key (void* object, const std::string& description) override;

@@ -1,5 +1,7 @@
 #include "host/bench/patchbench/Commands.h"
+#include <algorithm>
 #include <cmath>
+#include <filesystem>
 
 namespace patchbench
 {
@@ -43,12 +45,22 @@ constexpr ModifierRow modifiers[] = {
     { "right", &PointerEvent::right },
 };
 
+/** The words of a table, for a complaint about one that is not among them. */
+template <typename Row, std::size_t size>
+std::string wordsIn (const Row (&table)[size])
+{
+    std::string words;
+    for (const auto& row : table)
+        words += (words.empty() ? "" : ", ") + std::string (row.word);
+    return words;
+}
+
 PointerEvent::Action actionNamed (const std::string& word)
 {
     for (const auto& row : actions)
         if (word == row.word)
             return row.action;
-    throw CommandError ("unknown action \"" + word + "\"");
+    throw CommandError ("unknown action \"" + word + "\"; there are " + wordsIn (actions));
 }
 
 void addModifier (PointerEvent& event, const std::string& word)
@@ -58,7 +70,7 @@ void addModifier (PointerEvent& event, const std::string& word)
             event.*row.flag = true;
             return;
         }
-    throw CommandError ("unknown modifier \"" + word + "\"");
+    throw CommandError ("unknown modifier \"" + word + "\"; there are " + wordsIn (modifiers));
 }
 
 float coordinate (const bench::Word& word, const char* what)
@@ -102,8 +114,17 @@ void key (Session& session, const Words& words)
     report (Session::windows().key (box.object, description));
 }
 
+/** Endings that promise another kind of picture than the one that is written. */
+constexpr const char* otherPictures[] = { ".jpg", ".jpeg", ".gif", ".bmp", ".tif", ".tiff", ".webp", ".svg", ".pdf" };
+
 void shot (Session& session, const Words& words)
 {
+    auto ending = std::filesystem::u8path (words[2].text).extension().u8string();
+    std::transform (ending.begin(), ending.end(), ending.begin(),
+                    [] (char c) { return c >= 'A' && c <= 'Z' ? static_cast<char> (c - 'A' + 'a') : c; });
+    for (const auto* other : otherPictures)
+        if (ending == other)
+            throw CommandError ("shot writes PNG pictures, not " + ending + ": " + words[2].text);
     report (Session::windows().writePicture (session.box (words[1].text).object, words[2].text));
 }
 }
@@ -111,10 +132,13 @@ void shot (Session& session, const Words& words)
 const std::vector<Command>& windowCommands()
 {
     static const std::vector<Command> table = {
-        { "page", 2, 2, "page NAME N", page },
-        { "mouse", 4, 9, "mouse NAME down|drag|up|move|double|wheel X Y [DELTA] [shift] [ctrl] [alt] [right]", mouse },
-        { "key", 2, anyNumber, "key NAME DESCRIPTION", key },
-        { "shot", 2, 2, "shot NAME FILE", shot },
+        { "page", 2, 2, "page NAME N", "Turns to a page of the window: 0 time structure, 1 filters, 2 scene.",
+          "page verb 2", page },
+        { "mouse", 4, 9, "mouse NAME down|drag|up|move|double|wheel X Y [DELTA] [shift] [ctrl] [alt] [right]",
+          "Moves and presses the mouse at a pixel of the window; only wheel takes DELTA.",
+          "mouse verb down 200 250 shift", mouse },
+        { "key", 2, anyNumber, "key NAME DESCRIPTION", "Presses a key in the window.", "key verb ctrl + a", key },
+        { "shot", 2, 2, "shot NAME FILE", "Saves a picture of the window as PNG.", "shot verb picture.png", shot },
     };
     return table;
 }

@@ -25,6 +25,7 @@ public:
     void setSink (Sink sink) override;
     bool pump() override;
     [[nodiscard]] std::vector<int> descriptors() const override;
+    [[nodiscard]] bool isOnDisplay() const override { return place == Place::display; }
     std::string turnPage (void* object, int page) override;
     std::string pointer (void* object, const bench::PointerEvent& event) override;
     std::string key (void* object, const std::string& description) override;
