@@ -313,9 +313,10 @@ void Box::restore (const std::vector<NamedValues>& changes)
     constexpr const char* dictionary = "halcyra~.control saved";
     const Entry entry;
     const Count message (host->messages, true);
-    std::map<std::string, bench::Atoms> state (inside->fresh.begin(), inside->fresh.end());
+    auto state = inside->fresh;
     for (const auto& change : changes) {
-        const auto found = state.find (change.name);
+        const auto found =
+            std::find_if (state.begin(), state.end(), [&] (const auto& each) { return each.first == change.name; });
         auto atoms = atomsOf (change.values, false);
         if (found == state.end())
             inside->listener->row (Listener::Row::error, "saved: there is no attribute " + change.name);

@@ -148,9 +148,21 @@ void save (t_gobj* object, t_binbuf* buffer)
     obj_saveformat (&x->head, buffer); // the box's width
 }
 
-/** "saved ATTRIBUTE VALUES", a line of a file; alone it closes the list. */
+/** True until the next box of its patch is made, as the lines of a file are read. */
+bool isNewest (const Object& x)
+{
+    const auto* last = x.inside->canvas->gl_list;
+    while (last != nullptr && last->g_next != nullptr)
+        last = last->g_next;
+    return last == &x.head.te_g;
+}
+
+/** "saved ATTRIBUTE VALUES", a line of a file; alone it closes the list. Lines behind a younger box that could not be
+    made are not ours. */
 void saved (Object* x, t_symbol*, int count, t_atom* atoms)
 {
+    if (! isNewest (*x))
+        return;
     if (count > 0)
         x->inside->restored.push_back ({ atom_getsymbol (atoms)->s_name, valuesOf (count - 1, atoms + 1) });
     else

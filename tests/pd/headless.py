@@ -1,0 +1,167 @@
+#!/usr/bin/env python3
+"""The object in Pure Data without a display: saved state, order of messages, files, and input that makes no sense."""
+
+import re
+import shutil
+import tempfile
+import unittest
+from pathlib import Path
+
+from pd import CLASS, EXTERNALS, Patch, play
+
+
+class PdTest(unittest.TestCase):
+    def setUp(self):
+        self.folder = Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.folder)
+
+    def printed(self, patch, quit_at=50, *options):
+        """What the console of the patch shows until it quits."""
+        patch.at(quit_at, r"\; pd quit")
+        patch.write(self.folder / "test.pd")
+        status, rows = play(self.folder / "test.pd", *options)
+        self.assertEqual(status, 0, rows)
+        return rows
+
+    def control(self, patch, arguments="", name="left"):
+        box = patch.obj(f"{CLASS} {arguments}".strip())
+        printer = patch.obj(f"print {name}")
+        answers = patch.obj("print right")
+        patch.cord(box, printer)
+        patch.cord(box, answers, 1)
+        return box
+
+    def saved_lines(self, path):
+        return [line for line in path.read_text().split(";\n") if line.startswith("#A")]
+
+    def save(self, patch, at, name):
+        patch.at(at, rf"\; pd-test.pd savetofile {name} {self.folder}")
+
+
+class SavedState(PdTest):
+    def test_a_patch_that_is_saved_and_loaded_again_has_the_same_state(self):
+        patch = Patch()
+        control = self.control(patch, "@numsources 3 @windowtitle Hall")
+        patch.at(1, r"roomsize 3000 \, gain -6.123456 \, direct 0.1 -3 0 -6.5 250 4000 \, source 2 xyz 0.1234567 1 0 \, source 1 name 1 \, source 3 name two\\ words\\\, three \, viewpoint front", control)
+        self.save(patch, 5, "first.pd")
+        self.printed(patch)
+        first = self.saved_lines(self.folder / "first.pd")
+        self.assertIn("0.123456702", next(line for line in first if "sourcespositions" in line))  # more than Pd's six digits
+        self.assertEqual(first[-1], "#A saved")
+        self.assertGreater(len(first), 8)
+
+        # Loaded by another patch, which only saves it again.
+        (self.folder / "loaded.pd").write_text(re.sub(r"#X obj \d+ \d+ loadbang", "#X obj 0 0 bag", (self.folder / "first.pd").read_text()))
+        patch = Patch()
+        patch.obj("loaded")
+        patch.at(5, rf"\; pd-loaded.pd savetofile second.pd {self.folder}")
+        rows = self.printed(patch)
+        self.assertEqual(self.saved_lines(self.folder / "second.pd"), first)
+        self.assertIn("left: reverb gain -6.12", rows)
+
+    def test_a_fresh_object_saves_nothing(self):
+        patch = Patch()
+        self.control(patch, "@gain -3")
+        self.save(patch, 5, "first.pd")
+        self.printed(patch)
+        self.assertEqual(self.saved_lines(self.folder / "first.pd"), [])
+
+    def test_lines_that_are_damaged_are_logged_and_the_others_are_taken(self):
+        patch = Patch()
+        control = self.control(patch)
+        patch.saved(control, "saved gain -6", "saved nonsense 1 2", "saved direct 1 2", "saved")
+        unclosed = self.control(patch)
+        patch.saved(unclosed, "saved tr0 3")
+        patch.at(5, "getgain", control)
+        patch.at(6, "gettr0", unclosed)
+        rows = self.printed(patch)
+        self.assertIn(f"error: {CLASS}: saved: there is no attribute nonsense", rows)
+        self.assertIn(f"error: {CLASS}: saved direct: 6 values were expected, 2 were found", rows)
+        self.assertIn("right: gain -6", rows)
+        self.assertIn("right: tr0 3", rows)
+
+    def test_lines_behind_an_object_that_cannot_be_made_reach_no_other(self):
+        patch = Patch()
+        control = self.control(patch)
+        broken = patch.obj(f"{CLASS}.nothing")
+        patch.saved(broken, "saved gain -6", "saved")
+        patch.at(5, "getgain", control)
+        rows = self.printed(patch)
+        self.assertIn("right: gain 0", rows)
+
+
+class Messages(PdTest):
+    def test_an_object_has_sent_everything_when_its_message_returns(self):
+        patch = Patch()
+        control = self.control(patch)
+        before, after = patch.obj("print before"), patch.obj("print after")
+        trigger = patch.obj("t b a b")
+        patch.cord(trigger, before, 2)
+        patch.cord(trigger, control, 1)
+        patch.cord(trigger, after, 0)
+        patch.at(5, "tr0 3", trigger)
+        rows = self.printed(patch)
+        start = rows.index("before: bang")
+        self.assertEqual(rows[start + 1 : start + 3], ["left: reverb tr0 3", "after: bang"])
+
+    def test_what_one_object_sends_the_next_understands(self):
+        patch = Patch()
+        first, second = self.control(patch), self.control(patch, name="second")
+        patch.cord(first, second)
+        patch.at(5, "gain -6", first)
+        self.assertIn("second: reverb gain -6", self.printed(patch))
+
+    def test_a_missing_display_is_logged_once(self):
+        patch = Patch()
+        control = self.control(patch)
+        patch.at(5, r"open \, open \, vis 1", control)
+        rows = self.printed(patch)
+        self.assertEqual(rows.count(f"error: {CLASS}: open: there is no display to show the window on"), 1)
+
+    def test_file_names_are_relative_to_the_patch_and_a_missing_one_is_asked_for(self):
+        patch = Patch()
+        control = self.control(patch)
+        patch.at(5, r"store here \, writesnapshot kept.xml \, writesnapshot \, exportdict state.json", control)
+        patch.write(self.folder / "other.pd")
+        elsewhere = self.folder / "elsewhere"
+        elsewhere.mkdir()
+        patch.at(9, r"\; pd quit")
+        patch.write(self.folder / "test.pd")
+        _, rows = play(self.folder / "test.pd", folder=elsewhere)
+        self.assertTrue((self.folder / "kept.xml").exists(), rows)
+        self.assertTrue((self.folder / "state.json").exists(), rows)
+        self.assertIn(f"error: {CLASS}: writesnapshot: a file name is needed, since there is no GUI to ask for one", rows)
+
+
+class BadInput(PdTest):
+    def test_arguments_and_messages_that_make_no_sense_leave_an_object_that_works(self):
+        for arguments in ("1 2 3", "@numsources -5", "@numsources words", "@nonsense 4", "@numsources 1e+30", "@gain", "@ @ @"):
+            with self.subTest(arguments):
+                patch = Patch()
+                control = self.control(patch, arguments)
+                patch.at(5, r"symbol x \, 1 2 3 \, list a b \, gain \, gain a b \, nonsense \, saved \, getgain \, callback x", control)
+                self.assertIn("right: gain 0", self.printed(patch))
+
+    def test_a_second_copy_of_the_external_on_the_path_does_no_harm(self):
+        shutil.copy(next(EXTERNALS.glob("*.pd_linux")), self.folder)
+        patch = Patch()
+        self.control(patch)
+        other = patch.obj(f"{self.folder.name}/{CLASS}")
+        patch.cord(other, patch.obj("print other"))
+        patch.at(5, "getgain", 0)
+        patch.at(6, "tr0 3", other)
+        rows = self.printed(patch, 50, "-path", str(self.folder.parent))
+        self.assertIn("right: gain 0", rows)
+
+    def test_a_hundred_objects_live_in_one_patch(self):
+        patch = Patch()
+        for _ in range(100):
+            self.control(patch)
+        patch.at(5, r"tr0 3 \, gettr0", *range(0, 300, 3))
+        rows = self.printed(patch)
+        self.assertEqual(rows.count("left: reverb tr0 3"), 100)
+        self.assertEqual(rows.count("right: tr0 3"), 100)
+
+
+if __name__ == "__main__":
+    unittest.main()
