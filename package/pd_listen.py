@@ -25,38 +25,33 @@ FADE = 30  # ms
 
 
 class Patch:
-    """Boxes in columns, one for each section, in the order in which they are made."""
+    """Boxes in sections side by side; in a section each box stands below those that feed it."""
+
+    ROW, CHARACTER = 30, 6  # pixels
+    WIDEST = 1400
 
     def __init__(self, about):
-        self.items, self.cords, self.column, self.ports = [], [], -1, 0
+        self.boxes, self.cords, self.sections = [], [], []
         self.section(about)
 
     def section(self, about):
-        self.column, self.y = self.column + 1, 20
-        self.put("text", about.replace(",", " \\,") + ", f 34", 24 + 14 * (len(about) // 30))
+        self.sections.append((about, len(self.boxes)))
 
-    def put(self, kind, text, height=26):
-        self.items.append(f"#X {kind} {20 + 270 * self.column} {self.y} {text};")
-        self.y += height
-        if self.y > 900:
-            self.column, self.y = self.column + 1, 20
-        return len(self.items) - 1
+    def put(self, kind, text):
+        self.boxes.append((kind, text))
+        return len(self.boxes) - 1
 
     def obj(self, text, *inlets):
         """An object with what its inlets are connected to: a box, (box, outlet), or None."""
         text = text.replace("$", "\\$").replace(",", " \\,").replace(";", " \\;")
-        box = self.put("obj", text, 26 + 16 * (len(text) // 34))
+        box = self.put("obj", text)
         for number, source in enumerate(inlets):
             if source is not None:
                 self.cord(source, box, number)
         return box
 
     def port(self, kind):
-        """Pd orders inlets and outlets by their places."""
-        self.ports += 1
-        top = 0 if kind.startswith("inlet") else 960
-        self.items.append(f"#X obj {20 + 90 * self.ports} {top} {kind};")
-        return len(self.items) - 1
+        return self.put("obj", kind)
 
     def msg(self, text, source=None):
         box = self.put("msg", text.replace("$", "\\$").replace(",", " \\,").replace(";", " \\;"))
@@ -66,7 +61,7 @@ class Patch:
 
     def cord(self, source, destination, inlet=0):
         source, outlet = source if isinstance(source, tuple) else (source, 0)
-        self.cords.append(f"#X connect {source} {outlet} {destination} {inlet};")
+        self.cords.append((source, outlet, destination, inlet))
 
     def smooth(self, source):
         """A control value as a signal without steps."""
@@ -91,10 +86,45 @@ class Patch:
             first = self.obj("+~", first, other)
         return first
 
+    def layers(self):
+        """How far each box stands below what feeds it; what leads back to an older box does not count."""
+        depth = [1] * len(self.boxes)
+        for box, (_, text) in enumerate(self.boxes):
+            feeders = [depth[source] for source, _, destination, _ in self.cords if destination == box and source < box]
+            depth[box] = 0 if text.startswith("inlet") else 1 + max(feeders, default=0)
+        lowest = max(depth) + 1
+        return [lowest if text.startswith("outlet") else layer for layer, (_, text) in zip(depth, self.boxes)]
+
+    def places(self):
+        """Row by row, a long row going on below; Pd orders inlets and outlets by their places, so they keep theirs."""
+        layers, places, top = self.layers(), [None] * len(self.boxes), 10
+        ends = [first for _, first in self.sections[1:]] + [len(self.boxes)]
+        titles = []
+        for (about, first), end in zip(self.sections, ends):
+            titles.append((about, top))
+            y = top + 24
+            for layer in sorted({layers[box] for box in range(first, end)}):
+                x = 20
+                for box in (box for box in range(first, end) if layers[box] == layer):
+                    width = len(self.boxes[box][1].replace("\\", "")) * self.CHARACTER + 30
+                    if x + width > self.WIDEST:
+                        x, y = 20, y + self.ROW
+                    places[box] = (x, y)
+                    x += width
+                y += self.ROW
+            top = y + 10
+        return places, titles, top
+
     def write(self, path):
         path.parent.mkdir(parents=True, exist_ok=True)
-        width = min(1500, 300 + 270 * self.column)
-        path.write_text("\n".join([f"#N canvas 40 40 {width} 1000 10;", *self.items, *self.cords]) + "\n", encoding="utf-8")
+        places, titles, bottom = self.places()
+        lines = [f"#N canvas 40 40 {self.WIDEST} {min(bottom + 20, 1000)} 10;"]
+        for (kind, text), (x, y) in zip(self.boxes, places):
+            lines.append(f"#X {kind} {x} {y} {text}, f {max(len(text.replace(chr(92), '')), 3)};")
+        for about, y in titles:
+            lines.append("#X text 20 {} {}, f 200;".format(y, about.replace(",", " \\,")))
+        lines += ["#X connect {} {} {} {};".format(*cord) for cord in self.cords]
+        path.write_text("\n".join(lines) + "\n", encoding="utf-8")
 
 
 def bands():
@@ -178,7 +208,7 @@ def source():
     p.cord((azimuth, 1), distance)
 
     p.section("Direct sound: it comes later and softer from farther away, from between the first two speakers")
-    late = p.obj(f"delread4~ $0-line", p.smooth(p.obj(f"expr $f1*1000/{SPEED_OF_SOUND}", distance)))
+    late = p.obj("delread4~ $0-line", p.smooth(p.obj(f"expr $f1*1000/{SPEED_OF_SOUND}", distance)))
     direct = p.obj("*~", late, p.smooth(p.obj("expr 1/$f1", distance)))
     place = p.obj("pack f f f")  # azimuth of the source, middle and half width of the base
     p.cord((spherical, 0), place)
@@ -345,10 +375,12 @@ def example():
     ]
     messages = []
     for number, (text, remark) in enumerate(rows):
-        y = 96 + 30 * number
+        y = 96 + 30 * number + (14 if number else 0)
         messages.append(add(f"#X msg 24 {y} {text};"))
-        add(f"#X text 250 {y} {remark}, f 26;")
-    control = add("#X obj 24 386 halcyra~.control @numsources 2 @numspeakers 2;")
+        add("#X text 250 {} {}, f 26;".format(y, remark.replace(",", " \\,")))
+    load, everything = add("#X obj 24 380 loadbang;"), add("#X msg 24 408 bang;")
+    add(r"#X text 250 408 everything once, f 26;")
+    control = add("#X obj 24 442 halcyra~.control @numsources 2 @numspeakers 2;")
     for message in messages[1:]:
         cord(message, control)
     add("#X text 460 96 3: click to play, f 22;")
@@ -361,20 +393,18 @@ def example():
     louder = add("#X obj 460 290 *~ 4;")
     for source, destination, inlet in ((bang, hit, 0), (hit, envelope, 0), (envelope, struck, 0), (noise, struck, 1), (struck, body, 0), (body, louder, 0)):
         cord(source, destination, 0, inlet)
-    listen_box = add("#X obj 24 440 halcyra-listen~ 2 hearing;")
-    add(r"#X text 240 440 settings \, source 1 \, source 2, f 50;")
+    listen_box = add("#X obj 24 486 halcyra-listen~ 2 hearing;")
+    add(r"#X text 240 486 settings \, source 1 \, source 2, f 50;")
     cord(control, listen_box)
     cord(louder, listen_box, 0, 1)
-    sides = [add(f"#X obj {24 + 90 * side} 476 *~ 0.5;") for side in (0, 1)]
-    dac = add("#X obj 24 512 dac~ 1 2;")
+    sides = [add(f"#X obj {24 + 90 * side} 522 *~ 0.5;") for side in (0, 1)]
+    dac = add("#X obj 24 558 dac~ 1 2;")
     for side, box in enumerate(sides):
         cord(listen_box, box, side)
         cord(box, dac, 0, side)
-    load = add("#X obj 460 386 loadbang;")
-    everything = add("#X msg 460 414 bang;")
     cord(load, everything)
     cord(everything, control)
-    return "\n".join(["#N canvas 80 60 720 560 12;", *items, *cords]) + "\n"
+    return "\n".join(["#N canvas 80 60 720 610 12;", *items, *cords]) + "\n"
 
 
 def main():

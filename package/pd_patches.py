@@ -200,7 +200,15 @@ class Page:
             bottom = self.tail(content, bottom + 18)
         for source, outlet, destination in content.get("cords", []):
             self.cord(self.named[source], self.named[destination], outlet)
+        self.check_apart()
         return max(x + w for x, _, w, _ in self.place) + MARGIN, bottom + MARGIN
+
+    def check_apart(self):
+        """Ends with a message if two boxes overlap."""
+        for number, (ax, ay, aw, ah) in enumerate(self.place):
+            for other, (bx, by, bw, bh) in enumerate(self.place[number + 1 :], number + 1):
+                if ax < bx + bw and bx < ax + aw and ay < by + bh and by < ay + ah:
+                    sys.exit(f"overlap: {self.items[number]} {self.items[other]}")
 
     def links(self, content, y):
         """The other pages, as subpatches in rows."""
