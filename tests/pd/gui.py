@@ -62,13 +62,16 @@ def key(window, *keys):
 class Pd:
     """A running Pd whose patch listens on a socket: say() sends a message to a box."""
 
-    def __init__(self, folder, *options, gui=False, objects=1):
+    def __init__(self, folder, *options, gui=False, objects=1, arguments="", sound=False):
         with socket.socket() as free:
             free.bind(("127.0.0.1", 0))
             self.port = free.getsockname()[1]
         patch = Patch()
         self.folder, names = folder, [f"c{number}" for number in range(objects)]
-        boxes = [patch.obj(f"{CLASS} @windowtitle {name}") for name in names]
+        boxes = [patch.obj(f"{CLASS} @windowtitle {name} {arguments}".strip()) for name in names]
+        if sound:  # a signal that is never silent
+            patch.cord(patch.obj("sig~ 0.5"), patch.obj("dac~ 1"))
+            patch.at(1, r"\; pd dsp 1")
         receiver, route = patch.obj(f"netreceive {self.port}"), patch.obj("route " + " ".join([*names, "quit"]))
         patch.cord(receiver, route)
         for number, box in enumerate(boxes):
