@@ -1,9 +1,9 @@
 # Scripts of the bench with their expected output beside them, one CTest entry each.
 
-# halcyra_add_transcripts(PREFIX transcripts PROGRAM patchbench): every *.patch of the current folder.
+# halcyra_add_transcripts(PREFIX transcripts PROGRAM patchbench): every *.bench of the current folder.
 function(halcyra_add_transcripts)
     cmake_parse_arguments(ARG "" "PREFIX;PROGRAM" "" ${ARGN})
-    file(GLOB scripts CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.patch")
+    file(GLOB scripts CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.bench")
     foreach(script IN LISTS scripts)
         cmake_path(GET script STEM name)
         add_test(NAME "${ARG_PREFIX}.${name}"

@@ -69,6 +69,15 @@ void wait (Session& session, const Words& words)
     session.bench.wait (static_cast<int> (time));
 }
 
+/** A line of the script's own in the output. */
+void mark (Session&, const Words& words)
+{
+    std::string line = "- mark";
+    for (std::size_t i = 1; i < words.size(); ++i)
+        line += " " + words[i].text;
+    Session::print (line);
+}
+
 void hold (Session& session, const Words&) { session.bench.hold(); }
 void release (Session& session, const Words&) { session.bench.release(); }
 void quit (Session& session, const Words&) { session.quit(); }
@@ -93,6 +102,7 @@ const std::vector<Command>& patchCommands()
         { "hold", 0, 0, "hold", hold },
         { "release", 0, 0, "release", release },
         { "wait", 1, 1, "wait MS", wait },
+        { "mark", 0, anyNumber, "mark [TEXT ...]", mark },
         { "help", 0, 0, "help", help },
         { "quit", 0, 0, "quit", quit },
     };
