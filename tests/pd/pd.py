@@ -10,6 +10,7 @@ sys.dont_write_bytecode = True
 ROOT = Path(__file__).resolve().parents[2]
 EXTERNALS = Path(os.environ.get("HALCYRA_PD_FOLDER", ROOT / "build/release/pd"))
 CLASS = "halcyra~.control"
+UNDER = os.environ.get("HALCYRA_PD_UNDER", "").split()  # a program that watches Pd, with its options
 QUIET = ["-noprefs", "-nrt", "-noaudio", "-nomidi", "-stderr"]
 
 
@@ -58,6 +59,6 @@ def play(path, *options, timeout=120, display=False, folder=None):
     environment = dict(os.environ)
     if not display:
         environment.pop("DISPLAY", None)
-    command = ["puredata", "-nogui", "-batch", *QUIET, "-path", EXTERNALS, *options, path]
+    command = [*UNDER, "puredata", "-nogui", "-batch", *QUIET, "-path", EXTERNALS, *options, path]
     run = subprocess.run(command, cwd=folder or Path(path).parent, env=environment, capture_output=True, text=True, errors="replace", timeout=timeout)
     return run.returncode, run.stderr.splitlines()
