@@ -42,10 +42,11 @@ class SavedState(PdTest):
     def test_a_patch_that_is_saved_and_loaded_again_has_the_same_state(self):
         patch = Patch()
         control = self.control(patch, "@numsources 3 @windowtitle Hall")
-        patch.at(1, r"roomsize 3000 \, gain -6.123456 \, direct 0.1 -3 0 -6.5 250 4000 \, source 2 xyz 0.1234567 1 0 \, source 1 name 1 \, source 3 name two\\ words\\\, three \, viewpoint front", control)
+        patch.at(1, r"roomsize 3000 \, gain -6.123456 \, direct 0.1 -3 0 -6.5 250 4000 \, source 2 xyz 0.1234567 1 0 \, source 1 name 7 \, source 3 name two\ words \, viewpoint front", control)
         self.save(patch, 5, "first.pd")
         self.printed(patch)
         first = self.saved_lines(self.folder / "first.pd")
+        self.assertIn(r"#A saved name 7 2 two\ words", first)
         self.assertIn("0.123456702", next(line for line in first if "sourcespositions" in line))  # more than Pd's six digits
         self.assertEqual(first[-1], "#A saved")
         self.assertGreater(len(first), 8)
@@ -104,12 +105,17 @@ class Messages(PdTest):
         start = rows.index("before: bang")
         self.assertEqual(rows[start + 1 : start + 3], ["left: reverb tr0 3", "after: bang"])
 
-    def test_what_one_object_sends_the_next_understands(self):
+    def test_what_one_object_sends_the_next_has_understood_when_the_cord_returns(self):
         patch = Patch()
         first, second = self.control(patch), self.control(patch, name="second")
-        patch.cord(first, second)
-        patch.at(5, "gain -6", first)
-        self.assertIn("second: reverb gain -6", self.printed(patch))
+        before, after, trigger = patch.obj("print before"), patch.obj("print after"), patch.obj("t b a b")
+        patch.cord(first, trigger)
+        for outlet, receiver in ((2, before), (1, second), (0, after)):
+            patch.cord(trigger, receiver, outlet)
+        patch.at(5, "tr0 3", first)
+        rows = self.printed(patch)
+        start = rows.index("second: reverb tr0 3")
+        self.assertEqual((rows[start - 1], rows[start + 1]), ("before: bang", "after: bang"))
 
     def test_a_missing_display_is_logged_once(self):
         patch = Patch()
