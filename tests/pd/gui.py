@@ -173,6 +173,15 @@ class Window(GuiTest):
                     jack.send_signal(signal.SIGTERM)
                     jack.wait()
 
+    def test_the_window_is_hidden_by_its_button_by_its_key_and_by_message_and_comes_back(self):
+        pd = self.pd()
+        for hide in (lambda window: run("wmctrl", "-i", "-c", window), lambda window: key(window, "ctrl+w"), lambda _: pd.say("c0 wclose"), lambda _: pd.say("c0 vis 0")):
+            window = pd.open()
+            hide(window)
+            until(lambda: not windows("^c0$"), "the window is hidden")
+        pd.say("c0 vis 1")
+        until(lambda: windows("^c0$"), "the window is shown")
+
     def test_two_objects_have_a_window_each(self):
         pd = self.pd(objects=2)
         pd.open("c0")
@@ -266,6 +275,12 @@ class PdWindow(GuiTest):
         self.it.say("c0 gettr0")
         self.assertRegex(self.it.heard(r"c0\.1: tr0"), "tr0 7$")
         self.assertEqual(self.it.quit(), 0)
+
+    def test_properties_in_the_menu_of_the_box_open_the_window(self):
+        click(self.canvas, BOX[0] + 90, BOX[1] + 10 + MENU, button=3)
+        time.sleep(0.5)
+        run("xdotool", "key", "Down", "Return")
+        until(lambda: windows("^c0$"), "the window of the object")
 
     def test_a_duplicate_has_the_state_of_its_original(self):
         self.it.say("c0 tr0 7")
