@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """The object in Pure Data without a display: saved state, order of messages, files, and input that makes no sense."""
 
+import random
 import re
 import shutil
 import tempfile
@@ -89,6 +90,65 @@ class SavedState(PdTest):
         patch.at(5, "getgain", control)
         rows = self.printed(patch)
         self.assertIn("right: gain 0", rows)
+
+
+class ExactRecall(PdTest):
+    """States that the object can reach come back as they were, in one go, whatever limits their values set each other."""
+
+    COUNT = 30
+
+    def states(self):
+        """Messages that lead to states in which the linked times stand close to each other."""
+        dice = random.Random(5)
+        for _ in range(self.COUNT):
+            pick = lambda low, high: f"{dice.uniform(low, high):.2f}"
+            messages = [f"roomsize {dice.randint(10, 15000)}"]
+            for word, low, high in (("reverb start", 1, 500), ("cluster end", 1, 300), ("cluster start", 1, 300), ("early end", 1, 120), ("early start", 1, 120), ("reverb tr0", 0.1, 30), ("reverb modaldensity", 0.2, 4), ("early distr", 0.1, 0.9), ("reverb fl", 20, 20000)):
+                if dice.random() < 0.6:
+                    messages.append(f"{word} {pick(low, high)}")
+            dice.shuffle(messages)
+            yield r" \, ".join([*messages, f"direct {pick(-60, 10)} 1 2 3 {pick(20, 20000)} {pick(20, 20000)}"])
+
+    def saved_by_object(self, path):
+        """The lines behind each of our objects, but for positions, which a cord rounds."""
+        objects = path.read_text().split(f" {CLASS}")[1:]
+        return [[line for line in text.split(";\n") if line.startswith("#A") and "positions" not in line] for text in objects]
+
+    def assert_pairs_are_equal(self, states, copies):
+        different = sum(state != copy for state, copy in zip(states, copies))
+        self.assertEqual((len(states), len(copies), different), (self.COUNT, self.COUNT, 0))
+
+    @unittest.expectedFailure  # until a recall is one transaction
+    def test_saved_states_come_back(self):
+        patch = Patch()
+        for state in self.states():
+            patch.at(1, state, self.control(patch))
+        self.save(patch, 5, "first.pd")
+        self.printed(patch)
+        (self.folder / "loaded.pd").write_text(re.sub(r"#X obj \d+ \d+ loadbang", "#X obj 0 0 bag", (self.folder / "first.pd").read_text()))
+        patch = Patch()
+        patch.obj("loaded")
+        patch.at(5, rf"\; pd-loaded.pd savetofile second.pd {self.folder}")
+        self.printed(patch)
+        first, second = (self.saved_by_object(self.folder / name) for name in ("first.pd", "second.pd"))
+        self.assert_pairs_are_equal(first, second)
+
+    @unittest.expectedFailure  # likewise
+    def test_a_bang_over_a_cord_copies_the_state(self):
+        patch = Patch()
+        for state, before in zip(self.states(), reversed(list(self.states()))):
+            one, other = patch.obj(CLASS), patch.obj(CLASS)
+            patch.at(1, before, other)
+            patch.at(2, state, one)
+            gate = patch.obj("spigot")
+            patch.cord(one, gate)
+            patch.cord(gate, other)
+            patch.at(3, "1", (gate, 1))
+            patch.at(4, "bang", one)
+        self.save(patch, 5, "first.pd")
+        self.printed(patch)
+        lines = self.saved_by_object(self.folder / "first.pd")
+        self.assert_pairs_are_equal(lines[0::2], lines[1::2])
 
 
 class Messages(PdTest):

@@ -38,14 +38,15 @@ class Patch:
         self.cords.append(f"#X connect {source} {outlet} {destination} {inlet};")
 
     def at(self, milliseconds, text, *receivers):
-        """A message that is sent at a time after loading."""
+        """A message that is sent at a time after loading; a receiver is a box or (box, inlet)."""
         if not hasattr(self, "start"):
             self.start = self.obj("loadbang")
         delay, message = self.obj(f"delay {milliseconds}"), self.msg(text)
         self.cord(self.start, delay)
         self.cord(delay, message)
         for receiver in receivers:
-            self.cord(message, receiver)
+            box, inlet = receiver if isinstance(receiver, tuple) else (receiver, 0)
+            self.cord(message, box, 0, inlet)
 
     def write(self, path):
         lines = ["#N canvas 0 0 600 400 12;"]
