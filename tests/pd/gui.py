@@ -182,6 +182,16 @@ class Window(GuiTest):
         pd.say("c0 vis 1")
         until(lambda: windows("^c0$"), "the window is shown")
 
+    def test_no_thread_of_ours_runs_at_real_time_priority(self):
+        pd = self.pd("-rt")
+        pd.open()
+        time.sleep(0.5)
+        policies = {int(task): os.sched_getscheduler(int(task)) for task in os.listdir(f"/proc/{pd.process.pid}/task")}
+        if policies.pop(pd.process.pid) != os.SCHED_FIFO:
+            self.skipTest("Pd may not run at real-time priority here")
+        self.assertGreaterEqual(len(policies), 1)
+        self.assertEqual(set(policies.values()), {os.SCHED_OTHER})
+
     def test_two_objects_have_a_window_each(self):
         pd = self.pd(objects=2)
         pd.open("c0")
