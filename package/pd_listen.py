@@ -27,7 +27,7 @@ FADE = 30  # ms
 class Patch:
     """Boxes in sections side by side; in a section each box stands below those that feed it."""
 
-    ROW, CHARACTER = 30, 6  # pixels
+    ROW, CHARACTER = 34, 6  # pixels
     WIDEST = 1400
 
     def __init__(self, about):
@@ -69,15 +69,12 @@ class Patch:
 
     def formula(self, text, *names):
         """An expression of values that are received by these names; it is computed whenever one of them arrives."""
-        box = self.obj(f"expr {text}")
-        for number, name in enumerate(names):
-            value = self.obj(f"r $0-{name}")
-            if number == 0:
-                self.cord(value, box)
-            else:
-                order = self.obj("t b f", value)
-                self.cord((order, 1), box, number)
-                self.cord((order, 0), box)
+        first, *others = [self.obj(f"r $0-{name}") for name in names]
+        orders = [self.obj("t b f", value) for value in others]
+        box = self.obj(f"expr {text}", first)
+        for number, order in enumerate(orders, 1):
+            self.cord((order, 1), box, number)
+            self.cord((order, 0), box)
         return box
 
     def total(self, signals):
@@ -115,16 +112,29 @@ class Patch:
             top = y + 10
         return places, titles, top
 
+    def sub(self, name, inner, *inlets):
+        """A subpatch with what its inlets are connected to."""
+        box = self.put(inner, f"pd {name}")
+        for number, source in enumerate(inlets):
+            self.cord(source, box, number)
+        return box
+
+    def lines(self, frame):
+        """The statements of the file; a frame of subpatches tells their name and that they are closed."""
+        places, titles, bottom = self.places()
+        lines = [f"#N canvas 40 40 {self.WIDEST if bottom > 500 else 900} {min(bottom + 40, 900)} {frame};"]
+        for (kind, text), (x, y) in zip(self.boxes, places):
+            if isinstance(kind, Patch):
+                lines += [*kind.lines(f"{text[3:]} 0"), f"#X restore {x} {y} {text};"]
+            else:
+                lines.append(f"#X {kind} {x} {y} {text}, f {max(len(text.replace(chr(92), '')), 3)};")
+        for about, y in titles:
+            lines.append("#X text 20 {} {}, f 140;".format(y, about.replace(",", " \\,")))
+        return lines + ["#X connect {} {} {} {};".format(*cord) for cord in self.cords]
+
     def write(self, path):
         path.parent.mkdir(parents=True, exist_ok=True)
-        places, titles, bottom = self.places()
-        lines = [f"#N canvas 40 40 {self.WIDEST} {min(bottom + 20, 1000)} 10;"]
-        for (kind, text), (x, y) in zip(self.boxes, places):
-            lines.append(f"#X {kind} {x} {y} {text}, f {max(len(text.replace(chr(92), '')), 3)};")
-        for about, y in titles:
-            lines.append("#X text 20 {} {}, f 200;".format(y, about.replace(",", " \\,")))
-        lines += ["#X connect {} {} {} {};".format(*cord) for cord in self.cords]
-        path.write_text("\n".join(lines) + "\n", encoding="utf-8")
+        path.write_text("\n".join(self.lines("10")) + "\n", encoding="utf-8")
 
 
 def bands():
@@ -243,34 +253,48 @@ def filters(p, route):
         p.obj(f"s $0-{name}", packed)
 
 
-def stage(p, prefix, shaped):
-    """Taps of the early reflections or of the cluster, as left and right."""
-    left, right = [], []
-    for number, place in enumerate(PLACES):
+def echo(prefix, number, shaped):
+    """One tap of a stage: left and right of an early reflection, or the one side of the cluster's."""
+    p = Patch(f"Echo {number + 1} of {TAPS}, where the delay generator puts it between start and end")
+    place = PLACES[number]
+    if place == 0:
+        time = p.formula("$f1", f"{prefix}-start")
+    else:
         exponent = 1 / (1 / MEAN - 1)
-        if place == 0:
-            time = p.formula("$f1", f"{prefix}-start")
-        else:
-            power = f"pow({place:.6f},(1/max($f3,0.1)-1)*{exponent:.6f})"
-            time = p.formula(f"{power}*max($f2-$f1,{SMALLEST_SPAN})+$f1", f"{prefix}-start", f"{prefix}-end", f"{prefix}-distr")
-        signal = p.obj("halcyra-listen-tap~ $0-bus", time)
-        sign = -1 if SIGNS[number] == "-" else 1
-        side = 1 if number % 2 else -1
+        power = f"pow({place:.6f},(1/max($f3,0.1)-1)*{exponent:.6f})"
+        time = p.formula(f"{power}*max($f2-$f1,{SMALLEST_SPAN})+$f1", f"{prefix}-start", f"{prefix}-end", f"{prefix}-distr")
+    signal = p.obj("halcyra-listen-tap~ $0-bus", time)
+    sign = -1 if SIGNS[number] == "-" else 1
+    if not shaped:
+        p.cord(p.obj(f"*~ {sign * 0.3}", signal), p.port("outlet~"))
+        return p
+    p.section("The ramp of the shape, and the width to both sides, farther out for later echoes")
+    ramp = p.formula(f"{sign}*{TAPS}*pow(if($f1>0,{number + 1},{TAPS - number})/{TAPS}.,$f2)/$f3*0.25", "rising", "exponent", "ramp-sum")
+    signal = p.obj("*~", signal, p.smooth(ramp))
+    side = 1 if number % 2 else -1
+    angle = p.formula(f"({side}*min($f1*{(number + 1) / TAPS:g}/90,1)+1)*0.7853982", f"{prefix}-width")
+    pan = p.obj("expr cos($f1);sin($f1)", angle)
+    for outlet in (0, 1):
+        p.cord(p.obj("*~", signal, p.smooth((pan, outlet))), p.port("outlet~"))
+    return p
+
+
+def stage(p, prefix, shaped):
+    """The echoes of the early reflections or of the cluster, as left and right."""
+    left, right = [], []
+    for number in range(TAPS):
+        box = p.sub(f"{prefix}-{number + 1}", echo(prefix, number, shaped))
         if shaped:
-            # The ramp of the shape, and the width to both sides, farther out for later taps.
-            ramp = p.formula(f"{sign}*{TAPS}*pow(if($f1>0,{number + 1},{TAPS - number})/{TAPS}.,$f2)/$f3*0.25", "rising", "exponent", "ramp-sum")
-            signal = p.obj("*~", signal, p.smooth(ramp))
-            angle = p.formula(f"({side}*min($f1*{(number + 1) / TAPS:g}/90,1)+1)*0.7853982", f"{prefix}-width")
-            pan = p.obj("expr cos($f1);sin($f1)", angle)
-            left.append(p.obj("*~", signal, p.smooth((pan, 0))))
-            right.append(p.obj("*~", signal, p.smooth((pan, 1))))
+            left.append((box, 0))
+            right.append((box, 1))
         else:
-            (left if side < 0 else right).append(p.obj(f"*~ {sign * 0.3}", signal))
+            (right if number % 2 else left).append(box)
     return p.total(left), p.total(right)
 
 
-def ramp(p):
+def ramp():
     """The exponent of the early shape's ramp, as the early gains have it."""
+    p = Patch("The ramp of the early reflections' gains: whether it rises, its exponent, its sum")
     text = "if($f1<=0.25,1/max(4*$f1,0.000001),if($f1<=0.5,1-4*($f1-0.25),if($f1<=0.75,4*($f1-0.5),1/(1-min(4*($f1-0.75),0.9999)))))"
     exponent = p.formula(text, "early-shape")
     p.obj("s $0-rising", p.formula("$f1>0.5", "early-shape"))
@@ -278,36 +302,44 @@ def ramp(p):
     power = "+".join(f"pow({number / TAPS:g},$f1)" for number in range(1, TAPS + 1))
     p.obj("s $0-ramp-sum", p.obj(f"expr {power}", (order, 1)))
     p.obj("s $0-exponent", (order, 0))
+    return p
+
+
+def loop(number):
+    """One loop of the late reverberation: what comes out of it, and what enters it from the room."""
+    share = LOOPS[number] / sum(LOOPS)
+    p = Patch(f"Loop {number + 1} of {len(LOOPS)}: absorption in three bands at every turn, and by the air")
+    is_open, air = p.port("inlet~"), p.port("inlet~")
+    signal = p.obj(f"halcyra-listen-tap~ $0-loop{number}", p.formula(f"$f1*1000*{share:.6f}", "modaldensity"))
+    decay = lambda ratio: f"if($f6!=0,1,pow(10,-3*$f1*{share:.6f}/max($f2*$f{ratio},0.01)))"
+    gains = p.formula(f"$f7;$f8;{decay(3)};{decay(4)};{decay(5)}", "modaldensity", "tr0", "trl", "trm", "trh", "infinite", "fl", "fh")
+    packed = p.obj("pack f f f f f")
+    for value in range(5):
+        p.cord((gains, value), packed, value)
+    p.obj(f"s $0-absorption{number}", packed)
+    signal = p.obj(f"halcyra-listen-bands~ $0-absorption{number}", signal)
+    dull = p.obj("lop~ 10000", signal, p.formula("$f1", "airfreq"))
+    read = p.obj("+~", signal, p.obj("*~", p.obj("-~", dull, signal), air))
+
+    p.section("What enters, so early that it is heard at the start of the reverberation")
+    time = p.formula(f"max($f1-$f2*1000*{share:.6f}+{number * STAGGER:g},0)", "reverb-start", "modaldensity")
+    enters = p.obj("*~", p.obj("halcyra-listen-tap~ $0-bus", time), is_open)
+    enters = p.obj(f"*~ {0.35 if number % 2 else -0.35}", enters)
+    for signal in (read, enters):
+        p.cord(signal, p.port("outlet~"))
+    return p
 
 
 def late(p):
-    """Eight loops that feed each other by a reflection."""
-    total = sum(LOOPS)
+    """Eight loops that feed each other by a reflection. A frozen tail takes nothing in and loses nothing to the air."""
     is_open = p.smooth(p.formula("$f1==0", "infinite"))
-    air = p.smooth(p.formula("$f1!=0", "air"))
-    read = []
-    for number, loop in enumerate(LOOPS):
-        share = loop / total
-        signal = p.obj(f"halcyra-listen-tap~ $0-loop{number}", p.formula(f"$f1*1000*{share:.6f}", "modaldensity"))
-        decay = lambda ratio: f"if($f6!=0,1,pow(10,-3*$f1*{share:.6f}/max($f2*$f{ratio},0.01)))"
-        gains = p.formula(f"$f7;$f8;{decay(3)};{decay(4)};{decay(5)}", "modaldensity", "tr0", "trl", "trm", "trh", "infinite", "fl", "fh")
-        packed = p.obj("pack f f f f f")
-        for value in range(5):
-            p.cord((gains, value), packed, value)
-        p.obj(f"s $0-absorption{number}", packed)
-        signal = p.obj(f"halcyra-listen-bands~ $0-absorption{number}", signal)
-        # Air takes the highs at every turn, but not from what is frozen.
-        dull = p.obj("lop~ 10000", signal, p.formula("$f1", "airfreq"))
-        aired = p.obj("*~", p.obj("*~", p.obj("-~", dull, signal), air), is_open)
-        read.append(p.obj("+~", signal, aired))
-    mixed = p.obj(f"*~ {-2 / len(LOOPS)}", p.total(read))
-    for number, loop in enumerate(LOOPS):
-        time = p.formula(f"max($f1-$f2*1000*{loop / total:.6f}+{number * STAGGER:g},0)", "reverb-start", "modaldensity")
-        enters = p.obj("*~", p.obj("halcyra-listen-tap~ $0-bus", time), is_open)
-        enters = p.obj(f"*~ {0.35 if number % 2 else -0.35}", enters)
-        p.obj(f"delwrite~ $0-loop{number} 1200", p.total([read[number], mixed, enters]))
+    air = p.smooth(p.formula("$f1!=0&&$f2==0", "air", "infinite"))
+    loops = [p.sub(f"loop-{number + 1}", loop(number), is_open, air) for number in range(len(LOOPS))]
+    mixed = p.obj(f"*~ {-2 / len(LOOPS)}", p.total(loops))
+    for number, box in enumerate(loops):
+        p.obj(f"delwrite~ $0-loop{number} 1200", p.total([box, (box, 1), mixed]))
     level = p.smooth(p.formula("pow(10,$f1/20)", "gain"))
-    return [p.obj("*~", p.total(read[side::2]), level) for side in (0, 1)]
+    return [p.obj("*~", p.total(loops[side::2]), level) for side in (0, 1)]
 
 
 def listen():
@@ -334,7 +366,7 @@ def listen():
         p.obj(f"s $0-{'reverb-start' if word == 'start' else word}", (reverb_words, number))
 
     p.section("Early reflections")
-    ramp(p)
+    p.sub("ramp", ramp())
     early = stage(p, "early", True)
     p.section("Cluster")
     cluster = stage(p, "cluster", False)
