@@ -19,35 +19,51 @@ namespace
 
 using namespace orvanemax;
 
+constexpr double lowest (HalcyraReverbParameter number) { return parameterRow (number)->range.lowest; }
+constexpr double highest (HalcyraReverbParameter number) { return parameterRow (number)->range.highest; }
+constexpr const char* defaultOf (HalcyraReverbParameter number) { return parameterRow (number)->defaultText; }
+
+/** A parameter's attribute, whose limits are others than the parameter's own. */
+constexpr AttributeRow unfiltered (AttributeField field, HalcyraReverbParameter parameter, const char* label)
+{
+    return number (field, defaultOf (parameter), label);
+}
+
+/** A parameter's attribute, with the parameter's limits. */
+constexpr AttributeRow reverbNumber (AttributeField field, HalcyraReverbParameter parameter, const char* label)
+{
+    return unfiltered (field, parameter, label).within (lowest (parameter), highest (parameter));
+}
+
 // clang-format off
 constexpr ControlAttribute table[] = {
     { integer (HALCYRA_FIELD (numsources), "6", "number of sources").within (1, 64).ordered (1).notReset(), nullptr },
     { integer (HALCYRA_FIELD (numspeakers), "6", "number of speakers").within (1, 64).ordered (2).notReset(), nullptr },
     { integer (HALCYRA_FIELD (numinternals), "8", "number of internal channels for FDN").within (2, 16).notReset(), nullptr },
-    { number (HALCYRA_FIELD (direct), "0 0 0 0 250 4000", "direct filter").array (6).ordered (3), "filters" },
-    { number (HALCYRA_FIELD (room), "0 0 0 0 250 4000", "room filter").array (6).ordered (4), "filters" },
-    { number (HALCYRA_FIELD (early), "0 0 0 0 250 4000", "early filter").array (6).ordered (5), "filters" },
-    { number (HALCYRA_FIELD (cluster), "0 0 0 0 250 4000", "cluster filter").array (6).ordered (6), "filters" },
-    { number (HALCYRA_FIELD (gain), "0", "late reverberation gain (dB)").within (-30, 30).ordered (20), "reverb" },
-    { number (HALCYRA_FIELD (tr0), "1.995", "decay time (s)").within (0.1, 30).ordered (21), "reverb" },
-    { number (HALCYRA_FIELD (trl), "1", "relative decay time at low freq").within (0.1, 10).ordered (22), "reverb" },
-    { number (HALCYRA_FIELD (trm), "1", "relative decay time at med freq").within (0.1, 10).ordered (23), "reverb" },
-    { number (HALCYRA_FIELD (trh), "0.5", "relative decay time at high freq").within (0.1, 1).ordered (24), "reverb" },
-    { number (HALCYRA_FIELD (fl), "250", "low/med crossover frequency").within (20, 20000), "reverb" },
-    { number (HALCYRA_FIELD (fh), "8000", "med/high crossover frequency").within (20, 20000), "reverb" },
-    { number (HALCYRA_FIELD (early_start), "22.22", "early start").within (1, 120).ordered (7), "reverb" },
-    { number (HALCYRA_FIELD (early_end), "39.71", "early end").within (0, 120).ordered (8), "reverb" },
-    { number (HALCYRA_FIELD (early_distr), "0.5", "early distr").within (0.1, 0.9).ordered (9), "reverb" },
-    { number (HALCYRA_FIELD (early_shape), "0.5", "early shape").within (0, 1).ordered (10), "reverb" },
-    { number (HALCYRA_FIELD (early_width), "30", "early width").within (10, 180).ordered (11), "reverb" },
-    { number (HALCYRA_FIELD (cluster_start), "42.47", "cluster start").atMost (300).ordered (12), "reverb" },
-    { number (HALCYRA_FIELD (cluster_end), "105.64", "cluster end").atMost (300).ordered (13), "reverb" },
-    { number (HALCYRA_FIELD (cluster_distr), "0.5", "cluster distr").within (0.1, 0.9).ordered (14), "reverb" },
-    { number (HALCYRA_FIELD (reverb_start), "95.37", "reverb start").clipped (1, 500).ordered (15), "reverb" },
-    { number (HALCYRA_FIELD (modaldensity), "0.86", "reverb modal density").within (0.2, 4).ordered (16), "reverb" },
-    { onOff (HALCYRA_FIELD (roomairabsorption), "1", "room air absorption").ordered (17), "reverb" },
-    { onOff (HALCYRA_FIELD (infinite), "0", "infinite reverb").ordered (18), "reverb" },
-    { number (HALCYRA_FIELD (roomairrolloff), "10000", "room air absorption rolloff").within (20, 20000).ordered (19), "reverb" },
+    { number (HALCYRA_FIELD (direct), filterDefaultText.data(), "direct filter").array (6).ordered (3), "filters" },
+    { number (HALCYRA_FIELD (room), filterDefaultText.data(), "room filter").array (6).ordered (4), "filters" },
+    { number (HALCYRA_FIELD (early), filterDefaultText.data(), "early filter").array (6).ordered (5), "filters" },
+    { number (HALCYRA_FIELD (cluster), filterDefaultText.data(), "cluster filter").array (6).ordered (6), "filters" },
+    { reverbNumber (HALCYRA_FIELD (gain), parameter::gain, "late reverberation gain (dB)").ordered (20), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (tr0), parameter::tr0, "decay time (s)").ordered (21), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (trl), parameter::trl, "relative decay time at low freq").ordered (22), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (trm), parameter::trm, "relative decay time at med freq").ordered (23), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (trh), parameter::trh, "relative decay time at high freq").ordered (24), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (fl), parameter::fl, "low/med crossover frequency"), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (fh), parameter::fh, "med/high crossover frequency"), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (early_start), parameter::earlyStart, "early start").ordered (7), "reverb" },
+    { unfiltered (HALCYRA_FIELD (early_end), parameter::earlyEnd, "early end").within (0, highest (parameter::earlyEnd)).ordered (8), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (early_distr), parameter::earlyDistr, "early distr").ordered (9), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (early_shape), parameter::earlyShape, "early shape").ordered (10), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (early_width), parameter::earlyWidth, "early width").ordered (11), "reverb" },
+    { unfiltered (HALCYRA_FIELD (cluster_start), parameter::clusterStart, "cluster start").atMost (highest (parameter::clusterStart)).ordered (12), "reverb" },
+    { unfiltered (HALCYRA_FIELD (cluster_end), parameter::clusterEnd, "cluster end").atMost (highest (parameter::clusterEnd)).ordered (13), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (cluster_distr), parameter::clusterDistr, "cluster distr").ordered (14), "reverb" },
+    { unfiltered (HALCYRA_FIELD (reverb_start), parameter::reverbStart, "reverb start").clipped (lowest (parameter::reverbStart), highest (parameter::reverbStart)).ordered (15), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (modaldensity), parameter::modalDensity, "reverb modal density").ordered (16), "reverb" },
+    { onOff (HALCYRA_FIELD (roomairabsorption), defaultOf (parameter::air), "room air absorption").ordered (17), "reverb" },
+    { onOff (HALCYRA_FIELD (infinite), defaultOf (parameter::infinite), "infinite reverb").ordered (18), "reverb" },
+    { reverbNumber (HALCYRA_FIELD (roomairrolloff), parameter::airFrequency, "room air absorption rolloff").ordered (19), "reverb" },
     { onOff (HALCYRA_FIELD (windowmoveable), "1", "window moveable"), "window options" },
     { number (HALCYRA_FIELD (windowtopleft), "50 800", "window top left corner").array (2).in ("px"), "window options" },
     { symbolic (HALCYRA_FIELD (windowtitle), "Halcyra", "window title").ordered (25).notReset(), "window options" },
@@ -123,7 +139,10 @@ void setWindowOption (t_halcyra_control* x, t_symbol* name, short argc, t_atom* 
         } else if (name == symbols().windowmoveable && atoms.fit ("n")) {
             x->windowmoveable = atoms.number (0) != 0 ? 1 : 0;
             x->window->setMoveable (x->windowmoveable != 0);
+        } else {
+            return;
         }
+        object_notify (x, modified(), nullptr);
     });
 }
 

@@ -82,9 +82,8 @@ void setFilter (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* ar
     guarded (x, [=] {
         const auto number = filterNumber (selector);
         const auto& mirror = filterMirrors[static_cast<std::size_t> (number)];
-        auto& filter = x->filters[number];
+        auto filter = x->component->getFilter (number); // fields that the message does not name stay
         parseFilter (filter, Atoms (argc, argv));
-        copyFilter (filter, x->*mirror.values);
         x->component->setFilter (number, filter, true);
         if (mirror.tellsOfMessages)
             object_notify (x, orvanemax::modified(), nullptr);

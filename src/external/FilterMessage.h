@@ -1,6 +1,6 @@
 #pragma once
-#include "gui/verb/HalcyraParameters.h"
 #include "max/Atoms.h"
+#include "reverb/HalcyraParameters.h"
 
 namespace halcyra
 {

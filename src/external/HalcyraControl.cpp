@@ -5,6 +5,7 @@
 #include "external/DeferredMessages.h"
 #include "external/MaxHalcyraListener.h"
 #include "external/Registration.h"
+#include "external/SceneMirror.h"
 #include "external/SceneUpdates.h"
 #include "external/ViewerAttributes.h"
 #include "gui/verb/HalcyraComponent.h"
@@ -57,7 +58,13 @@ void fillDefaults (t_halcyra_control* x)
     x->defer = 1;
 }
 
-/** The component, its listener and the window's manager; false, and told, if one could not be made. */
+/** Behind all that was queued when the turn began. */
+void endTurn (t_halcyra_control* x, t_symbol*, short, t_atom*)
+{
+    guarded (x, [x] { x->component->endTurn(); });
+}
+
+/** The component, its listeners and the window's manager; false, and told, if one could not be made. */
 bool makeParts (t_halcyra_control* x)
 {
     guarded (x, [x] {
@@ -65,10 +72,13 @@ bool makeParts (t_halcyra_control* x)
                                              static_cast<std::uint32_t> (x->numspeakers),
                                              static_cast<std::uint32_t> (x->numinternals));
         x->plane = x->component->getPlane();
+        x->component->setTurnWaker ([x] { defer_low (x, max_method (endTurn), nullptr, 0, nullptr); });
         x->listener = new MaxHalcyraListener (x);
+        x->scene = new SceneMirror (x);
         x->window = new MaxMspJuceWindowManager (&x->object, x->component, false);
     });
-    return x->component != nullptr && x->plane != nullptr && x->listener != nullptr && x->window != nullptr;
+    return x->component != nullptr && x->plane != nullptr && x->listener != nullptr && x->scene != nullptr &&
+           x->window != nullptr;
 }
 
 void hideApertures (t_halcyra_control* x)
@@ -121,6 +131,7 @@ void halcyra_control_free (t_halcyra_control* x)
     guarded (x, [x] {
         delete x->window; // closes it
         if (x->component != nullptr) {
+            delete x->scene;
             delete x->listener;
             delete x->component;
         }

@@ -1,6 +1,6 @@
 #pragma once
-#include "gui/verb/HalcyraParameters.h"
 #include "host/api/MaxApi.h"
+#include "reverb/HalcyraParameters.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -9,6 +9,7 @@
 class HalcyraComponent;
 class MaxHalcyraListener;
 class MaxMspJuceWindowManager;
+class SceneMirror;
 
 namespace lumo
 {
@@ -79,7 +80,7 @@ struct t_halcyra_control
     t_atom_long numinternals;
     HalcyraComponent* component;
     MaxHalcyraListener* listener;
-    HLShelfParameters filters[4]; // direct, room, early, cluster: what filter messages work on
+    HLShelfParameters filters[4]; // direct, room, early, cluster: as they were told last
     float gain, tr0, trl, trm, trh, fl, fh;
     float early_start, early_end, early_distr, early_shape, early_width;
     float cluster_start, cluster_end, cluster_distr, reverb_start, modaldensity;
@@ -90,6 +91,8 @@ struct t_halcyra_control
     std::int32_t showfps, useopengl, windowmoveable;
     float windowtopleft[2];
     t_symbol* windowtitle;
+
+    SceneMirror* scene;
 };
 
 static_assert (std::is_standard_layout_v<t_halcyra_control> && std::is_trivial_v<t_object>);

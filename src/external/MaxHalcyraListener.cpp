@@ -2,15 +2,17 @@
 
 #include "external/CoordinateMessages.h"
 #include "external/FilterMessage.h"
-#include "external/PointMirror.h"
 #include "external/ReverbParameters.h"
+#include "external/SceneMirror.h"
 #include "external/ViewerOptions.h"
 #include "gui/plane/PlaneComponent.h"
 #include "gui/verb/HalcyraComponent.h"
 #include "max/Atoms.h"
 #include "max/MainThread.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace
 {
@@ -24,17 +26,24 @@ void sendOut (t_halcyra_control* x, t_symbol* selector, t_clong count, t_atom* a
         outlet_anything (static_cast<t_outlet*> (x->outlet), selector, orvanemax::deferrable (count), atoms);
 }
 
+/** Stores a value in its mirror; true if another one stood there. */
+template <typename Value>
+bool storeIfOther (Value& mirror, Value value) noexcept
+{
+    return std::exchange (mirror, value) != value;
+}
+
 /** Stores the component's value in its mirror and in the atom of the message; switches travel as longs. */
-void mirrorParameter (t_halcyra_control* x, const ReverbMirror& mirror, t_atom& atom)
+bool mirrorParameter (t_halcyra_control* x, const ReverbMirror& mirror, t_atom& atom)
 {
     const auto value = x->component->reverbParameter (mirror.number);
-    if (mirror.flag != nullptr) {
-        x->*mirror.flag = value == 1.0f ? 1 : 0;
-        atom_setlong (&atom, x->*mirror.flag);
-    } else {
-        x->*mirror.value = value;
+    if (mirror.flag == nullptr) {
         atom_setfloat (&atom, static_cast<double> (value));
+        return storeIfOther (x->*mirror.value, value);
     }
+    const std::int32_t flag = value == 1.0f ? 1 : 0;
+    atom_setlong (&atom, flag);
+    return storeIfOther (x->*mirror.flag, flag);
 }
 
 }
@@ -46,7 +55,8 @@ MaxHalcyraListener::~MaxHalcyraListener() { x->component->removeListener (this);
 void MaxHalcyraListener::HalcyraSourceChanged (int sourceIndex)
 {
     const auto position = x->component->getSourcePosition (sourceIndex);
-    storePoint (position, x->sourcespositions + 3 * sourceIndex);
+    mirrorSourcePosition (x, static_cast<std::size_t> (sourceIndex));
+    mirrorSourceYaw (x, static_cast<std::size_t> (sourceIndex)); // which may follow
     std::array<t_atom, 2 + qel::maxCoordinateValues> atoms{};
     atom_setlong (&atoms[0], sourceIndex + 1);
     atom_setsym (&atoms[1], x->format);
@@ -60,16 +70,15 @@ void MaxHalcyraListener::HalcyraSpeakersChanged()
 {
     if (x->numspeakers < 1)
         return;
+    mirrorSpeakers (x);
     qel::Point3Array positions;
     x->component->getSpeakerPositions (positions);
     std::array<t_atom, 1 + maxPositions> atoms{};
     atom_setsym (&atoms[0], x->format);
     auto* end = &atoms[1];
     bool written = true;
-    for (std::size_t i = 0; i < positions.size(); ++i) {
-        storePoint (positions[i], x->speakerspositions + 3 * i);
-        written = written && writeInFormat (x, positions[i], end);
-    }
+    for (const auto& position : positions)
+        written = written && writeInFormat (x, position, end);
     if (written)
         sendOut (x, orvanemax::symbols().speakers, static_cast<t_clong> (end - atoms.data()), atoms.data());
     notifyModified();
@@ -83,7 +92,9 @@ void MaxHalcyraListener::HalcyraReverbChanged (const HalcyraReverbParameter& par
         const auto& words = reverbWords (parameter);
         std::array<t_atom, 2> atoms{};
         atom_setsym (&atoms[0], words.key);
-        mirrorParameter (x, reverbMirrors[static_cast<std::size_t> (parameter)], atoms[1]);
+        const auto& mirror = reverbMirrors[static_cast<std::size_t> (parameter)];
+        if (mirrorParameter (x, mirror, atoms[1]))
+            touchAttribute (x, orvanemax::symbol (mirror.attribute));
         sendOut (x, words.selector, 2, atoms.data());
     }
     notifyModified();
@@ -95,7 +106,11 @@ void MaxHalcyraListener::HalcyraFilterChanged (const HalcyraFilter& filter)
         const auto& mirror = filterMirrors[static_cast<std::size_t> (filter)];
         x->filters[filter] = x->component->getFilter (filter);
         auto& values = x->*mirror.values;
+        std::array<float, 6> before{};
+        std::copy (std::begin (values), std::end (values), before.begin());
         copyFilter (x->filters[filter], values);
+        if (! std::equal (before.begin(), before.end(), values))
+            touchAttribute (x, orvanemax::symbol (mirror.selector));
         std::array<t_atom, 6> atoms{};
         for (std::size_t i = 0; i < atoms.size(); ++i)
             atom_setfloat (&atoms[i], static_cast<double> (values[i]));

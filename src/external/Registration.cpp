@@ -16,6 +16,7 @@
 #include "max/MaxXmlDocumentation.h"
 #include "max/OrvanemaxSymbols.h"
 #include "max/PattrState.h"
+#include "max/Recall.h"
 #include "max/window/NativeWindow.h"
 
 #include <algorithm>
@@ -30,6 +31,18 @@ using namespace orvanemax;
 
 constexpr auto* className = "halcyra~.control";
 t_class* registeredClass = nullptr;
+
+/** What a recall sets last: constraints and locks, lifted for what they would bend or refuse, and the ways that changes
+    of the scene take. Hiding the headphones frees the speakers, so their switch comes behind them. */
+constexpr LateAttribute lateAttributesOfControl[] = {
+    { "radiusconstraint", 0, "sourcespositions" },
+    { "zoomlock", 0, "zoom" },
+    { "showheadphones", 0, "showspeakers" },
+    { "speakerseditable", {} },
+    { "windowmoveable", 1, "windowtopleft" },
+    { "display", {} },
+    { "defer", {} },
+};
 
 /** `dictionary` takes a symbol alone; it travels as an atom. */
 void readDictionary (void* x, t_symbol*, t_clong, t_atom* argv) { orvanemax_dictionary (x, atom_getsym (argv)); }
@@ -198,6 +211,7 @@ void ext_main (void*)
     addAllMessages (c);
     addPorts (c);
     addAllAttributes (c);
+    setLateAttributes (lateAttributesOfControl, std::size (lateAttributesOfControl));
     class_register (CLASS_BOX, c);
     registeredClass = c;
 }

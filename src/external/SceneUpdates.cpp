@@ -15,6 +15,13 @@ namespace halcyra::scene
 namespace
 {
 
+/** The arrays of atoms are null in an object that could not get their memory. */
+void storeLevel (t_atom* levels, t_atom_long index, float decibels) noexcept
+{
+    if (levels != nullptr)
+        atom_setfloat (&levels[index], static_cast<double> (decibels));
+}
+
 /** The atoms of one change: index or nothing, values, and last the notification flag. */
 class Packet
 {
@@ -157,6 +164,19 @@ void sendListenerOrientation (t_halcyra_control* x, bool notify)
         .send (x, workers::listenerOrientation, notify);
 }
 
+bool isOrientationMode (const t_symbol* word)
+{
+    using namespace lumo::Plane::Orientation;
+    return NameOf (ModeNamed (word->s_name)) == word->s_name;
+}
+
+void setRadiusConstraint (t_halcyra_control* x, bool on)
+{
+    Packet().add (static_cast<t_atom_long> (on)).send (x, workers::radiusConstraint, true);
+}
+
+void notifyModified (t_halcyra_control* x) { Packet().send (x, workers::modified, true); }
+
 void initialise (t_halcyra_control* x, t_symbol*, short, t_atom*)
 {
     orvanemax::guarded (x, [x] {
@@ -171,10 +191,14 @@ void initialise (t_halcyra_control* x, t_symbol*, short, t_atom*)
         sendSpeakers (x, true);
         for (t_atom_long i = 0; i < x->numsources; ++i)
             setSourceName (x, i, gensym (std::to_string (i + 1).c_str()), true);
-        for (t_atom_long i = 0; i < x->numsources; ++i)
+        for (t_atom_long i = 0; i < x->numsources; ++i) {
             x->plane->SetSourceLevel (static_cast<std::size_t> (i), silence);
-        for (t_atom_long i = 0; i < x->numspeakers; ++i)
+            storeLevel (x->sourceslevels, i, silence);
+        }
+        for (t_atom_long i = 0; i < x->numspeakers; ++i) {
             x->plane->SetSpeakerLevel (static_cast<std::size_t> (i), silence);
+            storeLevel (x->speakerslevels, i, silence);
+        }
     });
 }
 

@@ -34,6 +34,15 @@ void sendListenerPitch (t_halcyra_control* x, bool notify);
 void sendListenerRoll (t_halcyra_control* x, bool notify);
 void sendListenerOrientation (t_halcyra_control* x, bool notify);
 
+/** Whether the word names one. */
+[[nodiscard]] bool isOrientationMode (const t_symbol* word);
+
+/** Whether a move keeps a source's distance: in its turn, so that it bends no move that came before it. */
+void setRadiusConstraint (t_halcyra_control* x, bool on);
+
+/** Notifies that saved state has changed, behind the updates that were made so far. */
+void notifyModified (t_halcyra_control* x);
+
 /** A fresh object's scene: colours, layouts, names and levels. Main thread, by the queue. */
 void initialise (t_halcyra_control* x, t_symbol* unused, short argc, t_atom* argv);
 

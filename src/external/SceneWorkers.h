@@ -26,5 +26,7 @@ void listenerYaw (t_halcyra_control* x, t_symbol* unused, short argc, t_atom* ar
 void listenerPitch (t_halcyra_control* x, t_symbol* unused, short argc, t_atom* argv);
 void listenerRoll (t_halcyra_control* x, t_symbol* unused, short argc, t_atom* argv);
 void listenerOrientation (t_halcyra_control* x, t_symbol* unused, short argc, t_atom* argv);
+void radiusConstraint (t_halcyra_control* x, t_symbol* unused, short argc, t_atom* argv);
+void modified (t_halcyra_control* x, t_symbol* unused, short argc, t_atom* argv);
 
 }

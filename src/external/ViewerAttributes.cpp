@@ -2,6 +2,7 @@
 
 #include "external/CoordinateMessages.h"
 #include "external/SceneUpdates.h"
+#include "external/ViewerOptions.h"
 #include "external/ViewerSetters.h"
 #include "geometry/OrvaneDspSpherical.h"
 #include "max/Guarded.h"
@@ -30,7 +31,6 @@ void setBackgroundAngle (Plane& plane, float degrees)
     plane.SetBackgroundImageAngle (degrees * qel::radiansPerDegree);
 }
 void setBackgroundQuality (Plane& plane, const qel::String& name) { plane.SetBackgroundImageQuality (name); }
-void setGridMode (Plane& plane, const qel::String& name) { plane.SetGridMode (name); }
 void setSourcesVisible (Plane& plane, bool on) { plane.SetAllSourcesVisible (on, false); }
 void setSourcesEditable (Plane& plane, bool on) { plane.SetSourcesEditable (on, true); }
 void setSpeakersEditable (Plane& plane, bool on) { plane.SetSpeakersEditable (on, true); }
@@ -85,12 +85,12 @@ constexpr ViewerAttribute table[] = {
     { rows::onOff (HALCYRA_FIELD (showshoebox), "0", "display shoebox"), onOff<&Plane::SetShoeboxVisible> },
     { rows::onOff (HALCYRA_FIELD (showspeakershull), "0", "display speakers convex hull").described ("enables/disables speakers convex hull display (may be CPU intensive)"), onOff<&Plane::SetHullVisible> },
     { rows::onOff (HALCYRA_FIELD (circularconstraint), "0", "circular constraint"), onOff<setCircularConstraint> },
-    { rows::onOff (HALCYRA_FIELD (radiusconstraint), "0", "radius constraint"), onOff<&Plane::SetRadiusConstraint> },
+    { rows::onOff (HALCYRA_FIELD (radiusconstraint), "0", "radius constraint"), radiusConstraint },
     { rows::onOff (HALCYRA_FIELD (sourceseditable), "1", "sources editable"), onOff<setSourcesEditable> },
     { rows::onOff (HALCYRA_FIELD (speakerseditable), "0", "speakers editable"), onOff<setSpeakersEditable> },
     { rows::onOff (HALCYRA_FIELD (listenereditable), "0", "listener editable"), onOff<&Plane::SetListenerEditable> },
     { rows::onOff (HALCYRA_FIELD (showangulardivisions), "1", "display angular divisions"), onOff<&Plane::SetAngularDivisionsVisible> },
-    { rows::symbolic (HALCYRA_FIELD (gridmode), "circular", "grid").among ("none circular square"), word<setGridMode> },
+    { rows::symbolic (HALCYRA_FIELD (gridmode), "circular", "grid").among ("none circular square"), gridMode },
     { rows::integer (HALCYRA_FIELD (numangulardivisions), "8", "number of angular divisions").within (0, 360), count<&Plane::SetGridNumAngularDivisions> },
     { rows::integer (HALCYRA_FIELD (numareas), "0", "number of areas").within (0, 50), count<&Plane::SetNumAreas> },
     { rows::integer (HALCYRA_FIELD (numanchors), "0", "number of anchors").within (0, 8192), count<&Plane::SetNumAnchors> },
@@ -108,7 +108,7 @@ constexpr ViewerAttribute table[] = {
     { rows::number (HALCYRA_FIELD (speakerslevels), "-60", "speakers level").within (-60, 6).list (maxSources, calcoffset (t_halcyra_control, numspeakers)).in ("dB"), speakersLevels, true },
     { rows::number (HALCYRA_FIELD (sourceslevels), "-60", "sources level").within (-60, 6).list (maxSources, calcoffset (t_halcyra_control, numsources)).in ("dB"), sourcesLevels, true },
     { rows::number64 (HALCYRA_FIELD (backgroundcolor), "0.7 0.7 0.7 1.0", "color of backgroundcolor").styled ("rgba").array (4), colour<setBackgroundColour> },
-    { rows::symbolic (HALCYRA_FIELD (orientationmode), "yawconstraint", "orientation mode").list (maxSources, calcoffset (t_halcyra_control, numsources)), wordPerSource<scene::setSourceOrientationMode> },
+    { rows::symbolic (HALCYRA_FIELD (orientationmode), "yawconstraint", "orientation mode").list (maxSources, calcoffset (t_halcyra_control, numsources)), orientationModes },
     { rows::number (HALCYRA_FIELD (shoeboxcorners), "0. 0. 0. 1. -1. 0.", "shoebox top left and bottom right corners").array (6), shoeboxCorners },
     { rows::number64 (HALCYRA_FIELD (gridcolor), "1 1 1 1", "grid color").styled ("rgba").array (4), colour<setGridColour> },
     { rows::number64 (HALCYRA_FIELD (aperturecolor), "1 1 1 0.6196078", "aperture color").styled ("rgba").array (4), colour<setApertureColour> },
@@ -145,7 +145,9 @@ void setByName (t_halcyra_control* x, t_symbol* name, short argc, t_atom* argv)
         const auto* attribute = attributeNamed (name);
         if (attribute == nullptr)
             return orvanemax::tellError (x, std::string ("unknown attribute ") + name->s_name);
-        if (attribute->set (x, attribute->row, orvanemax::Atoms (argc, argv)))
+        const bool notifies = attribute->set (x, attribute->row, orvanemax::Atoms (argc, argv));
+        mirrorViewerOptions (x); // the plane may have refused, or changed more
+        if (notifies)
             object_notify (x, orvanemax::modified(), nullptr);
     });
 }

@@ -3,6 +3,7 @@
 #include "external/CoordinateMessages.h"
 #include "external/PointMirror.h"
 #include "external/SceneUpdates.h"
+#include "external/ViewerOptions.h"
 #include "gui/plane/PlaneComponent.h"
 #include "max/Guarded.h"
 #include "max/OrvanemaxSymbols.h"
@@ -38,6 +39,8 @@ struct KeyRow
     const char* key;
     const char* pattern; // of the values behind the key
     Change change;
+    bool isSaved = false;                            // it changes what is saved with the patcher
+    bool (*isGood) (const t_symbol* word) = nullptr; // a test of the value beyond the pattern
 };
 
 using Rgba = float[4];
@@ -49,32 +52,36 @@ void readColour (Atoms values, Rgba& rgba)
 
 /** The numbers come first: with one behind a key, a row for numbers is meant. */
 constexpr KeyRow sourceKeys[] = {
-    { "aperture", "n", [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceAperture (x, i, v.number (0), n); } },
-    { "yaw", "n", [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceYaw (x, i, v.number (0), n); } },
-    { "radius", "n", [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceRadius (x, i, v.number (0), n); } },
+    { "aperture", "n", [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceAperture (x, i, v.number (0), n); },
+      true },
+    { "yaw", "n", [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceYaw (x, i, v.number (0), n); }, true },
+    { "radius", "n", [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceRadius (x, i, v.number (0), n); }, true },
     { "showaperture", "n",
       [] (auto* x, auto i, Atoms v, bool) {
           x->plane->SetSourceApertureVisible (static_cast<std::size_t> (i), v.integer (0) != 0);
       } },
     { "visible", "n", [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceVisible (x, i, v.number (0) != 0, n); } },
-    { "name", "n", [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceName (x, i, nameOf (v, 0), n); } },
+    { "name", "n", [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceName (x, i, nameOf (v, 0), n); }, true },
     { "showcoordinates", "n",
       [] (auto* x, auto i, Atoms v, bool) {
           x->plane->SetSourceCoordinatesVisible (static_cast<std::size_t> (i), v.number (0) != 0);
       } },
     { "orientationmode", "s",
-      [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceOrientationMode (x, i, v.symbol (0), n); } },
-    { "name", "s", [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceName (x, i, v.symbol (0), n); } },
+      [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceOrientationMode (x, i, v.symbol (0), n); }, true,
+      scene::isOrientationMode },
+    { "name", "s", [] (auto* x, auto i, Atoms v, bool n) { scene::setSourceName (x, i, v.symbol (0), n); }, true },
     { "color", "nnnn",
       [] (auto* x, auto i, Atoms v, bool n) {
           Rgba rgba;
           readColour (v, rgba);
           scene::setSourceColour (x, i, rgba, n);
-      } },
+      },
+      true },
     { "lookat", "nnn",
       [] (auto* x, auto i, Atoms v, bool n) {
           scene::setSourceLookAt (x, i, { v.number (0), v.number (1), v.number (2) }, n);
-      } },
+      },
+      true },
 };
 
 constexpr KeyRow speakerKeys[] = {
@@ -131,9 +138,12 @@ bool changeByKey (t_halcyra_control* x, const KeyRow (&rows)[size], t_atom_long 
     if (! behindIndex.fit ("s"))
         return false;
     const std::string_view key = behindIndex.symbol (0)->s_name;
+    const auto values = behindIndex.from (1);
     for (const auto& row : rows)
-        if (key == row.key && behindIndex.from (1).fit (row.pattern)) {
-            row.change (x, index, behindIndex.from (1), notify);
+        if (key == row.key && values.fit (row.pattern) && (row.isGood == nullptr || row.isGood (values.symbol (0)))) {
+            row.change (x, index, values, notify);
+            if (row.isSaved)
+                scene::notifyModified (x);
             return true;
         }
     return false;
@@ -243,7 +253,7 @@ void listener (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
     guarded (x, [=] {
         const Atoms atoms (argc, argv);
         if (turnListener (x, atoms, notifies (selector)))
-            return;
+            return scene::notifyModified (x);
         auto position = pointIn (x->listenerposition);
         if (! parseOnePoint (x, position, atoms))
             return invalidMessage (x, "invalid message : listener", atoms);
@@ -292,6 +302,7 @@ void adjustZoom (void* object)
     auto* x = control (object);
     guarded (x, [=] {
         x->plane->AutoZoom (true);
+        mirrorViewerOptions (x);
         object_notify (x, orvanemax::modified(), nullptr);
     });
 }

@@ -1,7 +1,10 @@
 #include "external/ViewerOptions.h"
 
+#include "external/SceneMirror.h"
 #include "gui/plane/PlaneComponent.h"
 #include "max/OrvanemaxSymbols.h"
+
+#include <utility>
 
 namespace halcyra
 {
@@ -15,39 +18,54 @@ struct FlagMirror
 {
     bool PlaneOptions::*flag;
     t_atom_long t_halcyra_control::*mirror;
+    const char* attribute;
 };
+
+#define HALCYRA_OPTION(flag, field)                                                                                    \
+    {                                                                                                                  \
+        &PlaneOptions::flag, &Control::field, #field                                                                   \
+    }
 
 /** The labels of sources and speakers are no options of the plane: their mirrors keep what the patcher set. */
 constexpr FlagMirror flagMirrors[] = {
-    { &PlaneOptions::sourcesVisible, &Control::showsources },
-    { &PlaneOptions::speakersVisible, &Control::showspeakers },
-    { &PlaneOptions::listenerVisible, &Control::showlistener },
-    { &PlaneOptions::sourcesEditable, &Control::sourceseditable },
-    { &PlaneOptions::speakersEditable, &Control::speakerseditable },
-    { &PlaneOptions::listenerEditable, &Control::listenereditable },
-    { &PlaneOptions::circularConstraint, &Control::circularconstraint },
-    { &PlaneOptions::radiusConstraint, &Control::radiusconstraint },
-    { &PlaneOptions::backgroundImageVisible, &Control::showbackgroundimage },
-    { &PlaneOptions::radiusVisible, &Control::showradius },
-    { &PlaneOptions::shoeboxVisible, &Control::showshoebox },
-    { &PlaneOptions::angularDivisionsVisible, &Control::showangulardivisions },
-    { &PlaneOptions::apertureVisible, &Control::showaperture },
-    { &PlaneOptions::hullVisible, &Control::showspeakershull },
-    { &PlaneOptions::speakersRadiusVisible, &Control::showspeakersradius },
-    { &PlaneOptions::speakersProjectionVisible, &Control::showspeakersprojection },
-    { &PlaneOptions::anchorsVisible, &Control::showanchors },
-    { &PlaneOptions::anchorsLabelVisible, &Control::showanchorslabel },
-    { &PlaneOptions::areasVisible, &Control::showareas },
-    { &PlaneOptions::areasMonitoring, &Control::areasmonitoring },
-    { &PlaneOptions::headphonesVisible, &Control::showheadphones },
-    { &PlaneOptions::triangulationVisible, &Control::showspeakerstriangulation },
-    { &PlaneOptions::legendVisible, &Control::showlegend },
-    { &PlaneOptions::speakersLevelsVisible, &Control::showspeakerslevels },
-    { &PlaneOptions::sourcesLevelsVisible, &Control::showsourceslevels },
-    { &PlaneOptions::zoomLocked, &Control::zoomlock },
-    { &PlaneOptions::rightClickLocked, &Control::rightclicklock },
-    { &PlaneOptions::gridDashed, &Control::dashedgrid },
+    HALCYRA_OPTION (sourcesVisible, showsources),
+    HALCYRA_OPTION (speakersVisible, showspeakers),
+    HALCYRA_OPTION (listenerVisible, showlistener),
+    HALCYRA_OPTION (sourcesEditable, sourceseditable),
+    HALCYRA_OPTION (speakersEditable, speakerseditable),
+    HALCYRA_OPTION (listenerEditable, listenereditable),
+    HALCYRA_OPTION (circularConstraint, circularconstraint),
+    HALCYRA_OPTION (radiusConstraint, radiusconstraint),
+    HALCYRA_OPTION (backgroundImageVisible, showbackgroundimage),
+    HALCYRA_OPTION (radiusVisible, showradius),
+    HALCYRA_OPTION (shoeboxVisible, showshoebox),
+    HALCYRA_OPTION (angularDivisionsVisible, showangulardivisions),
+    HALCYRA_OPTION (apertureVisible, showaperture),
+    HALCYRA_OPTION (hullVisible, showspeakershull),
+    HALCYRA_OPTION (speakersRadiusVisible, showspeakersradius),
+    HALCYRA_OPTION (speakersProjectionVisible, showspeakersprojection),
+    HALCYRA_OPTION (anchorsVisible, showanchors),
+    HALCYRA_OPTION (anchorsLabelVisible, showanchorslabel),
+    HALCYRA_OPTION (areasVisible, showareas),
+    HALCYRA_OPTION (areasMonitoring, areasmonitoring),
+    HALCYRA_OPTION (headphonesVisible, showheadphones),
+    HALCYRA_OPTION (triangulationVisible, showspeakerstriangulation),
+    HALCYRA_OPTION (legendVisible, showlegend),
+    HALCYRA_OPTION (speakersLevelsVisible, showspeakerslevels),
+    HALCYRA_OPTION (sourcesLevelsVisible, showsourceslevels),
+    HALCYRA_OPTION (zoomLocked, zoomlock),
+    HALCYRA_OPTION (rightClickLocked, rightclicklock),
+    HALCYRA_OPTION (gridDashed, dashedgrid),
 };
+
+#undef HALCYRA_OPTION
+
+template <typename Value>
+void mirror (t_halcyra_control* x, Value& stored, Value value, const char* attribute)
+{
+    if (std::exchange (stored, value) != value)
+        touchAttribute (x, gensym (attribute));
+}
 
 }
 
@@ -56,13 +74,13 @@ void mirrorViewerOptions (t_halcyra_control* x)
     PlaneOptions options;
     x->plane->GetOptions (options);
     for (const auto& row : flagMirrors)
-        x->*row.mirror = options.*row.flag ? 1 : 0;
-    x->zoom = options.zoom;
-    x->gridspacing = options.gridSpacing;
-    x->numangulardivisions = options.gridNumAngularDivisions;
-    x->gridlines = options.gridNumLines;
-    x->gridmode = gensym (lumo::Plane::Grid::NameOf (options.gridMode).c_str());
-    x->viewpoint = options.topView ? orvanemax::symbols().top : orvanemax::symbols().front;
+        mirror<t_atom_long> (x, x->*row.mirror, options.*row.flag ? 1 : 0, row.attribute);
+    mirror (x, x->zoom, options.zoom, "zoom");
+    mirror (x, x->gridspacing, options.gridSpacing, "gridspacing");
+    mirror<t_atom_long> (x, x->numangulardivisions, options.gridNumAngularDivisions, "numangulardivisions");
+    mirror<t_atom_long> (x, x->gridlines, options.gridNumLines, "gridlines");
+    mirror (x, x->gridmode, gensym (lumo::Plane::Grid::NameOf (options.gridMode).c_str()), "gridmode");
+    mirror (x, x->viewpoint, options.topView ? orvanemax::symbols().top : orvanemax::symbols().front, "viewpoint");
 }
 
 }

@@ -4,7 +4,8 @@
 namespace halcyra
 {
 
-/** Copies the plane's options into the attributes' mirrors. Main thread. */
+/** Copies the plane's options into the attributes' mirrors, and touches those attributes that were other. Main
+    thread. */
 void mirrorViewerOptions (t_halcyra_control* x);
 
 }

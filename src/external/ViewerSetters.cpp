@@ -8,6 +8,7 @@
 #include "max/OrvanemaxSymbols.h"
 
 #include <cctype>
+#include <string_view>
 
 namespace halcyra::setters
 {
@@ -58,11 +59,61 @@ qel::File locateImage (const char* name)
 
 }
 
+bool isChoice (const AttributeRow& row, const t_symbol* word) noexcept
+{
+    const std::string_view wanted = word->s_name;
+    for (std::string_view left = row.choices; ! left.empty();) {
+        const auto end = std::min (left.find (' '), left.size());
+        if (left.substr (0, end) == wanted)
+            return true;
+        left.remove_prefix (std::min (end + 1, left.size()));
+    }
+    return false;
+}
+
+void refuse (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    orvanemax::invalidMessage (x, (std::string ("invalid message : ") + row.name).c_str(), atoms);
+}
+
 bool keep (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
     if (atoms.fit ("l"))
         field<t_atom_long> (x, row) = atoms.integer (0) != 0 ? 1 : 0;
     return true;
+}
+
+bool radiusConstraint (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
+{
+    if (atoms.fit ("l"))
+        scene::setRadiusConstraint (x, atoms.integer (0) != 0);
+    return true;
+}
+
+/** A square grid reads back as cartesian, so that word is taken too. */
+bool gridMode (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    if (! atoms.fit ("s"))
+        return true;
+    const auto* mode = atoms.symbol (0);
+    const bool isWritten = lumo::Plane::Grid::NameOf (lumo::Plane::Grid::square) == mode->s_name;
+    if (! isWritten && ! isChoice (row, mode)) {
+        refuse (x, row, atoms);
+        return false;
+    }
+    x->plane->SetGridMode (isWritten ? lumo::Plane::Grid::square : lumo::Plane::Grid::ModeNamed (mode->s_name));
+    return true;
+}
+
+/** One word for each source; a list with a word that names no mode is refused as a whole. */
+bool orientationModes (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+{
+    for (const auto& atom : atoms)
+        if (atom_gettype (&atom) == A_SYM && ! scene::isOrientationMode (atom_getsym (&atom))) {
+            refuse (x, row, atoms);
+            return false;
+        }
+    return wordPerSource<scene::setSourceOrientationMode> (x, row, atoms);
 }
 
 bool showViewer (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
@@ -193,12 +244,13 @@ bool backgroundImage (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
         x->plane->ClearBackgroundImage();
         return true;
     }
+    x->backgroundimage = name; // kept when the file is missing: it may be back when the patch is next opened
     const auto file = locateImage (name->s_name);
     if (file.empty()) {
+        x->plane->ClearBackgroundImage();
         orvanemax::tellError (x, std::string ("Couldnt locate file: ") + name->s_name);
         return true;
     }
-    x->backgroundimage = name;
     x->plane->SetBackgroundImageFile (juce::File (juce::String::fromUTF8 (file.path().c_str())));
     return true;
 }

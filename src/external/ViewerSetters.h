@@ -56,14 +56,24 @@ bool count (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
     return true;
 }
 
-/** A word of the plane. */
+/** Whether an enumeration knows the word. */
+[[nodiscard]] bool isChoice (const AttributeRow& row, const t_symbol* word) noexcept;
+
+/** A word that is none of an attribute's choices: told, and nothing is stored. */
+void refuse (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+
+/** A word of the plane, one of the attribute's choices. */
 template <auto set>
 bool word (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
-    if (atoms.fit ("s")) {
-        field<t_symbol*> (x, row) = atoms.symbol (0);
-        std::invoke (set, *x->plane, atoms.symbol (0)->s_name);
+    if (! atoms.fit ("s"))
+        return true;
+    if (! isChoice (row, atoms.symbol (0))) {
+        refuse (x, row, atoms);
+        return false;
     }
+    field<t_symbol*> (x, row) = atoms.symbol (0);
+    std::invoke (set, *x->plane, atoms.symbol (0)->s_name);
     return true;
 }
 
@@ -105,6 +115,9 @@ bool wordPerSource (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
 
 // Each of a kind.
 bool keep (t_halcyra_control* x, const AttributeRow& row, Atoms atoms); // a switch that no plane knows
+bool radiusConstraint (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool gridMode (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
+bool orientationModes (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool showViewer (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool zoomLock (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool frameOption (t_halcyra_control* x, const AttributeRow& row, Atoms atoms); // showfps, useopengl

@@ -8,6 +8,7 @@
 #include "max/MaxAttribute.h"
 #include "max/MaxErrorText.h"
 #include "max/OrvanemaxSymbols.h"
+#include "max/Recall.h"
 
 namespace orvanemax
 {
@@ -51,16 +52,16 @@ void sendDictionary (void* object, OwnedDictionary& dictionary)
     dictionary_clear (dictionary.get()); // receivers have copied what they want
 }
 
-void setFromArray (void* object, t_symbol* key, void* array)
+void setFromArray (Recall& recall, t_symbol* key, void* array)
 {
     t_clong count = 0;
     t_atom* atoms = nullptr;
     if (atomarray_copyatoms (static_cast<t_atomarray*> (array), &count, &atoms) == MAX_ERR_NONE)
-        object_attr_setvalueof (object, key, count, atoms);
+        recall.set (key, count, atoms);
     sysmem_freeptr (atoms);
 }
 
-void setFromEntry (void* object, const t_dictionary* dictionary, t_symbol* key)
+void setFromEntry (void* object, Recall& recall, const t_dictionary* dictionary, t_symbol* key)
 {
     t_atom atom{};
     if (dictionary_getatom (dictionary, key, &atom) != MAX_ERR_NONE ||
@@ -69,9 +70,9 @@ void setFromEntry (void* object, const t_dictionary* dictionary, t_symbol* key)
     if (object_attr_get (object, key) == nullptr)
         return; // dictionaries may hold more than attributes
     if (atom_gettype (&atom) == A_OBJ)
-        setFromArray (object, key, atom_getobj (&atom));
+        setFromArray (recall, key, atom_getobj (&atom));
     else
-        object_attr_setvalueof (object, key, 1, &atom);
+        recall.set (key, 1, &atom);
 }
 
 bool readDictionary (void* object, t_dictionary* dictionary)
@@ -81,8 +82,9 @@ bool readDictionary (void* object, t_dictionary* dictionary)
         tellError (object, std::string ("couldnt get dict key : ") + errorText (keys.error()));
         return false;
     }
+    Recall recall (object, { keys.begin(), keys.end() });
     for (auto* key : keys)
-        setFromEntry (object, dictionary, key);
+        setFromEntry (object, recall, dictionary, key);
     return true;
 }
 

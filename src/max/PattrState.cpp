@@ -6,6 +6,7 @@
 #include "max/MainThread.h"
 #include "max/MaxErrorText.h"
 #include "max/OrvanemaxSymbols.h"
+#include "max/Recall.h"
 
 #include <algorithm>
 #include <vector>
@@ -52,13 +53,13 @@ bool handOver (void* object, const std::vector<t_atom>& values, t_clong* ac, t_a
     return true;
 }
 
-void setOne (void* object, t_symbol* name, const t_atom* first, t_clong count)
+void setOne (void* object, Recall& recall, t_symbol* name, const t_atom* first, t_clong count)
 {
     std::vector<t_atom> values (first, first + count);
     for (const auto& atom : values)
         if (! isKnownType (atom))
             tellWarning (object, "unknown atom type in orvanemax_setvalueof");
-    const auto error = object_attr_setvalueof (object, name, count, values.data());
+    const auto error = recall.set (name, count, values.data());
     if (error != MAX_ERR_NONE)
         tellError (object, std::string (errorText (error)) + " in object_attr_setvalueof " + name->s_name);
 }
@@ -66,13 +67,14 @@ void setOne (void* object, t_symbol* name, const t_atom* first, t_clong count)
 /** An attribute's size is asked when its turn comes: those before it may have changed it. */
 void setAll (void* object, const AttributeNames& names, const t_atom* values, t_clong count)
 {
+    Recall recall (object, names);
     t_clong read = 0;
     for (auto* name : names) {
         const auto needed = GetNumberOfAtomsNeededToStoreAttribute (object, name);
         if (needed > count - read)
             return tellError (object, "error reading atoms in orvanemax_setvalueof");
         if (needed > 0)
-            setOne (object, name, values + read, needed);
+            setOne (object, recall, name, values + read, needed);
         read += needed;
     }
 }

@@ -133,7 +133,8 @@ void timeStructurePageFrame (benchmark::State& state)
 
 void filtersPageFrame (benchmark::State& state)
 {
-    HalcyraFiltersTabComponent page ("page");
+    halcyra::ReverbModel model (8);
+    HalcyraFiltersTabComponent page ("page", model);
     pageFrame (state, page);
 }
 

@@ -28,6 +28,7 @@ public:
     [[nodiscard]] virtual const qel::Point3& GetSpeakerPosition (std::size_t index) const;
     [[nodiscard]] virtual std::size_t GetNumSources() const { return 0; }
     [[nodiscard]] virtual std::size_t GetNumSpeakers() const { return 0; }
+    [[nodiscard]] const Plane::Listener& GetListener() const noexcept { return surface.listener; }
     [[nodiscard]] const qel::Point3& GetListenerPosition() const noexcept { return surface.listener.position; }
 
     // The view. Offsets are pixels, positive to the right and up.

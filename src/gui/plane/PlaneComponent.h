@@ -148,6 +148,15 @@ public:
     /** The store itself, for its files. */
     [[nodiscard]] qel::CoordinatesSnapshotStore& GetSnapshots() noexcept { return snapshots; }
 
+    // ---- Recall of what a hand has moved: as it was, past constraints and wrapping, and told. Angles in radians.
+    struct SourcePose
+    {
+        qel::Point3 position;
+        float yaw, yawOffset, aperture;
+    };
+    void RestoreSource (std::size_t index, const SourcePose& pose);
+    void RestoreListener (const qel::Point3& position, float yaw, float pitch, float roll);
+
     void UpdateScreenPositions() override;
     qel::OSCBundle getOscState() override;
 

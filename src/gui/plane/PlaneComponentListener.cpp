@@ -70,6 +70,21 @@ void PlaneComponent::SetListenerOrientation (float yaw, float pitch, float roll,
     ListenerChanged();
 }
 
+void PlaneComponent::RestoreListener (const qel::Point3& position, float yaw, float pitch, float roll)
+{
+    if (! listenerEnabled || ! qel::isFinite (position) || ! AreFinite (yaw, pitch, roll))
+        return;
+    auto& listener = surface.listener;
+    listener.yaw = yaw;
+    listener.pitch = pitch;
+    listener.roll = roll;
+    SetListenerPosition (position, true);
+    Notify ([&] (PlaneListener& l) {
+        l.ListenerOrientationChanged (yaw * qel::degreesPerRadian, pitch * qel::degreesPerRadian,
+                                      roll * qel::degreesPerRadian);
+    });
+}
+
 void PlaneComponent::SetListenerEditable (bool editable)
 {
     SetOption (surface.listener.editable, editable && listenerEnabled);

@@ -178,6 +178,30 @@ void PlaneComponent::SetSourceApertureColour (std::size_t index, juce::Colour co
 
 void PlaneComponent::SetApertureVisible (bool visible) { SetOption (surface.options.apertureVisible, visible); }
 
+void PlaneComponent::RestoreSource (std::size_t index, const SourcePose& pose)
+{
+    auto* source = SourceAt (index);
+    if (source == nullptr || ! qel::isFinite (pose.position) || ! AreFinite (pose.yaw, pose.yawOffset, pose.aperture))
+        return;
+    const bool moves = source->position != pose.position, turns = source->yaw != pose.yaw;
+    const bool opens = source->aperture != pose.aperture;
+    source->position = pose.position;
+    source->yaw = pose.yaw;
+    source->yawOffset = pose.yawOffset;
+    source->aperture = pose.aperture;
+    source->screenPosition = surface.viewTransform.ToScreen (source->position);
+    const float yaw = source->YawDegrees(), aperture = source->ApertureDegrees();
+    if (moves) {
+        ReportSourceAreas (index);
+        Notify ([&] (PlaneListener& l) { l.SourcePositionChanged (index, pose.position); });
+    }
+    if (turns)
+        Notify ([&] (PlaneListener& l) { l.SourceYawChanged (index, yaw); });
+    if (opens)
+        Notify ([&] (PlaneListener& l) { l.SourceApertureChanged (index, aperture); });
+    repaint();
+}
+
 // ---- Looks
 
 template <typename Change>

@@ -34,8 +34,8 @@ HLShelfComponent::Field::Field (const halcyra::ShelfRow& row)
 {
     editors::styleSlider (slider, juce::Slider::LinearVertical, 100);
     slider.setColour (juce::Slider::trackColourId, juce::Colour (0x7FFFFFFF));
-    slider.setRange (row.sliderLowest, row.sliderHighest, row.step);
-    slider.setDoubleClickReturnValue (true, row.doubleClick);
+    slider.setRange (row.range.lowest, row.range.highest, row.range.step);
+    slider.setDoubleClickReturnValue (true, row.defaultValue());
     if (row.midPoint > 0)
         slider.setSkewFactorFromMidPoint (row.midPoint);
     styleLabel (label, 11, juce::Justification::centred);
@@ -44,7 +44,23 @@ HLShelfComponent::Field::Field (const halcyra::ShelfRow& row)
     value.setBorderSize ({ 0, 1, 0, 1 });
 }
 
-HLShelfComponent::HLShelfComponent (const juce::String& name) : Component (name), curve (name)
+HLShelfComponent::HLShelfComponent (const juce::String& name)
+    : HLShelfComponent (name, std::make_unique<SelfWakingModel> (0))
+{}
+
+HLShelfComponent::HLShelfComponent (const juce::String& name, std::unique_ptr<SelfWakingModel> own)
+    : HLShelfComponent (name, *own, 0)
+{
+    ownModel = std::move (own);
+}
+
+HLShelfComponent::HLShelfComponent (const juce::String& name, halcyra::ReverbModel& modelToShow,
+                                    HalcyraFilter filterToShow)
+    : Component (name),
+      model (modelToShow),
+      number (filterToShow),
+      curve (name, modelToShow, filterToShow),
+      sight (*this, [this] (bool isInSight) { sightChanged (isInSight); })
 {
     setOpaque (true);
     title.setColour (juce::GroupComponent::textColourId, juce::Colours::black);
@@ -62,13 +78,13 @@ HLShelfComponent::HLShelfComponent (const juce::String& name) : Component (name)
     addAndMakeVisible (reset);
     setSize (230, 386);
 
-    curve.addListener (this);
-    curve.reset();
+    showFields();
     setWantsKeyboardFocus (true);
     curve.toFront (true);
+    model.addListener (this);
 }
 
-HLShelfComponent::~HLShelfComponent() { curve.removeListener (this); }
+HLShelfComponent::~HLShelfComponent() { model.removeListener (this); }
 
 void HLShelfComponent::makeGroup (juce::GroupComponent& group, const juce::String& text, juce::Colour outline)
 {
@@ -94,37 +110,57 @@ void HLShelfComponent::makeField (const halcyra::ShelfRow& row)
     addAndMakeVisible (field.value);
 }
 
-void HLShelfComponent::setParameters (const HLShelfParameters& wish, bool notify, bool force)
+void HLShelfComponent::reverbChanged (const halcyra::ReverbModel::Change& change)
 {
-    if (! halcyra::isFinite (wish))
+    if (change.cell < halcyra::cell::ofFilter (number, 0) || change.cell >= halcyra::cell::ofFilter (number + 1, 0))
         return;
-    if (! notify)
-        show (halcyra::clipped (wish));
-    curve.setParameters (wish, notify, force);
+    if (isShowing())
+        showField (static_cast<std::size_t> (change.cell - halcyra::cell::ofFilter (number, 0)));
+    else
+        stale = true;
 }
 
-void HLShelfComponent::show (const HLShelfParameters& filter)
+void HLShelfComponent::sightChanged (bool isInSight)
 {
-    for (const auto& row : halcyra::shelfTable) {
-        auto& field = *fields[static_cast<std::size_t> (&row - halcyra::shelfTable.data())];
-        const float value = filter.*row.value;
-        field.slider.setValue (static_cast<double> (value), juce::dontSendNotification);
-        field.value.show (value);
-    }
+    if (! isInSight)
+        model.release(); // a press that the window did not live to see the end of
+    else if (stale)
+        showFields();
 }
 
-void HLShelfComponent::filterChanged (HLShelfFrequencyResponseComponent* response) { show (response->getParameters()); }
+void HLShelfComponent::showFields()
+{
+    stale = false;
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        showField (i);
+}
+
+void HLShelfComponent::showField (std::size_t field)
+{
+    const float value = model.filter (number).*halcyra::shelfTable[field].value;
+    fields[field]->slider.setValue (static_cast<double> (value), juce::dontSendNotification);
+    fields[field]->value.show (value);
+}
+
+std::size_t HLShelfComponent::fieldOf (const juce::Slider* slider) const noexcept
+{
+    std::size_t index = 0;
+    while (index + 1 < fields.size() && slider != &fields[index]->slider)
+        ++index;
+    return index;
+}
 
 void HLShelfComponent::sliderValueChanged (juce::Slider* slider)
 {
-    for (const auto& row : halcyra::shelfTable) {
-        const auto& field = fields[static_cast<std::size_t> (&row - halcyra::shelfTable.data())];
-        if (slider == &field->slider)
-            return curve.setField (row.value, static_cast<float> (slider->getValue()));
-    }
+    model.setFilterField (number, fieldOf (slider), static_cast<float> (slider->getValue()), halcyra::Edit::hand);
 }
 
-void HLShelfComponent::buttonClicked (juce::Button*) { curve.reset(); }
+void HLShelfComponent::sliderDragStarted (juce::Slider* slider)
+{
+    model.hold (halcyra::cell::ofFilter (number, fieldOf (slider)));
+}
+
+void HLShelfComponent::buttonClicked (juce::Button*) { model.resetFilter (number, halcyra::Edit::hand); }
 
 bool HLShelfComponent::keyPressed (const juce::KeyPress& key)
 {

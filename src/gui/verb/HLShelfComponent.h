@@ -1,5 +1,6 @@
 #pragma once
 #include "gui/verb/HLShelfFrequencyResponseComponent.h"
+#include "gui/verb/SightWatcher.h"
 #include "gui/verb/ValueLabel.h"
 
 #include <array>
@@ -8,25 +9,29 @@
 namespace lumo
 {
 
-/** One column of the filters page: a response curve above a slider for each field, kept in step. Message thread. */
+/** One column of the filters page: the curve of one of the model's filters above a slider for each field. Out of sight
+    the sliders follow when they are shown again. Message thread. */
 class HLShelfComponent : public Component,
-                         private HLShelfFrequencyResponseComponent::Listener,
+                         private halcyra::ReverbModel::Listener,
                          private juce::Slider::Listener,
                          private juce::Button::Listener
 {
 public:
-    explicit HLShelfComponent (const juce::String& name);
+    HLShelfComponent (const juce::String& name, halcyra::ReverbModel& modelToShow, HalcyraFilter filterToShow);
     ~HLShelfComponent() override;
 
     [[nodiscard]] HLShelfFrequencyResponseComponent& getResponse() noexcept { return curve; }
 
-    /** Sets curve, sliders and labels; only notify lets the curve's listeners hear. An equal filter does nothing unless
-        forced, one that is not finite nothing at all. */
-    void setParameters (const HLShelfParameters& wish, bool notify, bool force);
-
     void resized() override;
     void paint (juce::Graphics& g) override;
     bool keyPressed (const juce::KeyPress& key) override;
+
+    // The prescribed surface: a column that stands alone, with a filter of its own. Only notify tells.
+    explicit HLShelfComponent (const juce::String& name);
+    void setParameters (const HLShelfParameters& wish, bool notify, bool force)
+    {
+        curve.setParameters (wish, notify, force);
+    }
 
 private:
     struct Field
@@ -37,17 +42,30 @@ private:
         ValueLabel value;
     };
 
-    void filterChanged (HLShelfFrequencyResponseComponent* response) override;
+    HLShelfComponent (const juce::String& name, std::unique_ptr<SelfWakingModel> own);
+
+    void reverbChanged (const halcyra::ReverbModel::Change& change) override;
     void sliderValueChanged (juce::Slider* slider) override;
+    void sliderDragStarted (juce::Slider* slider) override;
+    void sliderDragEnded (juce::Slider*) override { model.release(); }
     void buttonClicked (juce::Button* button) override;
     void makeGroup (juce::GroupComponent& group, const juce::String& text, juce::Colour outline);
     void makeField (const halcyra::ShelfRow& row);
-    void show (const HLShelfParameters& filter);
+    void sightChanged (bool isInSight);
+    void showFields();
+    void showField (std::size_t field);
+    [[nodiscard]] std::size_t fieldOf (const juce::Slider* slider) const noexcept;
+
+    std::unique_ptr<SelfWakingModel> ownModel; // null for a column of a window
+    halcyra::ReverbModel& model;
+    const HalcyraFilter number;
 
     juce::GroupComponent title, frequencies, gains;
     HLShelfFrequencyResponseComponent curve;
     std::array<std::unique_ptr<Field>, halcyra::shelfTable.size()> fields;
     juce::TextButton reset{ "ResetButton" };
+    bool stale = true;
+    SightWatcher sight;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HLShelfComponent)
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace lumo
 {
@@ -11,10 +12,8 @@ namespace
 
 const juce::Colour curveColour{ 0x9E2A9DA5 };
 
-/** The field that each handle moves, in the order of the handles. */
-constexpr float HLShelfParameters::*handleFields[] = { &HLShelfParameters::Gl, &HLShelfParameters::Gm,
-                                                       &HLShelfParameters::Gh, &HLShelfParameters::fl,
-                                                       &HLShelfParameters::fh };
+/** The field that a handle moves: the first one, G0, has none. */
+constexpr std::size_t fieldOf (int handle) noexcept { return static_cast<std::size_t> (handle) + 1; }
 
 juce::Colour curveLineColour() { return curveColour.darker (0.4f); }
 
@@ -35,14 +34,30 @@ void drawVertical (juce::Graphics& g, double x, float thickness, float height)
 
 }
 
-HLShelfFrequencyResponseComponent::HLShelfFrequencyResponseComponent (const juce::String& name) : Component (name)
+HLShelfFrequencyResponseComponent::HLShelfFrequencyResponseComponent (const juce::String& name)
+    : HLShelfFrequencyResponseComponent (name, std::make_unique<SelfWakingModel> (0))
+{}
+
+HLShelfFrequencyResponseComponent::HLShelfFrequencyResponseComponent (const juce::String& name,
+                                                                      std::unique_ptr<SelfWakingModel> own)
+    : HLShelfFrequencyResponseComponent (name, *own, 0)
+{
+    ownModel = std::move (own);
+}
+
+HLShelfFrequencyResponseComponent::HLShelfFrequencyResponseComponent (const juce::String& name,
+                                                                      halcyra::ReverbModel& modelToShow,
+                                                                      HalcyraFilter filterToShow)
+    : Component (name), model (modelToShow), number (filterToShow)
 {
     setOpaque (true); // the grid covers all of it
     addAndMakeVisible (grid);
     setSize (200, 100);
     setRepaintsOnMouseActivity (true);
-    reset();
+    model.addListener (this);
 }
+
+HLShelfFrequencyResponseComponent::~HLShelfFrequencyResponseComponent() { model.removeListener (this); }
 
 void HLShelfFrequencyResponseComponent::addListener (Listener* listener)
 {
@@ -67,31 +82,29 @@ void HLShelfFrequencyResponseComponent::tellListeners (Call&& tell)
     }
 }
 
-void HLShelfFrequencyResponseComponent::changed (bool notify)
+void HLShelfFrequencyResponseComponent::reverbChanged (const halcyra::ReverbModel::Change& change)
 {
-    response.design (parameters);
-    if (notify)
-        tellListeners ([this] (Listener& l) { l.filterChanged (this); });
+    if (change.cell < halcyra::cell::ofFilter (number, 0) || change.cell >= halcyra::cell::ofFilter (number + 1, 0))
+        return;
+    stale = true;
     repaint();
+}
+
+void HLShelfFrequencyResponseComponent::filterTold (HalcyraFilter told)
+{
+    if (told == number)
+        tellListeners ([this] (Listener& l) { l.filterChanged (this); });
 }
 
 void HLShelfFrequencyResponseComponent::setParameters (const HLShelfParameters& wish, bool notify, bool force)
 {
-    if (! halcyra::isFinite (wish) || (wish == parameters && ! force))
-        return;
-    parameters = wish;
-    changed (notify);
+    model.setFilter (number, wish, notify ? halcyra::Edit::message : halcyra::Edit::quiet, force);
 }
 
-void HLShelfFrequencyResponseComponent::setField (float HLShelfParameters::*field, float value)
+void HLShelfFrequencyResponseComponent::setField (std::size_t field, float value, halcyra::Edit edit)
 {
-    if (! std::isfinite (value))
-        return;
-    parameters.*field = value;
-    changed (true);
+    model.setFilterField (number, field, value, edit);
 }
-
-void HLShelfFrequencyResponseComponent::reset() { setParameters ({}, true, true); }
 
 void HLShelfFrequencyResponseComponent::requestClose()
 {
@@ -108,6 +121,7 @@ HLShelfScale HLShelfFrequencyResponseComponent::scale() const noexcept
 juce::Point<double> HLShelfFrequencyResponseComponent::handleCentre (int handle) const noexcept
 {
     const auto s = scale();
+    const auto& parameters = getParameters();
     const double xl = s.x (static_cast<double> (parameters.fl)), xh = s.x (static_cast<double> (parameters.fh));
     const auto y = [&] (float gain) { return s.y (static_cast<double> (gain + parameters.G0)); };
     switch (handle) {
@@ -148,6 +162,8 @@ void HLShelfFrequencyResponseComponent::mouseDown (const juce::MouseEvent& e)
     else
         setMouseCursor (selectedHandle < lowFrequency ? juce::MouseCursor::UpDownResizeCursor
                                                       : juce::MouseCursor::LeftRightResizeCursor);
+    if (selectedHandle != none)
+        model.hold (halcyra::cell::ofFilter (number, fieldOf (selectedHandle)));
     repaint();
     mouseDrag (e); // so that a click already moves the handle
 }
@@ -159,13 +175,15 @@ void HLShelfFrequencyResponseComponent::mouseDrag (const juce::MouseEvent& e)
         return;
     const auto position = e.position.toDouble();
     const bool isGain = selectedHandle < lowFrequency;
-    setField (handleFields[selectedHandle],
-              isGain ? limitedGain (scale().gain (position.y) - static_cast<double> (parameters.G0))
-                     : limitedFrequency (scale().frequency (position.x)));
+    setField (fieldOf (selectedHandle),
+              isGain ? limitedGain (scale().gain (position.y) - static_cast<double> (getParameters().G0))
+                     : limitedFrequency (scale().frequency (position.x)),
+              halcyra::Edit::hand);
 }
 
 void HLShelfFrequencyResponseComponent::mouseUp (const juce::MouseEvent&)
 {
+    model.release();
     setMouseCursor (juce::MouseCursor::NormalCursor);
     repaint();
 }
@@ -188,13 +206,14 @@ void HLShelfFrequencyResponseComponent::mouseWheelMove (const juce::MouseEvent&,
     if (! std::isfinite (wheel.deltaY))
         return;
     const double turn = static_cast<double> (wheel.deltaY);
-    if (selectedHandle != none) {
-        auto& value = parameters.*handleFields[selectedHandle];
-        const auto present = static_cast<double> (value);
-        value = selectedHandle < lowFrequency ? limitedGain (present + 60 * turn * 0.15)
-                                              : limitedFrequency (present * std::exp2 (turn));
-    }
-    changed (true); // with no handle selected too
+    if (selectedHandle == none) // it is told all the same
+        return model.setFilter (number, getParameters(), halcyra::Edit::hand, true);
+    const auto field = fieldOf (selectedHandle);
+    const auto present = static_cast<double> (getParameters().*halcyra::shelfTable[field].value);
+    setField (field,
+              selectedHandle < lowFrequency ? limitedGain (present + 60 * turn * 0.15)
+                                            : limitedFrequency (present * std::exp2 (turn)),
+              halcyra::Edit::hand);
 }
 
 // ---- Drawing
@@ -203,11 +222,18 @@ void HLShelfFrequencyResponseComponent::resized() { grid.setBounds (getLocalBoun
 
 void HLShelfFrequencyResponseComponent::paintOverChildren (juce::Graphics& g)
 {
+    bringUpToDate();
     g.setFont (juce::Font (HLShelfGrid::fontHeight));
     paintCurve (g);
     if (hovered)
         paintHandles (g);
     Component::paintOverChildren (g);
+}
+
+void HLShelfFrequencyResponseComponent::bringUpToDate()
+{
+    if (std::exchange (stale, false))
+        response.design (getParameters());
 }
 
 juce::Path HLShelfFrequencyResponseComponent::curve() const
@@ -248,7 +274,7 @@ void HLShelfFrequencyResponseComponent::paintHandles (juce::Graphics& g) const
         return;
     const auto centre = handleCentre (selectedHandle).toInt();
     g.setColour (juce::Colours::black);
-    g.drawText (juce::String (parameters.*handleFields[selectedHandle], 1) + " dB",
+    g.drawText (juce::String (getParameters().*halcyra::shelfTable[fieldOf (selectedHandle)].value, 1) + " dB",
                 juce::Rectangle<int> (centre.x - 20, centre.y - 20, 40, 40), juce::Justification::centred, false);
 }
 

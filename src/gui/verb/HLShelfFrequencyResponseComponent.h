@@ -1,17 +1,19 @@
 #pragma once
 #include "gui/plane/LumoComponent.h"
 #include "gui/verb/HLShelfGrid.h"
-#include "gui/verb/HLShelfResponse.h"
-#include "gui/verb/HLShelfScale.h"
+#include "gui/verb/SelfWakingModel.h"
+#include "reverb/HLShelfResponse.h"
+#include "reverb/HLShelfScale.h"
 
+#include <memory>
 #include <vector>
 
 namespace lumo
 {
 
-/** The response curve of one three-band filter, with five handles on it: the gains of the low, mid and high band, and
-    the two crossover frequencies. Message thread. Setters ignore what is not finite. */
-class HLShelfFrequencyResponseComponent : public Component
+/** The response curve of one of the model's filters, with five handles on it: the gains of the low, mid and high band,
+    and the two crossover frequencies. The curve shows the model and edits it. Message thread. */
+class HLShelfFrequencyResponseComponent : public Component, private halcyra::ReverbModel::Listener
 {
 public:
     /** Hears of every change of the filter. */
@@ -24,28 +26,28 @@ public:
         virtual void filterClose() {}
     };
 
-    explicit HLShelfFrequencyResponseComponent (const juce::String& name);
+    HLShelfFrequencyResponseComponent (const juce::String& name, halcyra::ReverbModel& modelToShow,
+                                       HalcyraFilter filterToShow);
+    ~HLShelfFrequencyResponseComponent() override;
 
     /** Listeners hear in order of registration; null and a second add are ignored. Not owned. */
     void addListener (Listener* listener);
     void removeListener (Listener* listener);
 
-    /** The filter as it was set; the design works on a clipped copy. */
-    [[nodiscard]] const HLShelfParameters& getParameters() const noexcept { return parameters; }
-    /** Does nothing for an equal filter, unless forced. */
-    void setParameters (const HLShelfParameters& wish, bool notify, bool force);
-    /** Sets one field, tells the listeners and repaints. */
-    void setField (float HLShelfParameters::*field, float value);
-    void setGlobalGain (float dB) { setField (&HLShelfParameters::G0, dB); }
-    void setLowGain (float dB) { setField (&HLShelfParameters::Gl, dB); }
-    void setMidGain (float dB) { setField (&HLShelfParameters::Gm, dB); }
-    void setHighGain (float dB) { setField (&HLShelfParameters::Gh, dB); }
-    void setLowFrequency (float hz) { setField (&HLShelfParameters::fl, hz); }
-    void setHighFrequency (float hz) { setField (&HLShelfParameters::fh, hz); }
-    /** Back to the defaults, and tells. */
-    void reset();
+    [[nodiscard]] const HLShelfParameters& getParameters() const { return model.filter (number); }
     /** Tells the listeners of the close key. */
     void requestClose();
+
+    // The prescribed surface: a curve that stands alone, with a filter of its own, and setters that are no hand's.
+    explicit HLShelfFrequencyResponseComponent (const juce::String& name);
+    void setParameters (const HLShelfParameters& wish, bool notify, bool force);
+    void setGlobalGain (float dB) { setField (0, dB, halcyra::Edit::message); }
+    void setLowGain (float dB) { setField (1, dB, halcyra::Edit::message); }
+    void setMidGain (float dB) { setField (2, dB, halcyra::Edit::message); }
+    void setHighGain (float dB) { setField (3, dB, halcyra::Edit::message); }
+    void setLowFrequency (float hz) { setField (4, hz, halcyra::Edit::message); }
+    void setHighFrequency (float hz) { setField (5, hz, halcyra::Edit::message); }
+    void reset() { model.resetFilter (number, halcyra::Edit::message); }
 
     /** The handle that was last pressed, -1 for none. */
     [[nodiscard]] int getSelectedHandle() const noexcept { return selectedHandle; }
@@ -71,20 +73,29 @@ private:
         numHandles
     };
 
+    HLShelfFrequencyResponseComponent (const juce::String& name, std::unique_ptr<SelfWakingModel> own);
+
     template <typename Call>
     void tellListeners (Call&& tell);
-    void changed (bool notify);
+    void reverbChanged (const halcyra::ReverbModel::Change& change) override;
+    void filterTold (HalcyraFilter told) override;
+    void setField (std::size_t field, float value, halcyra::Edit edit);
     [[nodiscard]] HLShelfScale scale() const noexcept;
     [[nodiscard]] juce::Point<double> handleCentre (int handle) const noexcept;
     [[nodiscard]] int handleRadius() const noexcept;
     [[nodiscard]] int handleAt (juce::Point<double> position) const noexcept;
     [[nodiscard]] juce::Path curve() const;
+    void bringUpToDate();
     void paintCurve (juce::Graphics& g) const;
     void paintHandles (juce::Graphics& g) const;
 
+    std::unique_ptr<SelfWakingModel> ownModel; // null for a curve of a window
+    halcyra::ReverbModel& model;
+    const HalcyraFilter number;
+
     HLShelfGrid grid;
     HLShelfResponse response;
-    HLShelfParameters parameters;
+    bool stale = true; // the response is designed when it is next drawn
     int selectedHandle = none;
     bool hovered = false; // by the events alone: they may come from elsewhere than the screen's pointer
     std::vector<Listener*> listeners;

@@ -1,7 +1,7 @@
 #include "gui/verb/HLShelfGrid.h"
 
 #include "gui/verb/EditorStyle.h"
-#include "gui/verb/HLShelfScale.h"
+#include "reverb/HLShelfScale.h"
 
 namespace lumo
 {

@@ -2,14 +2,14 @@
 
 #include "gui/verb/EditorStyle.h"
 
-HalcyraAmbrelTabComponent::HalcyraAmbrelTabComponent (std::uint32_t numsources, std::uint32_t numspeakers)
-    : plane (numsources, numspeakers, 400)
+HalcyraAmbrelTabComponent::HalcyraAmbrelTabComponent (std::unique_ptr<lumo::PlaneComponent> planeToShow)
+    : plane (std::move (planeToShow))
 {
     setOpaque (true);
-    addAndMakeVisible (plane);
+    addAndMakeVisible (*plane);
     setSize (920, 400);
 }
 
-void HalcyraAmbrelTabComponent::resized() { plane.setBounds (32, 24, 350, 350); }
+void HalcyraAmbrelTabComponent::resized() { plane->setBounds (planeX, planeY, planeSize, planeSize); }
 
 void HalcyraAmbrelTabComponent::paint (juce::Graphics& g) { g.fillAll (editors::pageColour); }

@@ -1,19 +1,22 @@
 #pragma once
 #include "gui/plane/PlaneComponent.h"
 
+#include <memory>
+
 /** The page of the scene. Message thread. */
 class HalcyraAmbrelTabComponent : public juce::Component
 {
 public:
-    HalcyraAmbrelTabComponent (std::uint32_t numsources, std::uint32_t numspeakers);
+    /** Where the plane lies on the page, which is the only one it has. */
+    static constexpr int planeX = 32, planeY = 24, planeSize = 350;
 
-    [[nodiscard]] lumo::PlaneComponent& getPlane() noexcept { return plane; }
+    explicit HalcyraAmbrelTabComponent (std::unique_ptr<lumo::PlaneComponent> planeToShow);
 
     void resized() override;
     void paint (juce::Graphics& g) override;
 
 private:
-    lumo::PlaneComponent plane;
+    std::unique_ptr<lumo::PlaneComponent> plane;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HalcyraAmbrelTabComponent)
 };

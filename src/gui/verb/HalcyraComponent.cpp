@@ -3,60 +3,108 @@
 #include "gui/verb/HalcyraAmbrelTabComponent.h"
 #include "gui/verb/HalcyraFiltersTabComponent.h"
 #include "gui/verb/HalcyraTimeStructureTabComponent.h"
+#include "gui/verb/TooltipWindow.h"
+
+#include <algorithm>
+#include <array>
 
 namespace
 {
 
+using halcyra::Edit;
+using Step = halcyra::EditHistory::Step;
+using Value = halcyra::EditHistory::Value;
+using Poses = lumo::poses::Poses;
+namespace cell = halcyra::cell;
+
 const juce::Colour frameColour{ 0xFFA4A4A4 };
 const juce::Colour tabColour{ 0xFFD3D3D3 };
 
+const juce::KeyPress closeKey{ 'w', juce::ModifierKeys::ctrlModifier, 0 };
+
+/** The keys that undo and redo. They are taken also when there is nothing to do, so that they never reach the host. */
+struct HistoryKey
+{
+    juce::KeyPress key;
+    void (HalcyraComponent::*act)();
+};
+
+const std::array<HistoryKey, 3> historyKeys{ {
+    { { 'z', juce::ModifierKeys::ctrlModifier, 0 }, &HalcyraComponent::undo },
+    { { 'z', juce::ModifierKeys::ctrlModifier | juce::ModifierKeys::shiftModifier, 0 }, &HalcyraComponent::redo },
+    { { 'y', juce::ModifierKeys::ctrlModifier, 0 }, &HalcyraComponent::redo },
+} };
+
+bool isMousePressed() { return juce::Desktop::getInstance().getNumDraggingMouseSources() > 0; }
+
+/** Whose gesture an edit belongs to that comes now. */
+halcyra::EditHistory::Gesture presentGesture()
+{
+    return { juce::Desktop::getInstance().getMainMouseSource().getComponentUnderMouse(), isMousePressed() };
 }
+
+}
+
+/** What only a window needs. */
+struct HalcyraComponent::Pages
+{
+    Pages (HalcyraComponent& owner, std::unique_ptr<UndoablePlane> plane)
+    {
+        tabs.setTabBarDepth (30);
+        const auto add = [&] (const char* title, std::unique_ptr<juce::Component> page) {
+            tabs.addTab (title, tabColour, page.release(), true);
+        };
+        add ("Time Structure",
+             std::make_unique<HalcyraTimeStructureTabComponent> ("HalcyraTimeStructure", owner.model));
+        add ("filters", std::make_unique<HalcyraFiltersTabComponent> ("HalcyraFilters", owner.model));
+        add ("Ambrel", std::make_unique<HalcyraAmbrelTabComponent> (std::move (plane)));
+    }
+
+    juce::SharedResourcePointer<widgets::TooltipWindow> tooltipWindow;
+    juce::TabbedComponent tabs{ juce::TabbedButtonBar::TabsAtTop };
+};
 
 HalcyraComponent::HalcyraComponent (std::uint32_t sources, std::uint32_t speakers, std::uint32_t internals)
     : numsources (sources),
       numspeakers (speakers),
       numinternals (internals),
-      tabs (std::make_unique<juce::TabbedComponent> (juce::TabbedButtonBar::TabsAtTop))
+      model (static_cast<int> (internals)),
+      planeWithoutPage (std::make_unique<UndoablePlane> (
+          sources, speakers, 400, [this] (const Poses& before, const Poses& after) { sceneMoved (before, after); })),
+      plane (planeWithoutPage.get())
 {
-    setOpaque (true);
-    addAndMakeVisible (*tabs);
-    tabs->setTabBarDepth (30);
-    setSize (930, 440);
-    makePages();
-    timeStructureTab->getTimeStructure (parameters);
+    using Page = HalcyraAmbrelTabComponent;
+    plane->setBounds (Page::planeX, Page::planeY, Page::planeSize, Page::planeSize);
     plane->SetRepaintMode (0);
-    resetAll();
-    setWantsKeyboardFocus (true);
-}
-
-void HalcyraComponent::makePages()
-{
-    auto timeStructure =
-        std::make_unique<HalcyraTimeStructureTabComponent> ("HalcyraTimeStructure", static_cast<int> (numinternals));
-    auto filters = std::make_unique<HalcyraFiltersTabComponent> ("HalcyraFilters");
-    auto viewer = std::make_unique<HalcyraAmbrelTabComponent> (numsources, numspeakers);
-    timeStructureTab = timeStructure.get();
-    filtersTab = filters.get();
-    plane = &viewer->getPlane();
-
-    timeStructureTab->addListener (this);
-    for (std::size_t i = 0; i < responses.size(); ++i) {
-        responses[i] = &filtersTab->getShelf (static_cast<HalcyraFilter> (i)).getResponse();
-        responses[i]->addListener (this);
-    }
     plane->AddListener (this);
-
-    tabs->addTab ("Time Structure", tabColour, timeStructure.release(), true);
-    tabs->addTab ("filters", tabColour, filters.release(), true);
-    tabs->addTab ("Ambrel", tabColour, viewer.release(), true);
+    model.addListener (this);
+    setOpaque (true);
+    setSize (930, 440);
+    setWantsKeyboardFocus (true);
 }
 
 HalcyraComponent::~HalcyraComponent()
 {
-    timeStructureTab->removeListener (this);
     plane->RemoveListener (this);
-    for (auto* response : responses)
-        response->removeListener (this);
+    model.removeListener (this);
+}
+
+void HalcyraComponent::makePages()
+{
+    if (pages != nullptr)
+        return;
+    pages = std::make_unique<Pages> (*this, std::move (planeWithoutPage));
+    pages->tabs.setBounds (5, 6, 920, 430);
+    addAndMakeVisible (pages->tabs);
+    sendLookAndFeelChange();       // the children were laid out before they had this one
+    addMouseListener (this, true); // the end of every press is the end of a gesture
+}
+
+void HalcyraComponent::parentHierarchyChanged()
+{
+    lumo::Component::parentHierarchyChanged();
+    if (getParentComponent() != nullptr || isOnDesktop())
+        makePages();
 }
 
 void HalcyraComponent::addListener (Listener* listener) { listeners.add (listener); }
@@ -66,48 +114,37 @@ void HalcyraComponent::sendAllParameters()
 {
     for (std::uint32_t source = 0; source < numsources; ++source)
         listeners.call ([&] (Listener& l) { l.HalcyraSourceChanged (static_cast<int> (source)); });
-    for (HalcyraFilter filter = 0; filter < static_cast<int> (responses.size()); ++filter)
-        listeners.call ([&] (Listener& l) { l.HalcyraFilterChanged (filter); });
+    for (std::size_t filter = 0; filter < halcyra::filterNames.size(); ++filter)
+        listeners.call ([&] (Listener& l) { l.HalcyraFilterChanged (static_cast<HalcyraFilter> (filter)); });
+    model.forgetWaiting();
     for (const auto& row : halcyra::parameterTable)
         listeners.call ([&] (Listener& l) { l.HalcyraReverbChanged (row.number); });
     listeners.call ([] (Listener& l) { l.HalcyraSpeakersChanged(); });
     listeners.call ([] (Listener& l) { l.HalcyraViewerOptionsChanged(); });
 }
 
-void HalcyraComponent::resetAll()
-{
-    for (auto* response : responses)
-        response->reset();
-    timeStructureTab->setDefaults();
-}
+void HalcyraComponent::resetAll() { model.reset (Edit::message); }
 
 // ---- The host's settings
 
 float HalcyraComponent::reverbParameter (HalcyraReverbParameter number) const noexcept
 {
-    const auto* row = halcyra::parameterRow (number);
-    return row == nullptr ? 0.0f : halcyra::valueOf (parameters, *row);
+    return halcyra::parameterRow (number) == nullptr ? 0.0f : model.value (number);
 }
 
 void HalcyraComponent::setReverbParameter (HalcyraReverbParameter number, float value)
 {
-    timeStructureTab->setParameter (number, value, 1);
+    model.setParameter (number, value, Edit::message);
 }
 
 void HalcyraComponent::setRoomSize (float value, int notification)
 {
-    timeStructureTab->setRoomSize (value, notification);
-}
-
-const HLShelfParameters& HalcyraComponent::getFilter (HalcyraFilter filter) const
-{
-    return responses.at (static_cast<std::size_t> (filter))->getParameters();
+    model.setRoomSize (value, notification == 1 ? Edit::message : Edit::quiet);
 }
 
 void HalcyraComponent::setFilter (HalcyraFilter filter, const HLShelfParameters& wish, bool notify)
 {
-    if (filter >= 0 && filter < static_cast<int> (responses.size()))
-        filtersTab->getShelf (filter).setParameters (wish, notify, false);
+    model.setFilter (filter, wish, notify ? Edit::message : Edit::quiet);
 }
 
 qel::Point3 HalcyraComponent::getSourcePosition (int index) const
@@ -122,21 +159,16 @@ void HalcyraComponent::getSpeakerPositions (qel::Point3Array& out) const
         out[i] = plane->GetSpeakerPosition (i);
 }
 
-// ---- Edits in the window
+// ---- Changes on their way out
 
-void HalcyraComponent::timeStructureChanged (HalcyraTimeStructureTabComponent* tab, const int& parameter)
+void HalcyraComponent::parameterTold (HalcyraReverbParameter number)
 {
-    if (tab != timeStructureTab)
-        return;
-    timeStructureTab->updateTimeStructureField (parameters, parameter);
-    listeners.call ([&] (Listener& l) { l.HalcyraReverbChanged (parameter); });
+    listeners.call ([&] (Listener& l) { l.HalcyraReverbChanged (number); });
 }
 
-void HalcyraComponent::filterChanged (lumo::HLShelfFrequencyResponseComponent* response)
+void HalcyraComponent::filterTold (HalcyraFilter number)
 {
-    for (std::size_t i = 0; i < responses.size(); ++i)
-        if (response == responses[i])
-            return listeners.call ([&] (Listener& l) { l.HalcyraFilterChanged (static_cast<HalcyraFilter> (i)); });
+    listeners.call ([&] (Listener& l) { l.HalcyraFilterChanged (number); });
 }
 
 void HalcyraComponent::SourcePositionChanged (std::size_t index, const qel::Point3&)
@@ -154,19 +186,92 @@ void HalcyraComponent::OptionsChanged (lumo::PlaneBase&)
     listeners.call ([] (Listener& l) { l.HalcyraViewerOptionsChanged(); });
 }
 
+// ---- Undo. A cell of the model is its own number, a pose of the scene stands behind all of those.
+
+void HalcyraComponent::reverbChanged (const halcyra::ReverbModel::Change& change)
+{
+    if (change.edit == Edit::hand)
+        history.record (presentGesture(), change.cell, change.before, change.after);
+}
+
+void HalcyraComponent::sceneMoved (const Poses& before, const Poses& after)
+{
+    const auto gesture = presentGesture();
+    for (std::size_t i = 0; i < before.size(); ++i)
+        if (before[i] != after[i])
+            history.record (gesture, cell::count + static_cast<int> (i), before[i], after[i]);
+}
+
+// These are heard after whatever was pressed.
+void HalcyraComponent::mouseDown (const juce::MouseEvent&) { history.closeRun(); }
+
+void HalcyraComponent::mouseUp (const juce::MouseEvent& event)
+{
+    if (event.getNumberOfClicks() < 2 || event.eventComponent != lastPressed)
+        stepsOfClicks = 0;
+    lastPressed = event.eventComponent;
+    endGesture();
+}
+
+void HalcyraComponent::mouseDoubleClick (const juce::MouseEvent&) { endGesture(); }
+
+void HalcyraComponent::endGesture()
+{
+    if (history.close())
+        stepsOfClicks = history.joinNewest (stepsOfClicks + 1);
+}
+
+void HalcyraComponent::undo()
+{
+    if (! isMousePressed())
+        apply (history.undo(), &Value::before);
+}
+
+void HalcyraComponent::redo()
+{
+    if (! isMousePressed())
+        apply (history.redo(), &Value::after);
+}
+
+void HalcyraComponent::apply (const Step* step, float Value::*side)
+{
+    if (step == nullptr)
+        return;
+    std::vector<halcyra::ReverbModel::Wish> wishes;
+    Poses poses;
+    lumo::poses::read (*plane, poses);
+    for (const auto& value : *step)
+        if (value.cell < cell::count)
+            wishes.push_back ({ value.cell, value.*side });
+        else
+            poses[static_cast<std::size_t> (value.cell - cell::count)] = value.*side;
+    model.recall (wishes.data(), wishes.size(), Edit::message);
+    lumo::poses::restore (*plane, poses);
+}
+
 bool HalcyraComponent::keyPressed (const juce::KeyPress& key)
 {
-    if (key == juce::KeyPress ('w', juce::ModifierKeys::ctrlModifier, 0))
+    for (const auto& row : historyKeys)
+        if (key == row.key) {
+            (this->*row.act)();
+            return true;
+        }
+    if (key == closeKey)
         listeners.call ([] (Listener& l) { l.HalcyraCloseRequested(); });
     return false; // the key travels on to the parent
 }
 
 // ---- Drawing
 
-void HalcyraComponent::resized() { tabs->setBounds (5, 6, 920, 430); }
+void HalcyraComponent::resized()
+{
+    if (pages != nullptr)
+        pages->tabs.setBounds (5, 6, 920, 430);
+}
 
 void HalcyraComponent::paint (juce::Graphics& g)
 {
+    makePages(); // for a picture of a component that never had a window
     BeginPaintTiming();
     if (isVisible())
         g.fillAll (frameColour);

@@ -3,31 +3,19 @@
 #include "geometry/OrvaneDspPoint3.h"
 #include "gui/plane/LumoComponent.h"
 #include "gui/plane/PlaneListener.h"
-#include "gui/verb/HLShelfFrequencyResponseComponent.h"
+#include "gui/verb/EditHistory.h"
 #include "gui/verb/HalcyraComponentListener.h"
-#include "gui/verb/HalcyraParameters.h"
-#include "gui/verb/HalcyraTimeStructureListener.h"
-#include "gui/verb/TooltipWindow.h"
+#include "gui/verb/SelfWakingModel.h"
+#include "gui/verb/UndoablePlane.h"
 
-#include <array>
 #include <cstdint>
 #include <memory>
 
-class HalcyraFiltersTabComponent;
-class HalcyraTimeStructureTabComponent;
-
-namespace lumo
-{
-class PlaneComponent;
-}
-
-/** The whole content of the window: three pages, for the reverberator's time structure, its filters, and the scene.
-    It holds the parameters as last read from their controls, takes the host's settings, and tells its listeners of
-    every edit. Message thread. Values that are not finite are ignored by every setter. */
-class HalcyraComponent : public lumo::Component,
-                         private lumo::HalcyraTimeStructureListener,
-                         private lumo::PlaneListener,
-                         private lumo::HLShelfFrequencyResponseComponent::Listener
+/** The reverberator's model and its scene, and the whole content of the window that shows them: three pages, for the
+    time structure, the filters, and the scene. The pages are made when the component first gets a window or is drawn.
+    It takes the host's settings, tells its listeners of every change, and undoes what the hand has done. Message
+    thread. Values that are not finite are ignored by every setter. */
+class HalcyraComponent : public lumo::Component, private halcyra::ReverbModel::Listener, private lumo::PlaneListener
 {
 public:
     using Listener = lumo::HalcyraComponentListener;
@@ -44,20 +32,29 @@ public:
     /** Returns the four filters and the time structure to their defaults, and tells. */
     void resetAll();
 
-    /** The stored value of a parameter, a switch as 0 or 1; 0 for a number that is none. */
-    [[nodiscard]] float reverbParameter (HalcyraReverbParameter number) const noexcept;
-    /** Sets the control of a parameter by its number; the edit is told once the control has really changed, switches at
-        once, the others when JUCE's messages are next run. A number that is none is ignored. */
-    void setReverbParameter (HalcyraReverbParameter number, float value);
-    /** All stored parameters. */
-    [[nodiscard]] const HalcyraTimeStructure& getTimeStructure() const noexcept { return parameters; }
+    [[nodiscard]] const halcyra::ReverbModel& getModel() const noexcept { return model; }
+    /** How the end of a turn is brought about: called at its first change, to have endTurn() called behind everything
+        that waits already. Until then JUCE's messages do it. */
+    void setTurnWaker (std::function<void()> waker) { model.wakeTurnEnd = std::move (waker); }
+    /** Tells the numbers that have changed in this turn. */
+    void endTurn() { model.endTurn(); }
 
-    /** A filter as its curve holds it, 0 direct to 3 cluster. */
-    [[nodiscard]] const HLShelfParameters& getFilter (HalcyraFilter filter) const;
+    /** A parameter's value, a switch's as 0 or 1; 0 for a number that is none. */
+    [[nodiscard]] float reverbParameter (HalcyraReverbParameter number) const noexcept;
+    /** Sets a parameter by its number. Switches are told at once, numbers when the turn ends. */
+    void setReverbParameter (HalcyraReverbParameter number, float value);
+    [[nodiscard]] const HalcyraTimeStructure& getTimeStructure() const noexcept { return model.parameters(); }
+
+    /** 0 direct to 3 cluster. */
+    [[nodiscard]] const HLShelfParameters& getFilter (HalcyraFilter filter) const { return model.filter (filter); }
     void setFilter (HalcyraFilter filter, const HLShelfParameters& wish, bool notify);
 
-    /** Derives all times from a volume in cubic metres; with notification 1 the slider tells of it. */
+    /** Derives all times from a volume in cubic metres; only notification 1 tells of it. */
     void setRoomSize (float value, int notification);
+
+    /** Takes back, or does again, the newest gesture of the hand; not while a mouse button is down. */
+    void undo();
+    void redo();
 
     [[nodiscard]] lumo::PlaneComponent* getPlane() const noexcept { return plane; }
     /** The origin for an index that is none. */
@@ -69,26 +66,27 @@ public:
     [[nodiscard]] std::uint32_t numSpeakers() const noexcept { return numspeakers; }
     [[nodiscard]] std::uint32_t numInternals() const noexcept { return numinternals; }
 
-    [[nodiscard]] float getReverbGain() const noexcept { return parameters.gain; }
-    [[nodiscard]] float getTr0() const noexcept { return parameters.tr0; }
-    [[nodiscard]] float getTrl() const noexcept { return parameters.trl; }
-    [[nodiscard]] float getTrm() const noexcept { return parameters.trm; }
-    [[nodiscard]] float getTrh() const noexcept { return parameters.trh; }
-    [[nodiscard]] float getFl() const noexcept { return parameters.fl; }
-    [[nodiscard]] float getFh() const noexcept { return parameters.fh; }
-    [[nodiscard]] float getEarlyStart() const noexcept { return parameters.earlyStart; }
-    [[nodiscard]] float getEarlyEnd() const noexcept { return parameters.earlyEnd; }
-    [[nodiscard]] float getEarlyDistr() const noexcept { return parameters.earlyDistr; }
-    [[nodiscard]] float getEarlyShape() const noexcept { return parameters.earlyShape; }
-    [[nodiscard]] float getEarlyWidth() const noexcept { return parameters.earlyWidth; }
-    [[nodiscard]] float getClusterStart() const noexcept { return parameters.clusterStart; }
-    [[nodiscard]] float getClusterEnd() const noexcept { return parameters.clusterEnd; }
-    [[nodiscard]] float getClusterDistr() const noexcept { return parameters.clusterDistr; }
-    [[nodiscard]] float getReverbStart() const noexcept { return parameters.reverbStart; }
-    [[nodiscard]] float getModalDensity() const noexcept { return parameters.modalDensity; }
-    [[nodiscard]] bool getAir() const noexcept { return parameters.air != 0; }
-    [[nodiscard]] bool getInfinite() const noexcept { return parameters.infinite != 0; }
-    [[nodiscard]] float getAirFrequency() const noexcept { return parameters.airFrequency; }
+    // The prescribed surface: each parameter and filter by its own name.
+    [[nodiscard]] float getReverbGain() const noexcept { return getTimeStructure().gain; }
+    [[nodiscard]] float getTr0() const noexcept { return getTimeStructure().tr0; }
+    [[nodiscard]] float getTrl() const noexcept { return getTimeStructure().trl; }
+    [[nodiscard]] float getTrm() const noexcept { return getTimeStructure().trm; }
+    [[nodiscard]] float getTrh() const noexcept { return getTimeStructure().trh; }
+    [[nodiscard]] float getFl() const noexcept { return getTimeStructure().fl; }
+    [[nodiscard]] float getFh() const noexcept { return getTimeStructure().fh; }
+    [[nodiscard]] float getEarlyStart() const noexcept { return getTimeStructure().earlyStart; }
+    [[nodiscard]] float getEarlyEnd() const noexcept { return getTimeStructure().earlyEnd; }
+    [[nodiscard]] float getEarlyDistr() const noexcept { return getTimeStructure().earlyDistr; }
+    [[nodiscard]] float getEarlyShape() const noexcept { return getTimeStructure().earlyShape; }
+    [[nodiscard]] float getEarlyWidth() const noexcept { return getTimeStructure().earlyWidth; }
+    [[nodiscard]] float getClusterStart() const noexcept { return getTimeStructure().clusterStart; }
+    [[nodiscard]] float getClusterEnd() const noexcept { return getTimeStructure().clusterEnd; }
+    [[nodiscard]] float getClusterDistr() const noexcept { return getTimeStructure().clusterDistr; }
+    [[nodiscard]] float getReverbStart() const noexcept { return getTimeStructure().reverbStart; }
+    [[nodiscard]] float getModalDensity() const noexcept { return getTimeStructure().modalDensity; }
+    [[nodiscard]] bool getAir() const noexcept { return getTimeStructure().air != 0; }
+    [[nodiscard]] bool getInfinite() const noexcept { return getTimeStructure().infinite != 0; }
+    [[nodiscard]] float getAirFrequency() const noexcept { return getTimeStructure().airFrequency; }
     [[nodiscard]] const HLShelfParameters& getDirectFilter() const { return getFilter (0); }
     [[nodiscard]] const HLShelfParameters& getRoomFilter() const { return getFilter (1); }
     [[nodiscard]] const HLShelfParameters& getEarlyFilter() const { return getFilter (2); }
@@ -123,24 +121,34 @@ public:
     void paint (juce::Graphics& g) override;
     void paintOverChildren (juce::Graphics& g) override;
     bool keyPressed (const juce::KeyPress& key) override;
+    void parentHierarchyChanged() override;
+    void mouseDown (const juce::MouseEvent& event) override;
+    void mouseUp (const juce::MouseEvent& event) override;
+    void mouseDoubleClick (const juce::MouseEvent& event) override;
 
 private:
-    void timeStructureChanged (HalcyraTimeStructureTabComponent* tab, const int& parameter) override;
-    void filterChanged (lumo::HLShelfFrequencyResponseComponent* response) override;
+    void reverbChanged (const halcyra::ReverbModel::Change& change) override;
+    void parameterTold (HalcyraReverbParameter number) override;
+    void filterTold (HalcyraFilter number) override;
     void SourcePositionChanged (std::size_t index, const qel::Point3& position) override;
     void SpeakersPositionsChanged (const qel::Point3Array& positions) override;
     void OptionsChanged (lumo::PlaneBase& source) override;
+    void endGesture();
+    void sceneMoved (const lumo::poses::Poses& before, const lumo::poses::Poses& after);
+    void apply (const halcyra::EditHistory::Step* step, float halcyra::EditHistory::Value::*side);
     void makePages();
 
-    juce::SharedResourcePointer<widgets::TooltipWindow> tooltipWindow;
     const std::uint32_t numsources, numspeakers, numinternals;
-    HalcyraTimeStructureTabComponent* timeStructureTab = nullptr;
-    HalcyraFiltersTabComponent* filtersTab = nullptr;
-    lumo::PlaneComponent* plane = nullptr;
-    std::array<lumo::HLShelfFrequencyResponseComponent*, 4> responses{};
-    HalcyraTimeStructure parameters;
+    SelfWakingModel model;
+    halcyra::EditHistory history;
+    juce::Component* lastPressed = nullptr; // only compared: what the last press was on
+    int stepsOfClicks = 0;                  // steps that the presses of one multiple click have made
     qel::Listeners<Listener> listeners;
-    std::unique_ptr<juce::TabbedComponent> tabs;
+    std::unique_ptr<UndoablePlane> planeWithoutPage; // until the pages are made
+    UndoablePlane* const plane;
+
+    struct Pages;
+    std::unique_ptr<Pages> pages;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HalcyraComponent)
 };

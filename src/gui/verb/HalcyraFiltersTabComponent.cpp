@@ -2,10 +2,12 @@
 
 #include "gui/verb/EditorStyle.h"
 
-HalcyraFiltersTabComponent::HalcyraFiltersTabComponent (const juce::String& name)
+HalcyraFiltersTabComponent::HalcyraFiltersTabComponent (const juce::String& name, halcyra::ReverbModel& model)
     : juce::Component (name),
-      shelves{ lumo::HLShelfComponent (halcyra::filterNames[0]), lumo::HLShelfComponent (halcyra::filterNames[1]),
-               lumo::HLShelfComponent (halcyra::filterNames[2]), lumo::HLShelfComponent (halcyra::filterNames[3]) }
+      shelves{ lumo::HLShelfComponent (halcyra::filterNames[0], model, 0),
+               lumo::HLShelfComponent (halcyra::filterNames[1], model, 1),
+               lumo::HLShelfComponent (halcyra::filterNames[2], model, 2),
+               lumo::HLShelfComponent (halcyra::filterNames[3], model, 3) }
 {
     setOpaque (true);
     setBufferedToImage (true); // most of the page stands still

@@ -1,11 +1,11 @@
 #pragma once
 #include "gui/verb/HLShelfComponent.h"
 
-/** The page of the four filters: direct, room, early, cluster, side by side. Message thread. */
+/** The page of the model's four filters: direct, room, early, cluster, side by side. Message thread. */
 class HalcyraFiltersTabComponent : public juce::Component
 {
 public:
-    explicit HalcyraFiltersTabComponent (const juce::String& name);
+    HalcyraFiltersTabComponent (const juce::String& name, halcyra::ReverbModel& model);
 
     [[nodiscard]] lumo::HLShelfComponent& getShelf (HalcyraFilter filter)
     {

@@ -1,37 +1,18 @@
 #include "gui/verb/HalcyraTimeStructureTabComponent.h"
 
 #include "gui/verb/EditorStyle.h"
-#include "gui/verb/HalcyraRoom.h"
 #include "gui/verb/HalcyraTimeStructureLayout.h"
-
-#include <iterator>
 
 namespace
 {
 
 namespace parameter = halcyra::parameter;
-
-constexpr double defaultRoomSize = 2000;
-
-/** What the room size sets, in the order in which it tells of it. */
-constexpr HalcyraReverbParameter roomParameters[] = { parameter::earlyStart,  parameter::earlyEnd,
-                                                      parameter::earlyDistr,  parameter::clusterStart,
-                                                      parameter::clusterEnd,  parameter::clusterDistr,
-                                                      parameter::reverbStart, parameter::modalDensity };
-
-/** The order in which a whole structure is set: each value finds room between those that stand by then. */
-constexpr HalcyraReverbParameter settingOrder[] = {
-    parameter::gain,         parameter::tr0,          parameter::trl,        parameter::trm,
-    parameter::trh,          parameter::fl,           parameter::fh,         parameter::earlyStart,
-    parameter::earlyEnd,     parameter::clusterStart, parameter::clusterEnd, parameter::reverbStart,
-    parameter::earlyDistr,   parameter::earlyShape,   parameter::earlyWidth, parameter::clusterDistr,
-    parameter::modalDensity, parameter::airFrequency, parameter::air,        parameter::infinite
-};
-static_assert (std::size (settingOrder) == parameter::count, "every parameter has its place");
+namespace cell = halcyra::cell;
+using halcyra::Edit;
 
 using Display = lumo::ImpulseResponseComponent;
 
-/** What the display draws of a parameter; null where it draws nothing. */
+/** What the display draws of a parameter; null where it draws nothing, or the stages, which are drawn together. */
 constexpr auto displaySetters()
 {
     std::array<void (Display::*) (float), parameter::count> setters{};
@@ -39,21 +20,20 @@ constexpr auto displaySetters()
     setters[parameter::trl] = &Display::setTrl;
     setters[parameter::trm] = &Display::setTrm;
     setters[parameter::trh] = &Display::setTrh;
-    setters[parameter::earlyStart] = &Display::setEarlyStart;
-    setters[parameter::earlyEnd] = &Display::setEarlyEnd;
     setters[parameter::earlyDistr] = &Display::setEarlyDistr;
     setters[parameter::earlyShape] = &Display::setEarlyShape;
-    setters[parameter::clusterStart] = &Display::setClusterStart;
-    setters[parameter::clusterEnd] = &Display::setClusterEnd;
     setters[parameter::clusterDistr] = &Display::setClusterDistr;
     setters[parameter::reverbStart] = &Display::setReverbStart;
     return setters;
 }
 
-juce::NotificationType notificationType (int notification)
+constexpr bool isStageTime (HalcyraReverbParameter number)
 {
-    return notification == 1 ? juce::sendNotification : juce::dontSendNotification;
+    return number == parameter::earlyStart || number == parameter::earlyEnd || number == parameter::clusterStart ||
+           number == parameter::clusterEnd;
 }
+
+Edit editOf (int notification) { return notification == 1 ? Edit::message : Edit::quiet; }
 
 juce::String roomText (float cubicMetres) { return juce::String (static_cast<int> (cubicMetres)) + " m^3"; }
 
@@ -62,25 +42,39 @@ lumo::ValueLabel::Format textOf (const halcyra::ParameterRow& row)
     return [&row] (float value) { return juce::String (value, row.decimals) + row.unit; };
 }
 
-void setRange (juce::Slider& slider, double lowest, double highest, double step, double midPoint, double doubleClick)
+void setRange (juce::Slider& slider, const halcyra::SliderRange& range, double midPoint, double doubleClick)
 {
-    slider.setRange (lowest, highest, step);
+    slider.setRange (range.lowest, range.highest, range.step);
     // JUCE ignores a return value outside of the range, which is to lead to the near end.
-    slider.setDoubleClickReturnValue (true, juce::jlimit (lowest, highest, doubleClick));
+    slider.setDoubleClickReturnValue (true, juce::jlimit (range.lowest, range.highest, doubleClick));
     if (midPoint > 0)
         slider.setSkewFactorFromMidPoint (midPoint);
 }
 
 }
 
-HalcyraTimeStructureTabComponent::HalcyraTimeStructureTabComponent (const juce::String& name, int internals)
+HalcyraTimeStructureTabComponent::HalcyraTimeStructureTabComponent (const juce::String& name, int numinternals)
+    : HalcyraTimeStructureTabComponent (name, std::make_unique<SelfWakingModel> (numinternals))
+{}
+
+HalcyraTimeStructureTabComponent::HalcyraTimeStructureTabComponent (const juce::String& name,
+                                                                    std::unique_ptr<SelfWakingModel> own)
+    : HalcyraTimeStructureTabComponent (name, *own)
+{
+    ownModel = std::move (own);
+}
+
+HalcyraTimeStructureTabComponent::HalcyraTimeStructureTabComponent (const juce::String& name,
+                                                                    halcyra::ReverbModel& modelToShow)
     : juce::Component (name),
-      numinternals (internals),
-      display (static_cast<std::uint32_t> (std::max (internals, 0))),
-      roomSize ({}, roomText)
+      model (modelToShow),
+      display (static_cast<std::uint32_t> (std::max (model.numInternals(), 0))),
+      roomSize ({}, roomText),
+      sight (*this, [this] (bool isShowing) { sightChanged (isShowing); })
 {
     setOpaque (true);
-    setBufferedToImage (true); // most of the page stands still
+    setBufferedToImage (true);    // most of the page stands still
+    setWantsKeyboardFocus (true); // a click would give it to the first switch otherwise, and space turn that
     makeGroups();
     addAndMakeVisible (display);
     makeRoomSize();
@@ -89,10 +83,12 @@ HalcyraTimeStructureTabComponent::HalcyraTimeStructureTabComponent (const juce::
     reset.addListener (this);
     addAndMakeVisible (reset);
     setSize (920, 400);
-    setDefaults();
+    stale.set();
+    showStale();
+    model.addListener (this);
 }
 
-HalcyraTimeStructureTabComponent::~HalcyraTimeStructureTabComponent() = default;
+HalcyraTimeStructureTabComponent::~HalcyraTimeStructureTabComponent() { model.removeListener (this); }
 
 void HalcyraTimeStructureTabComponent::makeGroups()
 {
@@ -121,7 +117,7 @@ void HalcyraTimeStructureTabComponent::makeControls()
         number = std::make_unique<NumberControl> (row.name, textOf (row));
         const bool isWide = row.number <= parameter::fh || row.number == parameter::airFrequency;
         place (*number, where.control.rectangle(), where.value.rectangle(), isWide ? 80 : 60);
-        setRange (number->slider, row.lowest, row.highest, row.step, row.midPoint, row.doubleClick);
+        setRange (number->slider, row.range, row.midPoint, row.doubleClick());
     }
     auto& gain = numbers[parameter::gain]->slider;
     gain.setSliderStyle (juce::Slider::LinearBar);
@@ -133,7 +129,7 @@ void HalcyraTimeStructureTabComponent::makeRoomSize()
 {
     makeLabel ("Room size", "RoomSizeLabel", halcyra::roomLabelBox.rectangle(), 12, true);
     place (roomSize, halcyra::roomSliderBox.rectangle(), halcyra::roomValueBox.rectangle(), 60);
-    setRange (roomSize.slider, halcyra::smallestRoom, halcyra::largestRoom, 10, 0, defaultRoomSize);
+    setRange (roomSize.slider, halcyra::roomRange, 0, static_cast<double> (halcyra::defaultRoomSize));
 }
 
 void HalcyraTimeStructureTabComponent::makeLabel (const juce::String& text, const juce::String& name,
@@ -162,28 +158,112 @@ void HalcyraTimeStructureTabComponent::place (NumberControl& control, juce::Rect
     addAndMakeVisible (control.value);
 }
 
-juce::ToggleButton* HalcyraTimeStructureTabComponent::toggleOf (HalcyraReverbParameter number)
+juce::ToggleButton* HalcyraTimeStructureTabComponent::toggleOf (HalcyraReverbParameter number) noexcept
 {
     if (number == parameter::air)
         return &air;
     return number == parameter::infinite ? &infinite : nullptr;
 }
 
-float HalcyraTimeStructureTabComponent::present (HalcyraReverbParameter number) const
+HalcyraTimeStructureTabComponent::NumberControl*
+HalcyraTimeStructureTabComponent::controlOf (halcyra::ReverbCell number) noexcept
 {
-    return static_cast<float> (numbers[static_cast<std::size_t> (number)]->slider.getValue());
+    return number == cell::roomSize ? &roomSize : numbers[static_cast<std::size_t> (number)].get();
 }
 
-halcyra::StageTimes HalcyraTimeStructureTabComponent::stageTimes() const
-{
-    return { present (parameter::earlyStart), present (parameter::earlyEnd), present (parameter::clusterStart),
-             present (parameter::clusterEnd) };
-}
-
-void HalcyraTimeStructureTabComponent::getTimeStructure (HalcyraTimeStructure& out) const
+halcyra::ReverbCell HalcyraTimeStructureTabComponent::cellOf (const juce::Slider* slider) const noexcept
 {
     for (const auto& row : halcyra::parameterTable)
-        updateTimeStructureField (out, row.number);
+        if (const auto& control = numbers[static_cast<std::size_t> (row.number)];
+            control != nullptr && slider == &control->slider)
+            return row.number;
+    return cell::roomSize;
+}
+
+// ---- The hand
+
+void HalcyraTimeStructureTabComponent::sliderValueChanged (juce::Slider* slider)
+{
+    const auto number = cellOf (slider);
+    const auto value = static_cast<float> (slider->getValue());
+    if (number == cell::roomSize)
+        model.setRoomSize (value, Edit::hand);
+    else
+        model.setParameter (number, value, Edit::hand);
+    show (number); // where a neighbour stops the value, it stops the slider too
+}
+
+void HalcyraTimeStructureTabComponent::buttonClicked (juce::Button* button)
+{
+    if (button == &reset)
+        return model.resetParameters (Edit::hand);
+    model.setParameter (button == &air ? parameter::air : parameter::infinite, button->getToggleState() ? 1.0f : 0.0f,
+                        Edit::hand);
+}
+
+// ---- What is shown
+
+void HalcyraTimeStructureTabComponent::reverbChanged (const halcyra::ReverbModel::Change& change)
+{
+    if (change.cell >= cell::firstFilter)
+        return;
+    if (isShowing())
+        show (change.cell);
+    else
+        stale.set (static_cast<std::size_t> (change.cell));
+}
+
+void HalcyraTimeStructureTabComponent::sightChanged (bool isInSight)
+{
+    if (isInSight)
+        showStale();
+    else
+        model.release(); // a press that the window did not live to see the end of
+}
+
+void HalcyraTimeStructureTabComponent::showStale()
+{
+    for (std::size_t i = 0; i < stale.size(); ++i)
+        if (stale.test (i))
+            show (static_cast<halcyra::ReverbCell> (i));
+    stale.reset();
+}
+
+void HalcyraTimeStructureTabComponent::show (halcyra::ReverbCell number)
+{
+    static constexpr auto toDisplay = displaySetters();
+
+    const float value = model.value (number);
+    if (auto* toggle = toggleOf (number))
+        return toggle->setToggleState (value != 0, juce::dontSendNotification);
+    auto& control = *controlOf (number);
+    control.slider.setValue (static_cast<double> (value), juce::dontSendNotification);
+    control.value.show (value);
+    if (number == cell::roomSize)
+        return;
+    if (isStageTime (number))
+        showStages();
+    else if (const auto set = toDisplay[static_cast<std::size_t> (number)])
+        (display.*set) (value);
+}
+
+/** The display limits each time by those it holds and keeps the cluster relative to the early stage: given together, the
+    times of the model come through as they are. */
+void HalcyraTimeStructureTabComponent::showStages()
+{
+    const auto& times = model.parameters();
+    display.setEarlyStart (1);
+    display.setEarlyEnd (times.earlyEnd);
+    display.setEarlyStart (times.earlyStart);
+    display.setClusterStart (times.clusterStart);
+    display.setClusterEnd (times.clusterEnd);
+}
+
+// ---- The page that stands alone
+
+void HalcyraTimeStructureTabComponent::parameterTold (HalcyraReverbParameter number)
+{
+    listeners.call ([&] (lumo::HalcyraTimeStructureListener& l) { l.timeStructureChanged (this, number); });
 }
 
 void HalcyraTimeStructureTabComponent::updateTimeStructureField (HalcyraTimeStructure& out, int number) const
@@ -192,87 +272,27 @@ void HalcyraTimeStructureTabComponent::updateTimeStructureField (HalcyraTimeStru
     if (row == nullptr)
         return;
     if (row->isSwitch())
-        out.*row->flag = (number == parameter::air ? air : infinite).getToggleState() ? 1 : 0;
+        out.*row->flag = model.parameters().*row->flag;
     else
-        out.*row->value = present (number);
+        out.*row->value = model.parameters().*row->value;
 }
 
 void HalcyraTimeStructureTabComponent::setParameter (HalcyraReverbParameter number, float value, int notification)
 {
-    static constexpr auto toDisplay = displaySetters();
-
-    const auto* row = halcyra::parameterRow (number);
-    if (row == nullptr || ! std::isfinite (value))
-        return;
-    if (auto* toggle = toggleOf (number))
-        return toggle->setToggleState (value != 0, notificationType (notification));
-
-    auto& control = *numbers[static_cast<std::size_t> (number)];
-    const float admitted = halcyra::limited (*row, value, stageTimes());
-    control.slider.setValue (static_cast<double> (admitted), notificationType (notification));
-    control.value.show (admitted);
-    if (const auto set = toDisplay[static_cast<std::size_t> (number)])
-        (display.*set) (admitted);
+    model.setParameter (number, value, editOf (notification));
 }
 
 void HalcyraTimeStructureTabComponent::setRoomSize (float value, int notification)
 {
-    if (! std::isfinite (value))
-        return;
-    const float volume = std::clamp (value, halcyra::smallestRoom, halcyra::largestRoom);
-    const auto room = halcyra::computeRoomParameters (numinternals, volume, present (parameter::tr0));
-    setParameter (parameter::earlyStart, room.earlyStart, 0);
-    setParameter (parameter::earlyEnd, room.earlyEnd, 0);
-    setParameter (parameter::clusterStart, room.clusterStart, 0);
-    setParameter (parameter::clusterEnd, room.clusterEnd, 0);
-    setParameter (parameter::reverbStart, room.reverbStart, 0);
-    setParameter (parameter::earlyDistr, room.earlyDistr, 0);
-    setParameter (parameter::clusterDistr, room.clusterDistr, 0);
-    setParameter (parameter::modalDensity, room.modalDensity, 0);
-    roomSize.value.show (volume);
-    roomSize.slider.setValue (static_cast<double> (volume), notificationType (notification));
+    model.setRoomSize (value, editOf (notification));
 }
 
 void HalcyraTimeStructureTabComponent::setTimeStructure (const HalcyraTimeStructure& wish, int notification)
 {
-    setRoomSize (static_cast<float> (defaultRoomSize), 0);
-    for (const auto number : settingOrder)
-        setParameter (number, halcyra::valueOf (wish, *halcyra::parameterRow (number)), notification);
+    model.recallParameters (wish, editOf (notification));
 }
 
-void HalcyraTimeStructureTabComponent::setDefaults() { setTimeStructure ({}, 1); }
-
-void HalcyraTimeStructureTabComponent::tell (int number)
-{
-    listeners.call ([&] (lumo::HalcyraTimeStructureListener& l) { l.timeStructureChanged (this, number); });
-}
-
-void HalcyraTimeStructureTabComponent::sliderValueChanged (juce::Slider* slider)
-{
-    const auto value = static_cast<float> (slider->getValue());
-    if (slider == &roomSize.slider) {
-        setRoomSize (value, 0);
-        for (const auto number : roomParameters)
-            tell (number);
-        return;
-    }
-    for (const auto& row : halcyra::parameterTable)
-        if (const auto& control = numbers[static_cast<std::size_t> (row.number)];
-            control != nullptr && slider == &control->slider) {
-            setParameter (row.number, value, 0);
-            return tell (row.number);
-        }
-}
-
-void HalcyraTimeStructureTabComponent::buttonClicked (juce::Button* button)
-{
-    if (button == &reset)
-        setDefaults();
-    else if (button == &air)
-        tell (parameter::air);
-    else if (button == &infinite)
-        tell (parameter::infinite);
-}
+// ---- Drawing
 
 void HalcyraTimeStructureTabComponent::resized()
 {

@@ -1,45 +1,41 @@
 #pragma once
 #include "common/OrvaneDspListeners.h"
-#include "gui/verb/HalcyraLimits.h"
 #include "gui/verb/HalcyraTimeStructureListener.h"
 #include "gui/verb/ImpulseResponseComponent.h"
+#include "gui/verb/SelfWakingModel.h"
+#include "gui/verb/SightWatcher.h"
 #include "gui/verb/ValueLabel.h"
 
 #include <array>
+#include <bitset>
 #include <memory>
 #include <vector>
 
-/** The page of the reverberator's time structure: early, cluster and late stage on one time axis, the decay times, and a
-    room size that derives them all. It keeps the values in a legal order. Message thread.
-
-    A setter's notification is 1 for JUCE's sendNotification, anything else for none: a notifying one tells the listeners
-    when JUCE's messages are next run, a switch at once. Setters ignore numbers that are not finite. */
+/** The page of the reverberator's time structure: a view of the model's parameters and of its room size. A control shows
+    the model and edits it; nothing is read back from one. Out of sight it follows when it is shown again.
+    Message thread. */
 class HalcyraTimeStructureTabComponent : public juce::Component,
+                                         private halcyra::ReverbModel::Listener,
                                          private juce::Slider::Listener,
                                          private juce::Button::Listener
 {
 public:
-    HalcyraTimeStructureTabComponent (const juce::String& name, int numinternals);
+    HalcyraTimeStructureTabComponent (const juce::String& name, halcyra::ReverbModel& modelToShow);
     ~HalcyraTimeStructureTabComponent() override;
-
-    void addListener (lumo::HalcyraTimeStructureListener* listener) { listeners.add (listener); }
-    void removeListener (lumo::HalcyraTimeStructureListener* listener) { listeners.remove (listener); }
-
-    /** Reads all fields from the controls. */
-    void getTimeStructure (HalcyraTimeStructure& out) const;
-    /** Reads one; a number that is none reads none. */
-    void updateTimeStructureField (HalcyraTimeStructure& out, int parameter) const;
-
-    /** Sets one control by its number, within the limits that its neighbours leave. */
-    void setParameter (HalcyraReverbParameter number, float value, int notification);
-    /** Sets all times and densities to those of a room of that volume, in cubic metres. */
-    void setRoomSize (float value, int notification);
-    /** Sets all fields, in an order in which each finds room between its neighbours. */
-    void setTimeStructure (const HalcyraTimeStructure& wish, int notification);
-    void setDefaults();
 
     void resized() override;
     void paint (juce::Graphics& g) override;
+
+    // The prescribed surface: a page that stands alone, with a model of its own. Notification 1 tells, others are quiet.
+    HalcyraTimeStructureTabComponent (const juce::String& name, int numinternals);
+    void addListener (lumo::HalcyraTimeStructureListener* listener) { listeners.add (listener); }
+    void removeListener (lumo::HalcyraTimeStructureListener* listener) { listeners.remove (listener); }
+    void getTimeStructure (HalcyraTimeStructure& out) const { out = model.parameters(); }
+    void updateTimeStructureField (HalcyraTimeStructure& out, int parameter) const;
+    void setParameter (HalcyraReverbParameter number, float value, int notification);
+    void setRoomSize (float value, int notification);
+    void setTimeStructure (const HalcyraTimeStructure& wish, int notification);
+    void setDefaults() { setTimeStructure ({}, 1); }
 
 private:
     /** One number: its slider, and what shows its value. */
@@ -52,7 +48,13 @@ private:
         lumo::ValueLabel value;
     };
 
+    HalcyraTimeStructureTabComponent (const juce::String& name, std::unique_ptr<SelfWakingModel> own);
+
+    void reverbChanged (const halcyra::ReverbModel::Change& change) override;
+    void parameterTold (HalcyraReverbParameter number) override;
     void sliderValueChanged (juce::Slider* slider) override;
+    void sliderDragStarted (juce::Slider* slider) override { model.hold (cellOf (slider)); }
+    void sliderDragEnded (juce::Slider*) override { model.release(); }
     void buttonClicked (juce::Button* button) override;
     void makeGroups();
     void makeControls();
@@ -61,12 +63,16 @@ private:
                     bool onRight);
     void place (NumberControl& control, juce::Rectangle<int> sliderBox, juce::Rectangle<int> valueBox,
                 int textBoxWidth);
-    void tell (int parameter);
-    [[nodiscard]] float present (HalcyraReverbParameter number) const;
-    [[nodiscard]] halcyra::StageTimes stageTimes() const;
-    [[nodiscard]] juce::ToggleButton* toggleOf (HalcyraReverbParameter number);
+    void sightChanged (bool isShowing);
+    void showStale();
+    void show (halcyra::ReverbCell cell);
+    void showStages();
+    [[nodiscard]] halcyra::ReverbCell cellOf (const juce::Slider* slider) const noexcept;
+    [[nodiscard]] NumberControl* controlOf (halcyra::ReverbCell cell) noexcept;
+    [[nodiscard]] juce::ToggleButton* toggleOf (HalcyraReverbParameter number) noexcept;
 
-    const int numinternals;
+    std::unique_ptr<SelfWakingModel> ownModel; // null for a page of a window
+    halcyra::ReverbModel& model;
     qel::Listeners<lumo::HalcyraTimeStructureListener> listeners;
 
     std::vector<std::unique_ptr<juce::GroupComponent>> groups;
@@ -76,6 +82,8 @@ private:
     NumberControl roomSize;
     juce::ToggleButton air{ "air" }, infinite{ "infinite" };
     juce::TextButton reset{ "ResetButton" };
+    std::bitset<halcyra::cell::firstFilter> stale;
+    SightWatcher sight;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HalcyraTimeStructureTabComponent)
 };

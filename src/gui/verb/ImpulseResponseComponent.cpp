@@ -1,6 +1,6 @@
 #include "gui/verb/ImpulseResponseComponent.h"
 
-#include "gui/verb/EarlyGains.h"
+#include "reverb/EarlyGains.h"
 
 namespace lumo
 {

@@ -1,6 +1,6 @@
 #pragma once
-#include "gui/verb/Delgen.h"
 #include "gui/verb/ImpulseResponseScale.h"
+#include "reverb/Delgen.h"
 
 #include <juce_gui_basics/juce_gui_basics.h>
 

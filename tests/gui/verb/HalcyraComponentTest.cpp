@@ -1,5 +1,6 @@
 #include "gui/verb/HalcyraComponent.h"
 #include "gui/plane/PlaneComponent.h"
+#include "gui/verb/TooltipWindow.h"
 #include "support/ImageDifference.h"
 #include "support/Stage.h"
 
@@ -55,6 +56,8 @@ protected:
 
 TEST_F (Halcyra, IsMadeOfThreePagesInAWindowOfItsSize)
 {
+    EXPECT_EQ (component.getNumChildComponents(), 0) << "nothing is made for nobody";
+    Stage stage (component);
     EXPECT_EQ (component.getWidth(), 930);
     EXPECT_EQ (component.getHeight(), 440);
     auto* tabs = dynamic_cast<juce::TabbedComponent*> (component.getChildComponent (0));
@@ -75,12 +78,12 @@ TEST_F (Halcyra, HoldsTheDefaultsOnceItsMessagesHaveRun)
     EXPECT_EQ (component.reverbParameter (20), 0);
 }
 
-TEST_F (Halcyra, ASettingIsStoredAndToldWhenMessagesRun)
+TEST_F (Halcyra, ASettingActsAtOnceAndIsToldWhenTheTurnEnds)
 {
     component.setReverbGain (3);
     component.setAir (false);
     EXPECT_THAT (ear.take(), ElementsAre ("reverb 17")) << "switches at once";
-    EXPECT_EQ (component.getReverbGain(), 0);
+    EXPECT_EQ (component.getReverbGain(), 3);
     pumpGui();
     EXPECT_THAT (ear.take(), ElementsAre ("reverb 0"));
     EXPECT_EQ (component.getReverbGain(), 3);
@@ -245,6 +248,14 @@ TEST (HalcyraComponent, SharesOneTooltipWindowWithOthers)
     };
     auto first = std::make_unique<HalcyraComponent> (0, 0, 1);
     auto second = std::make_unique<HalcyraComponent> (0, 0, 64);
+    EXPECT_EQ (juce::Desktop::getInstance().getNumComponents(), 0) << "no window before the first is opened";
+    const auto draw = [] (juce::Component& component) {
+        component.setVisible (true);
+        component.createComponentSnapshot (component.getLocalBounds());
+    };
+    draw (*first);
+    draw (*second);
+    EXPECT_EQ (tooltips(), 0) << "a tip's window is on the desktop only while it shows";
     first.reset();
     EXPECT_EQ (colour(), juce::Colour (0xFF808080));
     second.reset();

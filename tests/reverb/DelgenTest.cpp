@@ -1,4 +1,4 @@
-#include "gui/verb/Delgen.h"
+#include "reverb/Delgen.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,5 @@
 #pragma once
-#include "gui/verb/HalcyraParameters.h"
+#include "reverb/HalcyraParameters.h"
 
 namespace halcyra
 {

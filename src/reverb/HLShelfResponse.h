@@ -1,5 +1,5 @@
 #pragma once
-#include "gui/verb/HalcyraParameters.h"
+#include "reverb/HalcyraParameters.h"
 
 /** The magnitude response of one three-band filter: a low and a high shelf in one second-order section.
     Arithmetic alone. Frequencies in Hz, gains in dB. Any thread, each object its own. */

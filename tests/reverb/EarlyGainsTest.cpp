@@ -1,4 +1,4 @@
-#include "gui/verb/EarlyGains.h"
+#include "reverb/EarlyGains.h"
 
 #include <gtest/gtest.h>
 

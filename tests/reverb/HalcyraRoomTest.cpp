@@ -1,4 +1,4 @@
-#include "gui/verb/HalcyraRoom.h"
+#include "reverb/HalcyraRoom.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "gui/verb/Delgen.h"
+#include "reverb/Delgen.h"
 #include "math/OrvaneDspRandom.h"
 #include "math/OrvaneDspVectorImplementation.h"
 

@@ -1,10 +1,12 @@
 #pragma once
+#include "reverb/HalcyraParameters.h"
 
 namespace halcyra
 {
 
 /** The volumes of rooms, in cubic metres. */
-inline constexpr float smallestRoom = 10, largestRoom = 15000;
+inline constexpr float smallestRoom = static_cast<float> (roomRange.lowest),
+                       largestRoom = static_cast<float> (roomRange.highest);
 
 /** What a room's volume makes of the time structure. Times in ms. */
 struct RoomParameters

@@ -1,4 +1,4 @@
-#include "gui/verb/HalcyraLimits.h"
+#include "reverb/HalcyraLimits.h"
 
 #include <algorithm>
 
@@ -7,7 +7,7 @@ namespace halcyra
 
 float limited (const ParameterRow& row, float wish, const StageTimes& present) noexcept
 {
-    const auto lowest = static_cast<float> (row.lowest), highest = static_cast<float> (row.admitted);
+    const auto lowest = static_cast<float> (row.range.lowest), highest = static_cast<float> (row.range.highest);
     switch (row.number) { // the last word of each rule wins where its limits cross
     case parameter::earlyStart:
         return std::min (std::max (wish, lowest), present.earlyEnd);

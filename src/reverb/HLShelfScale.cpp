@@ -1,4 +1,4 @@
-#include "gui/verb/HLShelfScale.h"
+#include "reverb/HLShelfScale.h"
 
 #include <cmath>
 

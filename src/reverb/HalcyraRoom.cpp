@@ -1,6 +1,6 @@
-#include "gui/verb/HalcyraRoom.h"
+#include "reverb/HalcyraRoom.h"
 
-#include "gui/verb/HalcyraParameters.h"
+#include "reverb/HalcyraParameters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,11 +11,14 @@ namespace halcyra
 namespace
 {
 
-constexpr float highest (HalcyraReverbParameter number) { return static_cast<float> (parameterRow (number)->highest); }
+constexpr float highest (HalcyraReverbParameter number)
+{
+    return static_cast<float> (parameterRow (number)->range.highest);
+}
 
 constexpr float latestEarly = highest (parameter::earlyEnd), latestCluster = highest (parameter::clusterEnd),
                 latestReverb = highest (parameter::reverbStart);
-constexpr float leastDensity = static_cast<float> (parameterRow (parameter::modalDensity)->lowest);
+constexpr float leastDensity = static_cast<float> (parameterRow (parameter::modalDensity)->range.lowest);
 
 /** The one at the top wins over the one at the bottom, should they cross. */
 float bounded (float value, float bottom, float top) noexcept { return value > top ? top : std::max (value, bottom); }

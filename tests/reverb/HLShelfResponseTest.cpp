@@ -1,5 +1,5 @@
-#include "gui/verb/HLShelfResponse.h"
-#include "gui/verb/HLShelfScale.h"
+#include "reverb/HLShelfResponse.h"
+#include "reverb/HLShelfScale.h"
 
 #include <gtest/gtest.h>
 

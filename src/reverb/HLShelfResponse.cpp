@@ -1,4 +1,4 @@
-#include "gui/verb/HLShelfResponse.h"
+#include "reverb/HLShelfResponse.h"
 
 #include <algorithm>
 #include <limits>

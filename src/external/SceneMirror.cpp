@@ -1,0 +1,162 @@
+#include "external/SceneMirror.h"
+
+#include "external/PointMirror.h"
+#include "geometry/OrvaneDspSpherical.h"
+#include "gui/plane/PlaneComponent.h"
+#include "max/OrvanemaxSymbols.h"
+
+#include <cmath>
+
+namespace halcyra
+{
+namespace
+{
+
+using lumo::Plane::Orientation::WrapDegrees;
+using orvanemax::symbols;
+
+/** The angle held in radians as degrees: those that were sent, if they are what is held. */
+float degreesHeld (float radians, float sentDegrees) noexcept
+{
+    return WrapDegrees (sentDegrees) * qel::radiansPerDegree == radians ? sentDegrees
+                                                                        : WrapDegrees (radians * qel::degreesPerRadian);
+}
+
+/** A yaw's degrees as its attribute takes them. */
+float withinHalfTurn (float degrees) noexcept { return std::abs (degrees) <= 180 ? degrees : WrapDegrees (degrees); }
+
+bool storePointIfOther (const qel::Point3& point, float* triple) noexcept
+{
+    if (pointIn (triple) == point)
+        return false;
+    storePoint (point, triple);
+    return true;
+}
+
+/** The arrays of atoms are null in an object that could not get their memory. */
+bool storeFloatIfOther (t_atom* array, std::size_t index, float value) noexcept
+{
+    const auto wide = static_cast<double> (value);
+    if (array == nullptr || (atom_gettype (&array[index]) == A_FLOAT && atom_getfloat (&array[index]) == wide))
+        return false;
+    atom_setfloat (&array[index], wide);
+    return true;
+}
+
+float presentDegrees (const t_atom* array, std::size_t index) noexcept
+{
+    return array == nullptr ? 0.0f : static_cast<float> (atom_getfloat (&array[index]));
+}
+
+const lumo::Plane::Source* sourceAt (const t_halcyra_control* x, std::size_t source) noexcept
+{
+    const auto& sources = x->plane->GetScene().sources;
+    return source < sources.size() ? &sources[source] : nullptr;
+}
+
+}
+
+void touchAttribute (t_halcyra_control* x, t_symbol* name) { object_attr_touch (&x->object, name); }
+
+void mirrorSourcePosition (t_halcyra_control* x, std::size_t source)
+{
+    if (storePointIfOther (x->plane->GetSourcePosition (source), x->sourcespositions + 3 * source))
+        touchAttribute (x, symbols().sourcespositions);
+}
+
+void mirrorSourceYaw (t_halcyra_control* x, std::size_t source)
+{
+    mirrorSourceYaw (x, source, presentDegrees (x->yaw, source));
+}
+
+void mirrorSourceYaw (t_halcyra_control* x, std::size_t index, float sentDegrees)
+{
+    const auto* source = sourceAt (x, index);
+    if (source != nullptr && storeFloatIfOther (x->yaw, index, degreesHeld (source->yaw, withinHalfTurn (sentDegrees))))
+        touchAttribute (x, symbols().yaw);
+}
+
+void mirrorSourceAperture (t_halcyra_control* x, std::size_t source)
+{
+    mirrorSourceAperture (x, source, presentDegrees (x->aperture, source));
+}
+
+void mirrorSourceAperture (t_halcyra_control* x, std::size_t index, float sentDegrees)
+{
+    const auto* source = sourceAt (x, index);
+    if (source == nullptr)
+        return;
+    const bool isSent = sentDegrees * qel::radiansPerDegree == source->aperture;
+    if (storeFloatIfOther (x->aperture, index, isSent ? sentDegrees : source->ApertureDegrees()))
+        touchAttribute (x, symbols().aperture);
+}
+
+void mirrorSpeakers (t_halcyra_control* x)
+{
+    bool differ = false;
+    for (std::size_t i = 0; i < x->plane->GetNumSpeakers(); ++i)
+        differ = storePointIfOther (x->plane->GetSpeakerPosition (i), x->speakerspositions + 3 * i) || differ;
+    if (differ)
+        touchAttribute (x, symbols().speakerspositions);
+}
+
+void mirrorListenerPosition (t_halcyra_control* x)
+{
+    if (storePointIfOther (x->plane->GetListenerPosition(), x->listenerposition))
+        touchAttribute (x, symbols().listenerposition);
+}
+
+void mirrorListenerAngles (t_halcyra_control* x)
+{
+    const auto& listener = x->plane->GetListener();
+    const auto mirror = [x] (float& mirrored, float radians, t_symbol* name) {
+        const float held = degreesHeld (radians, mirrored);
+        if (mirrored == held)
+            return;
+        mirrored = held;
+        touchAttribute (x, name);
+    };
+    mirror (x->listeneryaw, listener.yaw, symbols().listeneryaw);
+    mirror (x->listenerpitch, listener.pitch, symbols().listenerpitch);
+    mirror (x->listenerroll, listener.roll, symbols().listenerroll);
+}
+
+}
+
+using namespace halcyra;
+
+SceneMirror::SceneMirror (t_halcyra_control* owner) : x (owner) { x->plane->AddListener (this); }
+SceneMirror::~SceneMirror() { x->plane->RemoveListener (this); }
+
+template <typename Mirror>
+void SceneMirror::follow (Mirror&& mirror)
+{
+    if (updates > 0)
+        return;
+    mirror();
+    object_notify (x, orvanemax::modified(), nullptr);
+}
+
+void SceneMirror::ListenerPositionChanged (const qel::Point3&, lumo::PlaneBase&)
+{
+    follow ([this] { mirrorListenerPosition (x); });
+}
+
+void SceneMirror::ListenerYawChanged (float)
+{
+    follow ([this] { mirrorListenerAngles (x); });
+}
+
+void SceneMirror::ListenerPitchChanged (float degrees) { ListenerYawChanged (degrees); }
+void SceneMirror::ListenerRollChanged (float degrees) { ListenerYawChanged (degrees); }
+void SceneMirror::ListenerOrientationChanged (float yaw, float, float) { ListenerYawChanged (yaw); }
+
+void SceneMirror::SourceYawChanged (std::size_t source, float)
+{
+    follow ([&] { mirrorSourceYaw (x, source); });
+}
+
+void SceneMirror::SourceApertureChanged (std::size_t source, float)
+{
+    follow ([&] { mirrorSourceAperture (x, source); });
+}

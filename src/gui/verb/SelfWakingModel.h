@@ -1,0 +1,17 @@
+#pragma once
+#include "reverb/ReverbModel.h"
+
+#include <juce_events/juce_events.h>
+
+/** A model whose turns end with JUCE's messages, unless its owner finds another way. Message thread. */
+class SelfWakingModel : public halcyra::ReverbModel, private juce::AsyncUpdater
+{
+public:
+    explicit SelfWakingModel (int internals) : ReverbModel (internals)
+    {
+        wakeTurnEnd = [this] { triggerAsyncUpdate(); };
+    }
+
+private:
+    void handleAsyncUpdate() override { endTurn(); }
+};

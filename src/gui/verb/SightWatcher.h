@@ -1,0 +1,22 @@
+#pragma once
+#include <juce_gui_basics/juce_gui_basics.h>
+
+#include <functional>
+
+/** Calls back when a component comes into sight or leaves it, whatever brought that about. Message thread. */
+class SightWatcher : private juce::ComponentMovementWatcher
+{
+public:
+    using Callback = std::function<void (bool isShowing)>;
+
+    SightWatcher (juce::Component& watched, Callback callback)
+        : ComponentMovementWatcher (&watched), changed (std::move (callback))
+    {}
+
+private:
+    void componentMovedOrResized (bool, bool) override {}
+    void componentPeerChanged() override {}
+    void componentVisibilityChanged() override { changed (getComponent()->isShowing()); }
+
+    Callback changed;
+};

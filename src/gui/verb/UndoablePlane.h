@@ -1,0 +1,49 @@
+#pragma once
+#include "gui/plane/PlaneComponent.h"
+#include "gui/plane/ScenePoses.h"
+
+#include <functional>
+#include <utility>
+
+/** The scene editor of a window, which says what each event of the hand has moved. Message thread. */
+class UndoablePlane : public lumo::PlaneComponent
+{
+public:
+    /** Where things stood before and after one event; the two are of one length, and differ. */
+    using Moved = std::function<void (const lumo::poses::Poses& before, const lumo::poses::Poses& after)>;
+
+    UndoablePlane (std::size_t numSources, std::size_t numSpeakers, int size, Moved tellMoved)
+        : PlaneComponent (numSources, numSpeakers, size), moved (std::move (tellMoved))
+    {}
+
+    void mouseDrag (const juce::MouseEvent& event) override
+    {
+        watch ([&] { PlaneComponent::mouseDrag (event); });
+    }
+    void mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel) override
+    {
+        watch ([&] { PlaneComponent::mouseWheelMove (event, wheel); });
+    }
+    bool keyPressed (const juce::KeyPress& key) override
+    {
+        bool taken = false;
+        watch ([&] { taken = PlaneComponent::keyPressed (key); });
+        return taken;
+    }
+
+private:
+    template <typename Act>
+    void watch (Act&& act)
+    {
+        lumo::poses::read (*this, before);
+        act();
+        lumo::poses::read (*this, after);
+        if (before != after)
+            moved (before, after);
+    }
+
+    Moved moved;
+    lumo::poses::Poses before, after;
+
+    JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (UndoablePlane)
+};

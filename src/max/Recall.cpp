@@ -1,0 +1,69 @@
+#include "max/Recall.h"
+
+#include "max/AttributeValue.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace orvanemax
+{
+namespace
+{
+
+const LateAttribute* lateAttributes = nullptr;
+std::size_t numLateAttributes = 0;
+
+std::vector<t_atom> present (void* object, t_symbol* name)
+{
+    const AttributeValue value (object, name);
+    return { value.atoms().begin(), value.atoms().end() };
+}
+
+bool equal (const std::vector<t_atom>& a, const std::vector<t_atom>& b)
+{
+    return std::equal (a.begin(), a.end(), b.begin(), b.end(), [] (const t_atom& x, const t_atom& y) {
+        return atom_gettype (&x) == atom_gettype (&y) && atom_getlong (&x) == atom_getlong (&y);
+    });
+}
+
+}
+
+void setLateAttributes (const LateAttribute* first, std::size_t count) noexcept
+{
+    lateAttributes = first;
+    numLateAttributes = count;
+}
+
+Recall::Recall (void* owner, const std::vector<t_symbol*>& names) : object (owner)
+{
+    const auto comes = [&] (const char* name) {
+        return name != nullptr && std::find (names.begin(), names.end(), gensym (name)) != names.end();
+    };
+    for (const auto* row = lateAttributes; row != lateAttributes + numLateAttributes; ++row)
+        late.push_back ({ gensym (row->name), present (object, gensym (row->name)), false });
+    for (const auto* row = lateAttributes; row != lateAttributes + numLateAttributes; ++row)
+        if (row->lifted && comes (row->refuses)) {
+            t_atom open{};
+            atom_setlong (&open, *row->lifted);
+            object_attr_setvalueof (object, gensym (row->name), 1, &open);
+        }
+}
+
+t_max_err Recall::set (t_symbol* name, t_clong count, t_atom* atoms)
+{
+    const auto row = std::find_if (late.begin(), late.end(), [=] (const Late& l) { return l.name == name; });
+    if (row == late.end())
+        return object_attr_setvalueof (object, name, count, atoms);
+    row->value.assign (atoms, atoms + count);
+    row->isSet = true;
+    return MAX_ERR_NONE;
+}
+
+Recall::~Recall()
+{
+    for (auto& row : late)
+        if (row.isSet || ! equal (row.value, present (object, row.name)))
+            object_attr_setvalueof (object, row.name, static_cast<t_clong> (row.value.size()), row.value.data());
+}
+
+}
