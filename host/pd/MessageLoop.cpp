@@ -1,5 +1,5 @@
 #include "host/pd/MessageLoop.h"
-#include "max/window/NativeWindow.h"
+#include "max/window/X11Window.h"
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -14,7 +14,6 @@ namespace
 using Loop = juce::LinuxEventLoopInternal;
 
 Watch host;
-int messages = -1; // the descriptor behind which JUCE's own messages wait
 std::vector<int> watched;
 
 /** Keeps the host's list of descriptors equal to JUCE's. */
@@ -65,7 +64,6 @@ void setWatch (const Watch& watch) { host = watch; }
 void start()
 {
     juce::MessageManager::getInstance();
-    messages = Loop::getRegisteredFds().front();
     Loop::registerLinuxEventLoopListener (follower());
     follower().fdCallbacksChanged();
     readFewFonts();
@@ -77,8 +75,6 @@ void useThisThread()
     if (! manager->isThisTheMessageThread())
         manager->setCurrentThreadAsMessageThread();
 }
-
-void deliverMessages() { Loop::invokeEventLoopCallbackForFd (messages); }
 
 void dispatch()
 {
@@ -93,6 +89,6 @@ void serveSoon()
         host.soon();
 }
 
-bool hasDisplay() { return ! juce::Desktop::getInstance().getDisplays().displays.isEmpty(); }
+bool hasDisplay() { return X11Window::isDisplayAvailable(); }
 
 }

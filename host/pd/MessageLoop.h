@@ -24,9 +24,6 @@ void start();
 /** Makes the calling thread the message thread. */
 void useThisThread();
 
-/** Delivers messages posted inside the process. Costs no system call when there are none. */
-void deliverMessages();
-
 /** Serves all descriptors. */
 void dispatch();
 

@@ -118,7 +118,6 @@ class ExactRecall(PdTest):
         different = sum(state != copy for state, copy in zip(states, copies))
         self.assertEqual((len(states), len(copies), different), (self.COUNT, self.COUNT, 0))
 
-    @unittest.expectedFailure  # until a recall is one transaction
     def test_saved_states_come_back(self):
         patch = Patch()
         for state in self.states():
@@ -133,7 +132,6 @@ class ExactRecall(PdTest):
         first, second = (self.saved_by_object(self.folder / name) for name in ("first.pd", "second.pd"))
         self.assert_pairs_are_equal(first, second)
 
-    @unittest.expectedFailure  # likewise
     def test_a_bang_over_a_cord_copies_the_state(self):
         patch = Patch()
         for state, before in zip(self.states(), reversed(list(self.states()))):

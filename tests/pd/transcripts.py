@@ -86,7 +86,7 @@ def selected(lines):
         words = WORD.findall(line)
         if words[0] == "mark":  # what was printed before is left out here too
             continue
-        if words[0] not in PLAYED or WINDOW.match(line) or (words[0] == "new" and any(p.split()[0] in ("send", "attr") for p in played)):
+        if words[0] not in PLAYED or WINDOW.match(line) or (words[0] in ("new", "connect") and any(p.split()[0] in ("send", "attr") for p in played)):
             break
         if any(re.match(pattern, line) for pattern, _ in UNSAYABLE):
             left_out += 1
