@@ -2,6 +2,7 @@
 
 option(HALCYRA_TESTS "Build the test suite" ON)
 option(HALCYRA_BENCHMARKS "Build the benchmarks" OFF)
+option(HALCYRA_PD "Build the external for Pure Data" OFF)
 option(HALCYRA_FUZZ "Build the fuzz targets (clang only)" OFF)
 set(HALCYRA_SANITIZE "" CACHE STRING "Sanitizers, as -fsanitize takes them")
 

@@ -50,6 +50,7 @@ struct FileState
 {
     std::vector<fs::path> folders;
     std::deque<std::optional<std::string>> answers;
+    fs::path base;
 };
 
 FileState& state()
@@ -78,7 +79,7 @@ const fs::path* folderOf (std::int16_t number)
 fs::path absolutePath (const std::string& text)
 {
     std::error_code error;
-    const auto path = fs::absolute (fs::u8path (text), error);
+    const auto path = fs::absolute (state().base / fs::u8path (text), error);
     return error ? fs::u8path (text) : path.lexically_normal();
 }
 
@@ -147,6 +148,7 @@ std::int16_t wholePath (std::int16_t path, const char* file, char* name, bool mu
 
 void addDialogAnswer (std::optional<std::string> path) { state().answers.push_back (std::move (path)); }
 void forgetDialogAnswers() { state().answers.clear(); }
+void setBaseFolder (std::string path) { state().base = fs::u8path (path); }
 
 }
 

@@ -9,4 +9,7 @@ namespace bench
 void addDialogAnswer (std::optional<std::string> path);
 void forgetDialogAnswers();
 
+/** Relative names refer to this folder; without one, to the process's. */
+void setBaseFolder (std::string path);
+
 }

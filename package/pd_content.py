@@ -1,0 +1,118 @@
+"""Where the patches for Pure Data differ from those for Max: classes, words, and pages of their own."""
+
+# Boxes that are called differently.
+CLASSES = {"line 0. 50": "line 0 50"}
+
+# Words of the rows in help_content.py and what stands in their place.
+WORDS = {
+    "a double click on the box does the same": "a click on the box, or Properties of its menu, does the same",
+    "is refused in the Max window and changes nothing": "is refused in the Pd window and changes nothing",
+    "posts the version in the Max window": "posts the version in the Pd window",
+    ". Takes a float, so write 2000. with its point": "",
+    "use the controls, messages, the inspector, or write them into the box": "use messages, or write them into the box with an @",
+    "neither pattr nor preset nor the patcher saves them": "the patch does not save them",
+    "1: scene messages wait for the main thread. Use it when they come from a metro in overdrive": "has no effect in Pd, which has one thread",
+    "put halcyra~ where the print is": "put halcyra~ or halcyra-listen~ where the print is",
+    "a separate object.": "a separate object, or to halcyra-listen~, an aid for the ear.",
+    "asks where. A file name may follow": "asks where. A file name may follow, relative to the patch",
+    "0., 1. 4000": "0, 1 4000",
+    "1., 0. 4000": "1, 0 4000",
+}
+
+_used = set()
+
+
+def adapt(text):
+    for old, new in WORDS.items():
+        if old in text:
+            _used.add(old)
+            text = text.replace(old, new)
+    return text
+
+
+def check_all_used():
+    """A phrase that is nowhere any more would leave Max's words in Pd's help."""
+    if missing := WORDS.keys() - _used:
+        raise SystemExit(f"pd_content.py: not in the help: {sorted(missing)}")
+
+
+STATE = {
+    "tab": "state",
+    "title": "State",
+    "digest": "The patch keeps the settings: save it, and they come back when it is loaded. Undo, copy and duplicate keep them too.",
+    "object": "halcyra~.control @numsources 2 @numspeakers 4",
+    "columns": [
+        [
+            ("With the patch", [
+                ("say", "Saved: all attributes that differ from the state in which the box was made, that is reverb settings, filters, positions, the view and the window. When the patch is loaded, the object sends all of them once everything is connected."),
+                ("say", "Not saved: snapshots, the corners of areas, the places of anchors, names and colours of speakers, what is shown or hidden one by one, the room size slider, the selection."),
+                ("say", "What is changed by hand in the window marks the patch as changed; messages do not."),
+            ]),
+        ],
+        [
+            ("Ask", [
+                ("send", "dump gain", "one attribute with its name; without a name, all in one list"),
+                ("send", "bang", "sends all positions, filters and reverb settings"),
+                ("send", "exportdict", "all attributes into a JSON file; asks where. A file name may follow, relative to the patch"),
+                ("send", "postattributes gain", "posts it in the Pd window; without a name, all"),
+                ("send", "reset", "the time structure and the filters return to their defaults"),
+            ]),
+        ],
+    ],
+}
+
+NOTES = {
+    "tab": "?",
+    "title": "See also",
+    "digest": "README.deken.pd tells what is in this package.",
+    "columns": [
+        [
+            ("In this package", [
+                ("say", "examples: first steps, a moving source, snapshots, and hearing the settings."),
+                ("say", "halcyra-listen~ makes the settings audible. It is a listening aid and not the reverberator."),
+                ("say", "halcyra~ is the reverberator itself, a separate object that is not part of this package."),
+            ]),
+        ],
+        [
+            ("In Pd", [
+                ("say", "route: takes what leaves the left outlet apart."),
+                ("say", "declare -path: lets a patch find the objects of a folder."),
+                ("say", "Numbers: Pd knows one kind. A whole number reaches the object as a whole number, any other as a float."),
+            ]),
+        ],
+    ],
+}
+
+# Pages that take the place of those of the same tab.
+PAGES = {"state": STATE, "?": NOTES}
+
+META = {
+    "NAME": "halcyra~",
+    "DESCRIPTION": "control interface of a room reverberator, with a window of three tabs, and a listening aid",
+    "KEYWORDS": "control GUI reverb spatialisation room",
+    "AUTHOR": "The halcyra developers",
+    "LICENSE": "GPL-3.0-or-later",
+}
+
+README = {
+    "title": "halcyra~",
+    "digest": "halcyra~.control is the control interface of a room reverberator: a window with three tabs, and the same settings as messages. It makes no sound itself.",
+    "remark": "click it when the patch is locked: its window opens",
+    "object": "halcyra~.control @numsources 2 @numspeakers 4",
+    "columns": [
+        [
+            ("Start", [
+                ("send", "open", "opens the window"),
+                ("say", "A right click on the object and Help lead to its help patch, one topic in each of its subpatches."),
+                ("say", "examples: small patches to start from. halcyra-hearing.pd lets you hear the settings by halcyra-listen~, a listening aid that is not the reverberator."),
+            ]),
+        ],
+        [
+            ("What it needs", [
+                ("say", "Pd 0.53 or later on 64-bit Linux with X11, FreeType, OpenGL and glibc 2.35 or later."),
+                ("say", "halcyra~, the reverberator itself, is a separate object and not part of this package."),
+                ("say", "Under the GNU General Public License, version 3 or later: LICENSE.txt. What is linked in: NOTICES.txt."),
+            ]),
+        ],
+    ],
+}
