@@ -4,6 +4,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <malloc.h>
 #include <random>
 
 using lumo::PlaneComponent;
@@ -147,9 +148,14 @@ void WholeFrame (benchmark::State& state)
 }
 BENCHMARK (WholeFrame)->Arg (0)->Arg (6)->Arg (64)->Unit (benchmark::kMicrosecond);
 
+/** The counter tells what one more plane that nobody has looked at takes of the heap. */
 void NewPlane (benchmark::State& state)
 {
     const auto count = static_cast<std::size_t> (state.range (0));
+    const auto first = std::make_unique<PlaneComponent> (count, count, 400);
+    const auto before = mallinfo2().uordblks;
+    const auto second = std::make_unique<PlaneComponent> (count, count, 400);
+    state.counters["kB"] = static_cast<double> (mallinfo2().uordblks - before) / 1000;
     for (auto _ : state)
         benchmark::DoNotOptimize (std::make_unique<PlaneComponent> (count, count, 400));
 }
