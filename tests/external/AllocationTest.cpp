@@ -1,81 +1,20 @@
 #include "ControlTest.h"
+#include "EveryMessage.h"
 #include "FailingNew.h"
+
+#include <string_view>
 
 CONTROL_TESTS (Allocation);
 
-namespace
-{
-
-/** One good form of each message that is more than a number. */
-constexpr const char* messages[] = {
-    "gain 3",
-    "reverb tr0 4",
-    "early start 5",
-    "roomsize 3000.",
-    "direct gains 1 2 3 4",
-    "cluster freqs 300 3000",
-    "bang",
-    "reset",
-    "reset gain",
-    "source 1 aed 30 0 1",
-    "source 1 name solo",
-    "source 1 color 1 0 0 1",
-    "source 2 yaw 20",
-    "source 2 lookat 0 0 0",
-    "speaker 1 xyz 1 2 3",
-    "speaker 1 name left",
-    "speakers xyz 1 0 0 0 1 0",
-    "listener xyz 1 2 3",
-    "listener rpy 1 2 3",
-    "rotate 0 10 0 0",
-    "numareas 2",
-    "areas 1 xyz 0 0 0 1 0 0 1 1 0",
-    "areas 1 name stage",
-    "numanchors 2",
-    "anchor 1 xyz 1 1 0",
-    "adjustzoom",
-    "store a",
-    "store b",
-    "recall a",
-    "xsnapshot a b 0.5",
-    "clearsnapshot a",
-    "dump",
-    "dump gain",
-    "dump missing",
-    "dumpdict",
-    "dumpdict gain tr0",
-    "postattributes",
-    "version",
-    "getgain",
-    "getradius",
-    "radius 1 2",
-    "name left right",
-    "sourcecolor 1 0 0 1 0 1 0 1",
-    "orientationmode follow follow",
-    "sourceslevels -3 -3",
-    "speakerslevels -3 -3",
-    "sourcespositions 1 2 3 4 5 6",
-    "speakerspositions 1 2 3 4 5 6",
-    "format xyz",
-    "viewpoint front",
-    "gridmode square",
-    "backgroundcolor 1 0 0 1",
-    "windowtitle hall",
-    "windowtopleft 5 6",
-    "bang foo bar",
-    "source foo",
-    "early foo 3",
-};
-
-}
-
-/** Every allocation by operator new that our own code makes while a message is taken and carried out. */
+/** Every allocation that our own code makes while a message is taken and carried out. */
 TEST_P (Allocation, AMessageThatGetsNoMemoryHarmsNothingAndTheNextOneWorks)
 {
     auto box = settled ("@numsources 2 @numspeakers 2");
     int failures = 0;
     float gain = 0;
-    for (const auto* message : messages) {
+    for (const auto* message : everyMessage) {
+        if (std::string_view (message) == "open")
+            continue; // a window is JUCE's, which takes no failure
         SCOPED_TRACE (message);
         constexpr int mostAllocations = 3000;
         for (int number = 0; number < mostAllocations; ++number) {

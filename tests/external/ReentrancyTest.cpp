@@ -1,4 +1,5 @@
 #include "ControlTest.h"
+#include "EveryMessage.h"
 
 #include "external/ControlAttributes.h"
 #include "external/ViewerAttributes.h"
@@ -102,58 +103,6 @@ INSTANTIATE_TEST_SUITE_P (DeferMedium, Reentrancy, bothDeferModes, deferModeName
 namespace
 {
 
-/** One good form of each message that changes something, or answers. */
-constexpr const char* messages[] = {
-    "gain 3",
-    "reverb tr0 4",
-    "reverb air 0",
-    "early start 5",
-    "cluster end 200",
-    "roomsize 3000.",
-    "direct gains 1 2 3 4",
-    "room 1 2 3 4 500 5000",
-    "early G0 3",
-    "cluster freqs 300 3000",
-    "reset",
-    "reset gain",
-    "bang",
-    "source 1 aed 30 0 1",
-    "source 1 name solo",
-    "source 1 color 1 0 0 1",
-    "source 2 yaw 20",
-    "source 2 lookat 0 0 0",
-    "speaker 1 xyz 1 2 3",
-    "speaker 1 name left",
-    "speakers xyz 1 0 0 0 1 0",
-    "loudspeakers xyz 1 0 0 0 1 0",
-    "listener xyz 1 2 3",
-    "listener rpy 1 2 3",
-    "rotate 0 10 0 0",
-    "rotate 1 10 0 0",
-    "areas 1 xyz 0 0 0 1 0 0 1 1 0",
-    "anchor 1 xyz 1 1 0",
-    "adjustzoom",
-    "recall a",
-    "recall missing",
-    "xsnapshot a b 0.5",
-    "store c",
-    "clearsnapshot a",
-    "dump",
-    "dump gain",
-    "dump missing",
-    "dumpdict",
-    "dumpdict gain tr0",
-    "dictionary changes",
-    "postattributes",
-    "version",
-    "getgain",
-    "getradius",
-    "open",
-    "wclose",
-    "windowtitle hall",
-    "windowtopleft 5 6",
-};
-
 /** A value of an attribute that is not its default. */
 std::string otherValue (const orvanemax::AttributeRow& row)
 {
@@ -194,7 +143,7 @@ std::vector<Reentrancy::Road> Reentrancy::roads()
 {
     std::vector<Road> all;
     for (const auto* defer : { "0", "1" })
-        for (const auto* message : messages)
+        for (const auto* message : everyMessage)
             all.push_back ({ std::string (message) + ", defer " + defer, [=] (auto& t) { prepareScene (t, defer); },
                              [=] (auto& t) { t.send (message); } });
     const auto addAttribute = [&] (const orvanemax::AttributeRow& row) {

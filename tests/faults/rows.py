@@ -82,7 +82,7 @@ ROWS = [
     ("src/max/ObjectCall.cpp", "call->object == object && ! std::exchange (call->isGone, true)",
      "call->object == object", "a call does not learn that its object is gone"),
     ("src/max/Modified.h", "if (! objectIsGone())\n", "", "a freed object notifies"),
-    ("src/max/Modified.h", "object_notify (object, modified(), nullptr);", "", "no change is told to pattr"),
+    ("src/max/Modified.h", "object_notify (object, modified(), nullptr);", "static_cast<void> (object);", "no change is told to pattr"),
     ("src/max/MainThread.h", "    if (systhread_ismainthread())\n        handler (object, selector, argc, argv);\n    else\n        defer_low (object, hostFunction<deferredHandler<handler>>(), selector, deferrable (argc), argv);",
      "    handler (object, selector, argc, argv);", "messages from the scheduler run on its thread"),
     ("src/max/MainThread.h", "std::numeric_limits<short>::max()", "1000", "long lists lose their end"),
@@ -162,7 +162,7 @@ ROWS = [
      "nameOf (atoms[1]), nameOf (atoms[0]), atoms.number (2)", "xsnapshot goes the other way"),
     ("src/external/HalcyraControl.cpp", "hideApertures (x); // whatever was saved: a new object starts without", "",
      "a saved showaperture comes back on"),
-    ("src/external/HalcyraControl.cpp", "sysmem_freeptr (x->*array.atoms);", ";", "the per-source arrays leak"),
+    ("src/external/HalcyraControl.cpp", "sysmem_freeptr (x->*array.atoms);", "static_cast<void> (x);", "the per-source arrays leak"),
     ("src/external/HalcyraControl.cpp", "io == ASSIST_INLET ? \"inlet\" : index == 0 ? \"outlet\"", "io == ASSIST_INLET ? \"inlet\" : index == 1 ? \"outlet\"",
      "the outlets' assistance"),
 

@@ -46,7 +46,10 @@ BenchTest::BenchTest (bench::DeferMedium deferMedium) : patch (deferMedium)
     });
 }
 
-BenchTest::~BenchTest() = default;
+BenchTest::~BenchTest()
+{
+    patch.setListener ({}); // what goes with the patch would be told when the list of events is gone
+}
 
 TestBox BenchTest::make (const std::string& text)
 {
