@@ -6,7 +6,7 @@ namespace juce
 {
 
 /** The timer is a private base, which this form of a cast alone may name. */
-Timer& timerOf (TooltipWindow& window) { return (Timer&) window; }
+Timer& timerOf (TooltipWindow& window) { return (Timer&)window; }
 
 #if JUCE_LINUX
 

@@ -156,9 +156,7 @@ TEST_F (SnapshotFile, ThatChangesWhileItIsReadIsReadAsItWasOrRefused)
     EXPECT_EQ (store.size(), 1U) << "cut short";
     EXPECT_EQ (readWhile ([&] { std::ofstream (path, std::ios::app) << "<more/>"; }), "nothing");
     EXPECT_EQ (store.size(), 3U) << "grown";
-    const auto replace = [&] {
-        std::filesystem::rename (scratch.write ("other.xml", "<v/>").path().str(), path);
-    };
+    const auto replace = [&] { std::filesystem::rename (scratch.write ("other.xml", "<v/>").path().str(), path); };
     EXPECT_EQ (readWhile (replace), "nothing");
     EXPECT_EQ (store.size(), 3U) << "replaced by another";
 }
