@@ -358,7 +358,7 @@ KEYS = {
                 ("say", "c: moves only around the centre, or freely"),
                 ("say", "+ and -: zoom;  = goes back to 1"),
                 ("say", "arrows: shift the view"),
-                ("say", "ctrl + w: closes the window"),
+                ("say", "ctrl + w: closes the window, from the first two tabs"),
                 ("say", "ctrl + z: undoes the last gesture of the hand, on every page; ctrl + shift + z or ctrl + y does it again"),
             ]),
             ("Start", [
