@@ -8,7 +8,7 @@ add_library(halcyra::juce ALIAS halcyra_juce)
 foreach(module IN LISTS juceModules)
     target_sources(halcyra_juce PRIVATE "${CMAKE_SOURCE_DIR}/cmake/juce/${module}.cpp")
 endforeach()
-target_include_directories(halcyra_juce SYSTEM PUBLIC "${JUCE_MODULES_DIR}")
+target_include_directories(halcyra_juce SYSTEM PUBLIC "${JUCE_MODULES_DIR}" "${CMAKE_SOURCE_DIR}/cmake/juce")
 target_compile_definitions(halcyra_juce PUBLIC
     JUCE_GLOBAL_MODULE_SETTINGS_INCLUDED=1
     JUCE_STANDALONE_APPLICATION=0

@@ -41,7 +41,7 @@ t_max_err minimal_setlevel (t_minimal* x, void*, t_clong argc, t_atom* argv)
 }
 }
 
-void minimal_main (void*)
+t_clong minimal_main (void*)
 {
     minimalClass =
         class_new ("bench.minimal", max_method (minimal_new), nullptr, sizeof (t_minimal), nullptr, A_GIMME, 0);
@@ -51,4 +51,5 @@ void minimal_main (void*)
     class_addattr (minimalClass, level);
     attr_addfilter_clip (level, -30, 30, 1, 1);
     class_register (CLASS_BOX, minimalClass);
+    return 0;
 }

@@ -95,8 +95,10 @@ Bench::~Bench()
 void Bench::load (Entry entry)
 {
     static auto& loaded = *new std::unordered_set<Entry>;
-    if (loaded.insert (entry).second)
-        entry (nullptr);
+    if (! loaded.insert (entry).second)
+        return;
+    if (const auto result = entry (nullptr); result != 0)
+        tell (Event::Kind::error, nullptr, "error " + std::to_string (result) + " loading external");
 }
 
 Box* Bench::make (const std::string& name, const std::string& text) { return make (name, wordsOf (text)); }
@@ -200,6 +202,14 @@ void Bench::settle()
         if (auto* driver = windowDriver(); driver != nullptr && ! busy)
             busy = driver->pump();
     }
+}
+
+void Bench::pump()
+{
+    while (MainQueue::instance().runOne()) {
+    }
+    if (auto* driver = windowDriver())
+        driver->pump();
 }
 
 void Bench::hold() { patch->held = true; }

@@ -11,8 +11,8 @@
 namespace bench
 {
 
-/** The entry point of an external, as ext_main. */
-using Entry = void (*) (void*);
+/** The entry point of an external, as ext_main; returns 0. */
+using Entry = t_clong (*) (void*);
 
 /** What defer_medium does when the main thread calls it; from the scheduler thread it always queues. */
 enum class DeferMedium
@@ -48,7 +48,7 @@ public:
     Bench (const Bench&) = delete;
     Bench& operator= (const Bench&) = delete;
 
-    /** Calls the entry point unless it was called before. */
+    /** Calls the entry point unless it was called before; an event tells if it returned anything but 0. */
     void load (Entry entry);
 
     /** Makes a box out of its text, "CLASS ARG ... @attribute value ...". Null, told by an event, if the class is
@@ -73,6 +73,9 @@ public:
     void settle();
     void hold();
     void release();
+
+    /** Runs what waits for the main thread now, and waits for no other thread: the scheduler's goes on meanwhile. */
+    void pump();
 
     /** Lets time pass, pumping. The scheduler's clock moves by this alone. */
     void wait (int milliseconds);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <new>
 
 namespace qel
 {
@@ -14,10 +15,15 @@ static_assert (alignof (std::max_align_t) >= arrayAlignment);
 namespace
 {
 
+struct BadAllocation : std::bad_alloc
+{
+    [[nodiscard]] const char* what() const noexcept override { return "bad allocation"; }
+};
+
 void* tested (void* p)
 {
     if (p == nullptr)
-        throw Exception ("bad allocation", QEL_HERE);
+        throw BadAllocation();
     return p;
 }
 

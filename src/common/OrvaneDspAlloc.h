@@ -7,10 +7,11 @@ namespace qel
 
 inline constexpr std::size_t arrayAlignment = 16;
 
-/** Aligned bytes, not cleared; at least one byte is always had. Raises "bad allocation". */
+/** Aligned bytes, not cleared; at least one byte is always had. Raises a std::bad_alloc,
+    "bad allocation", which a guard turns into "out of memory". */
 [[nodiscard]] void* allocate (std::size_t bytes);
 
-/** Moves the storage to a new size and keeps what fits; a null p allocates. Raises "bad allocation", then p stands. */
+/** Moves the storage to a new size and keeps what fits; a null p allocates. Raises the same, then p stands. */
 [[nodiscard]] void* reallocate (void* p, std::size_t bytes);
 
 /** Gives storage back; null is ignored. */

@@ -7,6 +7,7 @@
 #include "max/MainThread.h"
 #include "max/MaxAttribute.h"
 #include "max/MaxMspJuceWindowManager.h"
+#include "max/Modified.h"
 #include "max/OrvanemaxSymbols.h"
 
 #include <algorithm>
@@ -113,7 +114,7 @@ void setSize (t_halcyra_control* x, const SizeRow& size, Atoms atoms)
         return;
     storeSize (x, size, atoms.integer (0));
     if (size.notifies)
-        object_notify (x, modified(), nullptr);
+        notifyModified (x);
 }
 
 /** Two values, of which anything but a number counts 0; one that is infinite or no number spoils all. */
@@ -142,7 +143,7 @@ void setWindowOption (t_halcyra_control* x, t_symbol* name, short argc, t_atom* 
         } else {
             return;
         }
-        object_notify (x, modified(), nullptr);
+        notifyModified (x);
     });
 }
 
@@ -172,7 +173,7 @@ void setAttribute (t_halcyra_control* x, t_symbol* name, t_clong argc, t_atom* a
     if (systhread_ismainthread())
         setWindowOption (x, name, deferrable (argc), argv);
     else
-        runOnMainThread (x, max_method (setWindowOption), name, argc, argv);
+        runOnMainThread (x, hostFunction<setWindowOption>(), name, argc, argv);
 }
 
 }

@@ -6,6 +6,7 @@
 #include "max/Atoms.h"
 #include "max/Guarded.h"
 #include "max/MainThread.h"
+#include "max/Modified.h"
 
 #include <algorithm>
 
@@ -19,7 +20,8 @@ namespace
 {
 
 /** Handlers run on the main thread. Each gets the selector that chose it. */
-using DeferredHandler = void (*) (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv);
+using DeferredHandler = orvanemax::HostFunction;
+using orvanemax::hostFunction;
 
 const ReverbMirror* mirrorOf (t_symbol* selector) noexcept
 {
@@ -86,7 +88,7 @@ void setFilter (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* ar
         parseFilter (filter, Atoms (argc, argv));
         x->component->setFilter (number, filter, true);
         if (mirror.tellsOfMessages)
-            object_notify (x, orvanemax::modified(), nullptr);
+            orvanemax::notifyModified (x);
     });
 }
 
@@ -107,24 +109,24 @@ struct DeferredMessage
     DeferredHandler handler;
 };
 
-constexpr DeferredMessage otherMessages[] = {
-    { &Words::reset, resetAll },
-    { &Words::bang, sendAll },
-    { &Words::roomsize, setRoomSize },
+const DeferredMessage otherMessages[] = {
+    { &Words::reset, hostFunction<resetAll>() },
+    { &Words::bang, hostFunction<sendAll>() },
+    { &Words::roomsize, hostFunction<setRoomSize>() },
 };
 
-/** Null for a selector that has no handler. */
+/** Empty for a selector that has no handler. */
 DeferredHandler handlerOf (t_symbol* selector) noexcept
 {
     if (const auto* mirror = mirrorOf (selector))
-        return mirror->flag != nullptr ? setSwitch : setNumber;
+        return mirror->flag != nullptr ? hostFunction<setSwitch>() : hostFunction<setNumber>();
     if (filterNumber (selector) < static_cast<HalcyraFilter> (filterMirrors.size()))
-        return setFilter;
+        return hostFunction<setFilter>();
     const auto* row =
         std::find_if (std::begin (otherMessages), std::end (otherMessages), [=] (const DeferredMessage& message) {
             return orvanemax::symbol (message.selector) == selector;
         });
-    return row == std::end (otherMessages) ? nullptr : row->handler;
+    return row == std::end (otherMessages) ? DeferredHandler() : row->handler;
 }
 
 }
@@ -135,5 +137,5 @@ void halcyra_control_defer_msg (t_halcyra_control* x, t_symbol* selector, t_clon
     const auto handler = halcyra::handlerOf (selector);
     if (handler == nullptr)
         return object_bug (&x->object, "unknown halcyra_control_defer_msg %s", selector->s_name);
-    orvanemax::runOnMainThread (x, max_method (handler), selector, argc, argv);
+    orvanemax::runOnMainThread (x, handler, selector, argc, argv);
 }

@@ -12,6 +12,7 @@
 #include "max/Atoms.h"
 #include "max/DictionaryState.h"
 #include "max/Guarded.h"
+#include "max/HostFunction.h"
 #include "max/MaxMspJuceWindowManager.h"
 #include "max/OrvanemaxSymbols.h"
 
@@ -59,10 +60,7 @@ void fillDefaults (t_halcyra_control* x)
 }
 
 /** Behind all that was queued when the turn began. */
-void endTurn (t_halcyra_control* x, t_symbol*, short, t_atom*)
-{
-    guarded (x, [x] { x->component->endTurn(); });
-}
+void endTurn (t_halcyra_control* x, t_symbol*, short, t_atom*) { x->component->endTurn(); }
 
 /** The component, its listeners and the window's manager; false, and told, if one could not be made. */
 bool makeParts (t_halcyra_control* x)
@@ -72,7 +70,7 @@ bool makeParts (t_halcyra_control* x)
                                              static_cast<std::uint32_t> (x->numspeakers),
                                              static_cast<std::uint32_t> (x->numinternals));
         x->plane = x->component->getPlane();
-        x->component->setTurnWaker ([x] { defer_low (x, max_method (endTurn), nullptr, 0, nullptr); });
+        x->component->setTurnWaker ([x] { defer_low (x, orvanemax::hostFunction<endTurn>(), nullptr, 0, nullptr); });
         x->listener = new MaxHalcyraListener (x);
         x->scene = new SceneMirror (x);
         x->window = new MaxMspJuceWindowManager (&x->object, x->component, false);
@@ -121,24 +119,32 @@ void* halcyra_control_new (t_symbol*, t_clong argc, t_atom* argv)
         return nullptr;
     hideApertures (x); // whatever was saved: a new object starts without
     makeOutlets (x);
-    defer_medium (x, max_method (scene::initialise), nullptr, 0, nullptr);
+    defer_medium (x, orvanemax::hostFunction<scene::initialise>(), nullptr, 0, nullptr);
     replayParameters (x);
     return x;
 }
 
 void halcyra_control_free (t_halcyra_control* x)
 {
-    guarded (x, [x] {
-        delete x->window; // closes it
-        if (x->component != nullptr) {
-            delete x->scene;
-            delete x->listener;
-            delete x->component;
-        }
-    });
     for (const auto& array : ownedArrays)
         if (x->*array.atoms != nullptr)
             sysmem_freeptr (x->*array.atoms);
+    if (x->listener != nullptr)
+        x->listener->leaveOwner();
+    if (x->scene != nullptr)
+        x->scene->leaveOwner();
+    if (x->window != nullptr)
+        x->window->leaveOwner();
+    if (x->component != nullptr)
+        x->component->setTurnWaker ({});
+    orvanemax::objectGoes (x, [window = x->window, listener = x->listener, scene = x->scene, component = x->component] {
+        delete window;
+        if (component != nullptr) {
+            delete scene;
+            delete listener;
+            delete component;
+        }
+    });
 }
 
 void halcyra_control_assist (t_halcyra_control*, void*, t_clong io, t_clong index, char* text)

@@ -27,7 +27,12 @@ inline constexpr t_clong maxPositions = 3 * maxSources;
 
     The fields of an attribute mirror what the component holds, so that the host can read them without it. C++ objects
     hang on the record by pointer: they are made in halcyra_control_new and deleted in halcyra_control_free. All of it
-    belongs to the main thread but the three sizes, which stand still once the object is made. */
+    belongs to the main thread but
+
+    - the three sizes, which stand still once the object is made;
+    - what the arrays of atoms hold, which is read by a getter on any thread: see PerSourceStores.h;
+    - single fields and fixed arrays, which the host's own getters read on any thread, without a lock, as of every
+      external: a value of 32 bits is the old one or the new one, and of a list some may be old. */
 struct t_halcyra_control
 {
     t_object object;
@@ -101,8 +106,8 @@ static_assert (std::is_standard_layout_v<t_halcyra_control> && std::is_trivial_v
 #define HALCYRA_FIELD(field)                                                                                           \
     orvanemax::AttributeField { #field, calcoffset(t_halcyra_control, field) }
 
-/** Registers `halcyra~.control` with the host. Called once when the external is loaded. */
-MAX_EXPORT void ext_main (void* unused);
+/** Registers `halcyra~.control` with the host and returns 0. Called once when the external is loaded. */
+MAX_EXPORT t_clong ext_main (void* unused);
 
 void* halcyra_control_new (t_symbol* name, t_clong argc, t_atom* argv);
 void halcyra_control_free (t_halcyra_control* x);

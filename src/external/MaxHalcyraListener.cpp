@@ -8,7 +8,9 @@
 #include "gui/plane/PlaneComponent.h"
 #include "gui/verb/HalcyraComponent.h"
 #include "max/Atoms.h"
+#include "max/Guarded.h"
 #include "max/MainThread.h"
+#include "max/Modified.h"
 
 #include <algorithm>
 #include <array>
@@ -48,11 +50,59 @@ bool mirrorParameter (t_halcyra_control* x, const ReverbMirror& mirror, t_atom& 
 
 }
 
-MaxHalcyraListener::MaxHalcyraListener (t_halcyra_control* owner) : x (owner) { x->component->addListener (this); }
+MaxHalcyraListener::MaxHalcyraListener (t_halcyra_control* owner) : x (owner), component (owner->component)
+{
+    component->addListener (this);
+}
 
-MaxHalcyraListener::~MaxHalcyraListener() { x->component->removeListener (this); }
+MaxHalcyraListener::~MaxHalcyraListener() { component->removeListener (this); }
+
+void MaxHalcyraListener::leaveOwner() { x = nullptr; }
+
+template <typename Change>
+void MaxHalcyraListener::tell (Change&& change)
+{
+    if (x == nullptr)
+        return;
+    orvanemax::guarded (x, [this, &change, owner = x] {
+        change();
+        orvanemax::notifyModified (owner);
+    });
+}
 
 void MaxHalcyraListener::HalcyraSourceChanged (int sourceIndex)
+{
+    tell ([this, sourceIndex] { sendSource (sourceIndex); });
+}
+
+void MaxHalcyraListener::HalcyraSpeakersChanged()
+{
+    if (x != nullptr && x->numspeakers > 0)
+        tell ([this] { sendSpeakers(); });
+}
+
+void MaxHalcyraListener::HalcyraReverbChanged (const HalcyraReverbParameter& parameter)
+{
+    tell ([this, &parameter] { sendParameter (parameter); });
+}
+
+void MaxHalcyraListener::HalcyraFilterChanged (const HalcyraFilter& filter)
+{
+    tell ([this, &filter] { sendFilter (filter); });
+}
+
+void MaxHalcyraListener::HalcyraViewerOptionsChanged()
+{
+    tell ([this] { mirrorViewerOptions (x); });
+}
+
+void MaxHalcyraListener::HalcyraCloseRequested()
+{
+    if (x != nullptr)
+        orvanemax::guarded (x, [this] { object_method (x, orvanemax::symbols().wclose); });
+}
+
+void MaxHalcyraListener::sendSource (int sourceIndex)
 {
     const auto position = x->component->getSourcePosition (sourceIndex);
     mirrorSourcePosition (x, static_cast<std::size_t> (sourceIndex));
@@ -63,13 +113,10 @@ void MaxHalcyraListener::HalcyraSourceChanged (int sourceIndex)
     auto* end = &atoms[2];
     if (writeInFormat (x, position, end))
         sendOut (x, orvanemax::symbols().source, static_cast<t_clong> (end - atoms.data()), atoms.data());
-    notifyModified();
 }
 
-void MaxHalcyraListener::HalcyraSpeakersChanged()
+void MaxHalcyraListener::sendSpeakers()
 {
-    if (x->numspeakers < 1)
-        return;
     mirrorSpeakers (x);
     qel::Point3Array positions;
     x->component->getSpeakerPositions (positions);
@@ -81,50 +128,36 @@ void MaxHalcyraListener::HalcyraSpeakersChanged()
         written = written && writeInFormat (x, position, end);
     if (written)
         sendOut (x, orvanemax::symbols().speakers, static_cast<t_clong> (end - atoms.data()), atoms.data());
-    notifyModified();
 }
 
-void MaxHalcyraListener::HalcyraReverbChanged (const HalcyraReverbParameter& parameter)
+void MaxHalcyraListener::sendParameter (HalcyraReverbParameter parameter)
 {
-    if (parameterRow (parameter) == nullptr) {
-        orvanemax::tellError (x, "HalcyraReverbChanged : unknown parameter");
-    } else {
-        const auto& words = reverbWords (parameter);
-        std::array<t_atom, 2> atoms{};
-        atom_setsym (&atoms[0], words.key);
-        const auto& mirror = reverbMirrors[static_cast<std::size_t> (parameter)];
-        if (mirrorParameter (x, mirror, atoms[1]))
-            touchAttribute (x, orvanemax::symbol (mirror.attribute));
-        sendOut (x, words.selector, 2, atoms.data());
-    }
-    notifyModified();
+    if (parameterRow (parameter) == nullptr)
+        return orvanemax::tellError (x, "HalcyraReverbChanged : unknown parameter");
+    const auto& words = reverbWords (parameter);
+    const auto& mirror = reverbMirrors[static_cast<std::size_t> (parameter)];
+    std::array<t_atom, 2> atoms{};
+    atom_setsym (&atoms[0], words.key);
+    if (mirrorParameter (x, mirror, atoms[1]))
+        touchAttribute (x, orvanemax::symbol (mirror.attribute));
+    sendOut (x, words.selector, 2, atoms.data());
 }
 
-void MaxHalcyraListener::HalcyraFilterChanged (const HalcyraFilter& filter)
+void MaxHalcyraListener::sendFilter (HalcyraFilter filter)
 {
-    if (filter >= 0 && filter < static_cast<HalcyraFilter> (filterMirrors.size())) {
-        const auto& mirror = filterMirrors[static_cast<std::size_t> (filter)];
-        x->filters[filter] = x->component->getFilter (filter);
-        auto& values = x->*mirror.values;
-        std::array<float, 6> before{};
-        std::copy (std::begin (values), std::end (values), before.begin());
-        copyFilter (x->filters[filter], values);
-        if (! std::equal (before.begin(), before.end(), values))
-            touchAttribute (x, orvanemax::symbol (mirror.selector));
-        std::array<t_atom, 6> atoms{};
-        for (std::size_t i = 0; i < atoms.size(); ++i)
-            atom_setfloat (&atoms[i], static_cast<double> (values[i]));
-        sendOut (x, orvanemax::symbol (mirror.selector), 6, atoms.data());
-    }
-    notifyModified();
+    if (filter < 0 || filter >= static_cast<HalcyraFilter> (filterMirrors.size()))
+        return;
+    const auto& mirror = filterMirrors[static_cast<std::size_t> (filter)];
+    const auto& present = x->component->getFilter (filter);
+    auto& values = x->*mirror.values;
+    std::array<float, 6> before{};
+    std::copy (std::begin (values), std::end (values), before.begin());
+    x->filters[filter] = present;
+    copyFilter (present, values);
+    std::array<t_atom, 6> atoms{};
+    for (std::size_t i = 0; i < atoms.size(); ++i)
+        atom_setfloat (&atoms[i], static_cast<double> (values[i]));
+    if (! std::equal (before.begin(), before.end(), values))
+        touchAttribute (x, orvanemax::symbol (mirror.selector));
+    sendOut (x, orvanemax::symbol (mirror.selector), 6, atoms.data());
 }
-
-void MaxHalcyraListener::HalcyraViewerOptionsChanged()
-{
-    mirrorViewerOptions (x);
-    notifyModified();
-}
-
-void MaxHalcyraListener::HalcyraCloseRequested() { object_method (x, orvanemax::symbols().wclose); }
-
-void MaxHalcyraListener::notifyModified() { object_notify (x, orvanemax::modified(), nullptr); }

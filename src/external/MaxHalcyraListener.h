@@ -14,6 +14,9 @@ public:
     MaxHalcyraListener (const MaxHalcyraListener&) = delete;
     MaxHalcyraListener& operator= (const MaxHalcyraListener&) = delete;
 
+    /** The owner is being freed: from here on nothing is told, though the component may still be at work. */
+    void leaveOwner();
+
     void HalcyraSourceChanged (int sourceIndex) override;
     void HalcyraSpeakersChanged() override;
     void HalcyraReverbChanged (const HalcyraReverbParameter& parameter) override;
@@ -22,7 +25,17 @@ public:
     void HalcyraCloseRequested() override;
 
 private:
-    void notifyModified();
+    /** What every change goes through: it is a call under way in the owner, and ends with the notification. A patch may
+        free the owner while the change speaks. */
+    template <typename Change>
+    void tell (Change&& change);
 
-    t_halcyra_control* x;
+    // Each stores what has changed in the mirrors and sends it, and touches the owner no more.
+    void sendSource (int sourceIndex);
+    void sendSpeakers();
+    void sendParameter (HalcyraReverbParameter parameter);
+    void sendFilter (HalcyraFilter filter);
+
+    t_halcyra_control* x; // null once the owner is gone
+    HalcyraComponent* component;
 };

@@ -12,6 +12,7 @@
 #include "max/ClassRegistration.h"
 #include "max/DictionaryState.h"
 #include "max/ExportDict.h"
+#include "max/Guarded.h"
 #include "max/MainThread.h"
 #include "max/MaxXmlDocumentation.h"
 #include "max/OrvanemaxSymbols.h"
@@ -64,24 +65,24 @@ void rotateMessage (void* x, t_symbol* selector, t_clong argc, t_atom* argv)
 
 /** Messages of the main thread alone, messages whose work is always queued, and those for any thread. */
 template <Handler handler>
-method onMain()
+HostFunction onMain()
 {
-    return max_method (static_cast<Handler> (mainThreadEntry<handler>));
+    return hostFunction<static_cast<Handler> (mainThreadEntry<handler>)>();
 }
 template <void (*handler) (void*)>
-method onMain()
+HostFunction onMain()
 {
-    return max_method (static_cast<void (*) (void*)> (mainThreadEntry<handler>));
+    return hostFunction<static_cast<void (*) (void*)> (mainThreadEntry<handler>)>();
 }
 template <Handler handler>
-method queued()
+HostFunction queued()
 {
-    return max_method (static_cast<Handler> (queuedEntry<handler>));
+    return hostFunction<static_cast<Handler> (queuedEntry<handler>)>();
 }
 template <void (*handler) (void*)>
-method queued()
+HostFunction queued()
 {
-    return max_method (static_cast<void (*) (void*)> (queuedEntry<handler>));
+    return hostFunction<static_cast<void (*) (void*)> (queuedEntry<handler>)>();
 }
 
 std::vector<MessageRow> serviceMessages()
@@ -91,16 +92,16 @@ std::vector<MessageRow> serviceMessages()
         { "generatexml", onMain<orvanemax_generatexml>(), none, "this method is for service use only." },
         { "version", onMain<orvanemax_version>(), none },
         { "postattributes", onMain<orvanemax_postattributes>(), A_GIMME, nullptr, { { "attribute", "symbol" } } },
-        { "getvalueof", max_method (orvanemax_getvalueof), A_CANT },
-        { "setvalueof", max_method (orvanemax_setvalueof), A_CANT },
+        { "getvalueof", hostFunction<orvanemax_getvalueof>(), A_CANT },
+        { "setvalueof", hostFunction<orvanemax_setvalueof>(), A_CANT },
         { "preset", onMain<orvanemax_preset>(), none },
         { "recallpreset", onMain<orvanemax_recallpreset>(), A_GIMME, nullptr, { { "values", "list" } } },
         { "exportdict", onMain<orvanemax_exportdict>(), A_GIMME, nullptr, { { "file", "symbol" } } },
         { "dumpdict", onMain<orvanemax_dumpdict>(), A_GIMME, nullptr, { { "attributes", "list of symbol" } } },
-        { "dictionary", max_method (dictionaryMessage), A_SYM, nullptr, { { "dictionary", "symbol" } }, "readdict" },
+        { "dictionary", hostFunction<dictionaryMessage>(), A_SYM, nullptr, { { "dictionary", "symbol" } }, "readdict" },
         { "dump", onMain<orvanemax_dump>(), A_GIMME, nullptr, { { "attribute", "symbol" } } },
         { "reset", onMain<orvanemax_reset>(), A_GIMME, nullptr, { { "attribute", "symbol" } } },
-        { "assist", max_method (halcyra_control_assist), A_CANT },
+        { "assist", hostFunction<halcyra_control_assist>(), A_CANT },
     };
 }
 
@@ -123,21 +124,21 @@ std::vector<MessageRow> ownMessages()
           nullptr,
           { { "first", "symbol" }, { "second", "symbol" }, { "amount", "float" } } },
         { "listener", onMain<listener>(), A_GIMME, nullptr, { values } },
-        { "rotate", max_method (rotateMessage), A_GIMME, nullptr, { index, { "yaw pitch roll", "list of float" } } },
+        { "rotate", hostFunction<rotateMessage>(), A_GIMME, nullptr, { index, { "yaw pitch roll", "list of float" } } },
         { "areas", queued<area>(), A_GIMME, nullptr, { index, values } },
         { "area", queued<area>(), A_GIMME, nullptr, { index, values } },
         { "anchor", queued<anchor>(), A_GIMME, nullptr, { index, values } },
         { "adjustzoom", queued<adjustZoom>(), none },
-        { "roomsize", max_method (halcyra_control_roomsize), A_GIMME, nullptr, { { "size", "float" } } },
-        { "bang", max_method (halcyra_control_bang), none },
-        { "reset", max_method (halcyra_control_reset), none },
+        { "roomsize", hostFunction<halcyra_control_roomsize>(), A_GIMME, nullptr, { { "size", "float" } } },
+        { "bang", hostFunction<halcyra_control_bang>(), none },
+        { "reset", hostFunction<halcyra_control_reset>(), none },
         { "source", onMain<source>(), A_GIMME, nullptr, { index, { "property or coordinates", "symbol" }, values } },
-        { "direct", max_method (halcyra_control_direct), A_GIMME, nullptr, { values } },
-        { "room", max_method (halcyra_control_room), A_GIMME, nullptr, { values } },
-        { "early", max_method (halcyra_control_early), A_GIMME, nullptr, { values } },
-        { "cluster", max_method (halcyra_control_cluster), A_GIMME, nullptr, { values } },
+        { "direct", hostFunction<halcyra_control_direct>(), A_GIMME, nullptr, { values } },
+        { "room", hostFunction<halcyra_control_room>(), A_GIMME, nullptr, { values } },
+        { "early", hostFunction<halcyra_control_early>(), A_GIMME, nullptr, { values } },
+        { "cluster", hostFunction<halcyra_control_cluster>(), A_GIMME, nullptr, { values } },
         { "reverb",
-          max_method (halcyra_control_reverb),
+          hostFunction<halcyra_control_reverb>(),
           A_GIMME,
           nullptr,
           { { "parameter", "symbol" }, { "value", "float" } } },
@@ -153,7 +154,7 @@ std::vector<MessageRow> ownMessages()
             { "value", "list of int or float or symbol" } } },
         { "open", onMain<halcyra_control_open>(), none, openHelp },
         { "wclose", onMain<halcyra_control_wclose>(), none, "closes the Graphical User Interface window." },
-        { "dblclick", max_method (halcyra_control_open), A_CANT, openHelp },
+        { "dblclick", hostFunction<halcyra_control_open>(), A_CANT, openHelp },
     };
 }
 
@@ -167,7 +168,7 @@ void addAllAttributes (t_class* c)
 {
     std::vector<const AttributeRow*> ordered;
     for (const auto& attribute : controlAttributes()) {
-        addAttribute (c, attribute.row, attribute.category, 0, nullptr, max_method (halcyra_control_set));
+        addAttribute (c, attribute.row, attribute.category, 0, {}, hostFunction<halcyra_control_set>());
         if (attribute.row.order != 0)
             ordered.push_back (&attribute.row);
     }
@@ -175,8 +176,8 @@ void addAllAttributes (t_class* c)
     std::size_t place = 0;
     for (const auto& attribute : viewerAttributes())
         addAttribute (c, attribute.row, place++ < withoutCategory ? nullptr : "viewer", ATTR_SET_DEFER_LOW,
-                      attribute.isPerSource ? max_method (halcyra_control_per_source_get) : nullptr,
-                      max_method (halcyra_control_viewer_set));
+                      attribute.isPerSource ? hostFunction<halcyra_control_per_source_get>() : HostFunction(),
+                      hostFunction<halcyra_control_viewer_set>());
     std::sort (ordered.begin(), ordered.end(),
                [] (const AttributeRow* a, const AttributeRow* b) { return a->order < b->order; });
     for (const auto* row : ordered)
@@ -196,12 +197,15 @@ t_class* controlClass() noexcept { return registeredClass; }
 
 }
 
-void ext_main (void*)
+namespace
+{
+
+void registerControlClass()
 {
     using namespace halcyra;
     orvanemax::buildSymbols();
     startJuceInHost();
-    auto* c = class_new (className, max_method (halcyra_control_new), max_method (halcyra_control_free),
+    auto* c = class_new (className, hostFunction<halcyra_control_new>(), hostDestructor<halcyra_control_free>(),
                          static_cast<t_clong> (sizeof (t_halcyra_control)), nullptr, A_GIMME, 0);
     c->c_flags |= CLASS_FLAG_NEWDICTIONARY;
     orvanemax::addDocumentationAttributes (
@@ -214,4 +218,16 @@ void ext_main (void*)
     setLateAttributes (lateAttributesOfControl, std::size (lateAttributesOfControl));
     class_register (CLASS_BOX, c);
     registeredClass = c;
+}
+
+}
+
+t_clong ext_main (void*)
+{
+    t_clong result = MAX_ERR_GENERIC;
+    orvanemax::guarded (nullptr, [&result] {
+        registerControlClass();
+        result = MAX_ERR_NONE;
+    });
+    return result;
 }

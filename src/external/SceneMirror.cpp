@@ -1,9 +1,11 @@
 #include "external/SceneMirror.h"
 
+#include "external/PerSourceStores.h"
 #include "external/PointMirror.h"
 #include "geometry/OrvaneDspSpherical.h"
 #include "gui/plane/PlaneComponent.h"
-#include "max/OrvanemaxSymbols.h"
+#include "max/Guarded.h"
+#include "max/Modified.h"
 
 #include <cmath>
 
@@ -13,6 +15,7 @@ namespace
 {
 
 using lumo::Plane::Orientation::WrapDegrees;
+using orvanemax::objectIsGone;
 using orvanemax::symbols;
 
 /** The angle held in radians as degrees: those that were sent, if they are what is held. */
@@ -37,6 +40,7 @@ bool storePointIfOther (const qel::Point3& point, float* triple) noexcept
 bool storeFloatIfOther (t_atom* array, std::size_t index, float value) noexcept
 {
     const auto wide = static_cast<double> (value);
+    const std::lock_guard<std::mutex> lock (perSourceStores());
     if (array == nullptr || (atom_gettype (&array[index]) == A_FLOAT && atom_getfloat (&array[index]) == wide))
         return false;
     atom_setfloat (&array[index], wide);
@@ -56,21 +60,28 @@ const lumo::Plane::Source* sourceAt (const t_halcyra_control* x, std::size_t sou
 
 }
 
-void touchAttribute (t_halcyra_control* x, t_symbol* name) { object_attr_touch (&x->object, name); }
+void touchAttribute (t_halcyra_control* x, t_symbol* name)
+{
+    if (! objectIsGone())
+        object_attr_touch (&x->object, name);
+}
 
 void mirrorSourcePosition (t_halcyra_control* x, std::size_t source)
 {
-    if (storePointIfOther (x->plane->GetSourcePosition (source), x->sourcespositions + 3 * source))
+    if (! objectIsGone() && storePointIfOther (x->plane->GetSourcePosition (source), x->sourcespositions + 3 * source))
         touchAttribute (x, symbols().sourcespositions);
 }
 
 void mirrorSourceYaw (t_halcyra_control* x, std::size_t source)
 {
-    mirrorSourceYaw (x, source, presentDegrees (x->yaw, source));
+    if (! objectIsGone())
+        mirrorSourceYaw (x, source, presentDegrees (x->yaw, source));
 }
 
 void mirrorSourceYaw (t_halcyra_control* x, std::size_t index, float sentDegrees)
 {
+    if (objectIsGone())
+        return;
     const auto* source = sourceAt (x, index);
     if (source != nullptr && storeFloatIfOther (x->yaw, index, degreesHeld (source->yaw, withinHalfTurn (sentDegrees))))
         touchAttribute (x, symbols().yaw);
@@ -78,11 +89,14 @@ void mirrorSourceYaw (t_halcyra_control* x, std::size_t index, float sentDegrees
 
 void mirrorSourceAperture (t_halcyra_control* x, std::size_t source)
 {
-    mirrorSourceAperture (x, source, presentDegrees (x->aperture, source));
+    if (! objectIsGone())
+        mirrorSourceAperture (x, source, presentDegrees (x->aperture, source));
 }
 
 void mirrorSourceAperture (t_halcyra_control* x, std::size_t index, float sentDegrees)
 {
+    if (objectIsGone())
+        return;
     const auto* source = sourceAt (x, index);
     if (source == nullptr)
         return;
@@ -93,6 +107,8 @@ void mirrorSourceAperture (t_halcyra_control* x, std::size_t index, float sentDe
 
 void mirrorSpeakers (t_halcyra_control* x)
 {
+    if (objectIsGone())
+        return;
     bool differ = false;
     for (std::size_t i = 0; i < x->plane->GetNumSpeakers(); ++i)
         differ = storePointIfOther (x->plane->GetSpeakerPosition (i), x->speakerspositions + 3 * i) || differ;
@@ -102,12 +118,14 @@ void mirrorSpeakers (t_halcyra_control* x)
 
 void mirrorListenerPosition (t_halcyra_control* x)
 {
-    if (storePointIfOther (x->plane->GetListenerPosition(), x->listenerposition))
+    if (! objectIsGone() && storePointIfOther (x->plane->GetListenerPosition(), x->listenerposition))
         touchAttribute (x, symbols().listenerposition);
 }
 
 void mirrorListenerAngles (t_halcyra_control* x)
 {
+    if (objectIsGone())
+        return;
     const auto& listener = x->plane->GetListener();
     const auto mirror = [x] (float& mirrored, float radians, t_symbol* name) {
         const float held = degreesHeld (radians, mirrored);
@@ -125,16 +143,18 @@ void mirrorListenerAngles (t_halcyra_control* x)
 
 using namespace halcyra;
 
-SceneMirror::SceneMirror (t_halcyra_control* owner) : x (owner) { x->plane->AddListener (this); }
-SceneMirror::~SceneMirror() { x->plane->RemoveListener (this); }
+SceneMirror::SceneMirror (t_halcyra_control* owner) : x (owner), plane (owner->plane) { plane->AddListener (this); }
+SceneMirror::~SceneMirror() { plane->RemoveListener (this); }
 
 template <typename Mirror>
 void SceneMirror::follow (Mirror&& mirror)
 {
-    if (updates > 0)
+    if (updates > 0 || x == nullptr)
         return;
-    mirror();
-    object_notify (x, orvanemax::modified(), nullptr);
+    orvanemax::guarded (x, [&mirror, owner = x] {
+        mirror();
+        orvanemax::notifyModified (owner);
+    });
 }
 
 void SceneMirror::ListenerPositionChanged (const qel::Point3&, lumo::PlaneBase&)

@@ -14,6 +14,9 @@ public:
     SceneMirror (const SceneMirror&) = delete;
     SceneMirror& operator= (const SceneMirror&) = delete;
 
+    /** The owner is being freed: from here on nothing is mirrored, though the plane may still be at work. */
+    void leaveOwner() noexcept { x = nullptr; }
+
     void ListenerPositionChanged (const qel::Point3& position, lumo::PlaneBase& plane) override;
     void ListenerYawChanged (float degrees) override;
     void ListenerPitchChanged (float degrees) override;
@@ -39,17 +42,19 @@ private:
     template <typename Mirror>
     void follow (Mirror&& mirror);
 
-    t_halcyra_control* x;
+    t_halcyra_control* x; // null once the owner is gone
+    lumo::PlaneComponent* plane;
     int updates = 0; // under way
 };
 
 namespace halcyra
 {
 
-/** Tells those who watch an attribute (an attrui) that its value has changed. Main thread. */
+/** Tells those who watch an attribute (an attrui) that its value has changed, unless the call under way has freed the
+    object. Main thread. */
 void touchAttribute (t_halcyra_control* x, t_symbol* name);
 
-/** Each brings mirrors to what the plane holds and touches the attribute if that differs. An angle that was sent, in
+/** Each does nothing for an object that the call under way has freed. They bring mirrors to what the plane holds and touches the attribute if that differs. An angle that was sent, in
     degrees, is kept to the letter where it is what the plane took, so that a saved state gives the same again. */
 void mirrorSourcePosition (t_halcyra_control* x, std::size_t source);
 void mirrorSourceYaw (t_halcyra_control* x, std::size_t source);

@@ -1,5 +1,6 @@
 #include "external/SceneUpdates.h"
 
+#include "external/PerSourceStores.h"
 #include "external/PointMirror.h"
 #include "external/SceneWorkers.h"
 #include "geometry/OrvaneDspLayouts.h"
@@ -18,6 +19,7 @@ namespace
 /** The arrays of atoms are null in an object that could not get their memory. */
 void storeLevel (t_atom* levels, t_atom_long index, float decibels) noexcept
 {
+    const std::lock_guard<std::mutex> lock (perSourceStores());
     if (levels != nullptr)
         atom_setfloat (&levels[index], static_cast<double> (decibels));
 }
@@ -26,6 +28,8 @@ void storeLevel (t_atom* levels, t_atom_long index, float decibels) noexcept
 class Packet
 {
 public:
+    Packet() {} // not defaulted: Packet() would zero all atoms, 12 kB of them
+
     Packet& add (t_atom_long value)
     {
         atom_setlong (&atoms[count++], value);
@@ -45,16 +49,17 @@ public:
     Packet& add (const float (&rgba)[4]) { return add (rgba[0]).add (rgba[1]).add (rgba[2]).add (rgba[3]); }
 
     /** The one rule of all scene updates. */
-    void send (t_halcyra_control* x, workers::Worker worker, bool notify)
+    template <workers::Worker worker>
+    void send (t_halcyra_control* x, bool notify)
     {
         add (static_cast<t_atom_long> (notify));
         const auto size = static_cast<short> (count);
         if (x->display == 1 && x->defer == 1) {
-            orvanemax::runOnMainThread (x, max_method (worker), nullptr, size, atoms.data());
+            orvanemax::runOnMainThread (x, orvanemax::hostFunction<worker>(), nullptr, size, atoms.data());
             return;
         }
         worker (x, nullptr, size, atoms.data());
-        if (x->viewerqelem != nullptr)
+        if (! orvanemax::objectIsGone() && x->viewerqelem != nullptr)
             qelem_set (x->viewerqelem);
     }
 
@@ -69,62 +74,62 @@ void setSourcePosition (t_halcyra_control* x, t_atom_long source, const qel::Poi
 {
     // At once, so that the next relative move starts from here, deferred or not.
     storePoint (position, x->sourcespositions + 3 * source);
-    Packet().add (source).add (position).send (x, workers::sourcePosition, notify);
+    Packet().add (source).add (position).send<workers::sourcePosition> (x, notify);
 }
 
 void setSourceColour (t_halcyra_control* x, t_atom_long source, const float (&rgba)[4], bool notify)
 {
-    Packet().add (source).add (rgba).send (x, workers::sourceColour, notify);
+    Packet().add (source).add (rgba).send<workers::sourceColour> (x, notify);
 }
 
 void setSourceName (t_halcyra_control* x, t_atom_long source, t_symbol* name, bool notify)
 {
-    Packet().add (source).add (name).send (x, workers::sourceName, notify);
+    Packet().add (source).add (name).send<workers::sourceName> (x, notify);
 }
 
 void setSourceOrientationMode (t_halcyra_control* x, t_atom_long source, t_symbol* mode, bool notify)
 {
-    Packet().add (source).add (mode).send (x, workers::sourceOrientationMode, notify);
+    Packet().add (source).add (mode).send<workers::sourceOrientationMode> (x, notify);
 }
 
 void setSourceAperture (t_halcyra_control* x, t_atom_long source, float degrees, bool notify)
 {
-    Packet().add (source).add (degrees).send (x, workers::sourceAperture, notify);
+    Packet().add (source).add (degrees).send<workers::sourceAperture> (x, notify);
 }
 
 void setSourceYaw (t_halcyra_control* x, t_atom_long source, float degrees, bool notify)
 {
-    Packet().add (source).add (degrees).send (x, workers::sourceYaw, notify);
+    Packet().add (source).add (degrees).send<workers::sourceYaw> (x, notify);
 }
 
 void setSourceRadius (t_halcyra_control* x, t_atom_long source, float metres, bool notify)
 {
-    Packet().add (source).add (metres).send (x, workers::sourceRadius, notify);
+    Packet().add (source).add (metres).send<workers::sourceRadius> (x, notify);
 }
 
 void setSourceVisible (t_halcyra_control* x, t_atom_long source, bool visible, bool notify)
 {
-    Packet().add (source).add (static_cast<t_atom_long> (visible)).send (x, workers::sourceVisible, notify);
+    Packet().add (source).add (static_cast<t_atom_long> (visible)).send<workers::sourceVisible> (x, notify);
 }
 
 void setSourceLookAt (t_halcyra_control* x, t_atom_long source, const qel::Point3& target, bool notify)
 {
-    Packet().add (source).add (target).send (x, workers::sourceLookAt, notify);
+    Packet().add (source).add (target).send<workers::sourceLookAt> (x, notify);
 }
 
 void setSpeakerName (t_halcyra_control* x, t_atom_long speaker, t_symbol* name, bool notify)
 {
-    Packet().add (speaker).add (name).send (x, workers::speakerName, notify);
+    Packet().add (speaker).add (name).send<workers::speakerName> (x, notify);
 }
 
 void setSpeakerColour (t_halcyra_control* x, t_atom_long speaker, const float (&rgba)[4], bool notify)
 {
-    Packet().add (speaker).add (rgba).send (x, workers::speakerColour, notify);
+    Packet().add (speaker).add (rgba).send<workers::speakerColour> (x, notify);
 }
 
 void setSpeakerVisible (t_halcyra_control* x, t_atom_long speaker, bool visible, bool notify)
 {
-    Packet().add (speaker).add (static_cast<t_atom_long> (visible)).send (x, workers::speakerVisible, notify);
+    Packet().add (speaker).add (static_cast<t_atom_long> (visible)).send<workers::speakerVisible> (x, notify);
 }
 
 void sendSpeakers (t_halcyra_control* x, bool notify)
@@ -132,27 +137,27 @@ void sendSpeakers (t_halcyra_control* x, bool notify)
     Packet packet;
     for (t_atom_long i = 0; i < 3 * x->numspeakers; ++i)
         packet.add (x->speakerspositions[i]);
-    packet.send (x, workers::speakersPositions, notify);
+    packet.send<workers::speakersPositions> (x, notify);
 }
 
 void sendListenerPosition (t_halcyra_control* x, bool notify)
 {
-    Packet().add (pointIn (x->listenerposition)).send (x, workers::listenerPosition, notify);
+    Packet().add (pointIn (x->listenerposition)).send<workers::listenerPosition> (x, notify);
 }
 
 void sendListenerYaw (t_halcyra_control* x, bool notify)
 {
-    Packet().add (x->listeneryaw).send (x, workers::listenerYaw, notify);
+    Packet().add (x->listeneryaw).send<workers::listenerYaw> (x, notify);
 }
 
 void sendListenerPitch (t_halcyra_control* x, bool notify)
 {
-    Packet().add (x->listenerpitch).send (x, workers::listenerPitch, notify);
+    Packet().add (x->listenerpitch).send<workers::listenerPitch> (x, notify);
 }
 
 void sendListenerRoll (t_halcyra_control* x, bool notify)
 {
-    Packet().add (x->listenerroll).send (x, workers::listenerRoll, notify);
+    Packet().add (x->listenerroll).send<workers::listenerRoll> (x, notify);
 }
 
 void sendListenerOrientation (t_halcyra_control* x, bool notify)
@@ -161,7 +166,7 @@ void sendListenerOrientation (t_halcyra_control* x, bool notify)
         .add (x->listeneryaw)
         .add (x->listenerpitch)
         .add (x->listenerroll)
-        .send (x, workers::listenerOrientation, notify);
+        .send<workers::listenerOrientation> (x, notify);
 }
 
 bool isOrientationMode (const t_symbol* word)
@@ -172,10 +177,14 @@ bool isOrientationMode (const t_symbol* word)
 
 void setRadiusConstraint (t_halcyra_control* x, bool on)
 {
-    Packet().add (static_cast<t_atom_long> (on)).send (x, workers::radiusConstraint, true);
+    Packet().add (static_cast<t_atom_long> (on)).send<workers::radiusConstraint> (x, true);
 }
 
-void notifyModified (t_halcyra_control* x) { Packet().send (x, workers::modified, true); }
+void notifyModified (t_halcyra_control* x)
+{
+    if (! orvanemax::objectIsGone())
+        Packet().send<workers::modified> (x, true);
+}
 
 void initialise (t_halcyra_control* x, t_symbol*, short, t_atom*)
 {
@@ -185,10 +194,14 @@ void initialise (t_halcyra_control* x, t_symbol*, short, t_atom*)
         for (t_atom_long i = 0; i < x->numsources; ++i)
             setSourceColour (x, i, colour, true);
         const auto ring = qel::ringLayout (static_cast<std::size_t> (x->numsources));
-        for (t_atom_long i = 0; i < x->numsources; ++i)
+        for (t_atom_long i = 0; ! orvanemax::objectIsGone() && i < x->numsources; ++i)
             setSourcePosition (x, i, ring[static_cast<std::size_t> (i)], true);
+        if (orvanemax::objectIsGone())
+            return;
         storeSpeakersInMirror (x, qel::defaultSpeakerLayout (static_cast<std::size_t> (x->numspeakers)));
         sendSpeakers (x, true);
+        if (orvanemax::objectIsGone())
+            return;
         for (t_atom_long i = 0; i < x->numsources; ++i)
             setSourceName (x, i, gensym (std::to_string (i + 1).c_str()), true);
         for (t_atom_long i = 0; i < x->numsources; ++i) {

@@ -1,10 +1,11 @@
 #include "external/SceneWorkers.h"
 
+#include "external/PerSourceStores.h"
 #include "external/SceneMirror.h"
 #include "gui/plane/PlaneComponent.h"
 #include "max/Atoms.h"
 #include "max/Guarded.h"
-#include "max/OrvanemaxSymbols.h"
+#include "max/Modified.h"
 
 #include <utility>
 
@@ -41,15 +42,20 @@ void apply (t_halcyra_control* x, short argc, t_atom* argv, Body&& body)
     });
 }
 
-/** Stores an atom and touches the attribute if it was another. The arrays of atoms are null in an object that could not
+/** Stores atoms and touches the attribute if they were other. The arrays of atoms are null in an object that could not
     get their memory. */
 void storeAtoms (t_halcyra_control* x, Atoms atoms, t_atom* array, std::size_t index, t_symbol* attribute)
 {
+    if (array == nullptr)
+        return;
     bool differ = false;
-    for (std::size_t i = 0; i < atoms.size() && array != nullptr; ++i) {
-        const auto value = static_cast<double> (atoms.number (i));
-        differ = differ || atom_getfloat (&array[index + i]) != value;
-        atom_setfloat (&array[index + i], value);
+    {
+        const std::lock_guard<std::mutex> lock (perSourceStores());
+        for (std::size_t i = 0; i < atoms.size(); ++i) {
+            const auto value = static_cast<double> (atoms.number (i));
+            differ = differ || atom_getfloat (&array[index + i]) != value;
+            atom_setfloat (&array[index + i], value);
+        }
     }
     if (differ)
         touchAttribute (x, attribute);
@@ -239,9 +245,6 @@ void radiusConstraint (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv
     });
 }
 
-void modified (t_halcyra_control* x, t_symbol*, short, t_atom*)
-{
-    orvanemax::guarded (x, [=] { object_notify (x, orvanemax::modified(), nullptr); });
-}
+void modified (t_halcyra_control* x, t_symbol*, short, t_atom*) { orvanemax::notifyModified (x); }
 
 }

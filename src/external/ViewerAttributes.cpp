@@ -1,6 +1,7 @@
 #include "external/ViewerAttributes.h"
 
 #include "external/CoordinateMessages.h"
+#include "external/PerSourceStores.h"
 #include "external/SceneUpdates.h"
 #include "external/ViewerOptions.h"
 #include "external/ViewerSetters.h"
@@ -8,6 +9,7 @@
 #include "max/Guarded.h"
 #include "max/MainThread.h"
 #include "max/MaxAttribute.h"
+#include "max/Modified.h"
 #include "max/OrvanemaxSymbols.h"
 
 #include <algorithm>
@@ -146,9 +148,11 @@ void setByName (t_halcyra_control* x, t_symbol* name, short argc, t_atom* argv)
         if (attribute == nullptr)
             return orvanemax::tellError (x, std::string ("unknown attribute ") + name->s_name);
         const bool notifies = attribute->set (x, attribute->row, orvanemax::Atoms (argc, argv));
+        if (orvanemax::objectIsGone())
+            return;
         mirrorViewerOptions (x); // the plane may have refused, or changed more
         if (notifies)
-            object_notify (x, orvanemax::modified(), nullptr);
+            orvanemax::notifyModified (x);
     });
 }
 
@@ -199,7 +203,7 @@ t_max_err halcyra_control_viewer_set (t_halcyra_control* x, void* attribute, t_c
     if (systhread_ismainthread())
         halcyra::setByName (x, name, orvanemax::deferrable (argc), argv);
     else
-        orvanemax::runOnMainThread (x, max_method (halcyra::setByName), name, argc, argv);
+        orvanemax::runOnMainThread (x, orvanemax::hostFunction<halcyra::setByName>(), name, argc, argv);
     return MAX_ERR_NONE;
 }
 
@@ -222,6 +226,7 @@ t_max_err halcyra_control_per_source_get (t_halcyra_control* x, void* attribute,
     }
     // Memory of the caller's may be smaller.
     *argc = std::min (*argc, static_cast<t_clong> (count));
+    const std::lock_guard<std::mutex> lock (halcyra::perSourceStores());
     sysmem_copyptr (atoms, *argv, static_cast<t_ptr_size> (*argc) * sizeof (t_atom));
     return MAX_ERR_NONE;
 }

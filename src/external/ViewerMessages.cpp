@@ -6,6 +6,7 @@
 #include "external/ViewerOptions.h"
 #include "gui/plane/PlaneComponent.h"
 #include "max/Guarded.h"
+#include "max/Modified.h"
 #include "max/OrvanemaxSymbols.h"
 
 namespace halcyra
@@ -259,7 +260,7 @@ void listener (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
             return invalidMessage (x, "invalid message : listener", atoms);
         storePoint (position, x->listenerposition);
         scene::sendListenerPosition (x, notifies (selector));
-        object_notify (x, orvanemax::modified(), nullptr);
+        orvanemax::notifyModified (x);
     });
 }
 
@@ -303,7 +304,7 @@ void adjustZoom (void* object)
     guarded (x, [=] {
         x->plane->AutoZoom (true);
         mirrorViewerOptions (x);
-        object_notify (x, orvanemax::modified(), nullptr);
+        orvanemax::notifyModified (x);
     });
 }
 
@@ -320,7 +321,7 @@ void rotate (void* object, t_symbol*, t_clong argc, t_atom* argv)
             x->plane->RotateAllSources (yaw, pitch, roll, true);
         else
             x->plane->RotateSource (static_cast<std::size_t> (index - 1), yaw, pitch, roll, true);
-        object_notify (x, orvanemax::modified(), nullptr);
+        orvanemax::notifyModified (x);
     });
 }
 

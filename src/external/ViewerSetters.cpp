@@ -1,10 +1,12 @@
 #include "external/ViewerSetters.h"
 
 #include "external/CoordinateMessages.h"
+#include "external/PerSourceStores.h"
 #include "external/PointMirror.h"
 #include "external/SceneUpdates.h"
 #include "gui/verb/HalcyraComponent.h"
 #include "max/FileDialogs.h"
+#include "max/ObjectCall.h"
 #include "max/OrvanemaxSymbols.h"
 
 #include <cctype>
@@ -15,6 +17,7 @@ namespace halcyra::setters
 namespace
 {
 
+using orvanemax::objectIsGone;
 using orvanemax::symbols;
 
 /** Copies as many numbers as there are, at most room for all. */
@@ -36,6 +39,7 @@ bool storeLevels (Atoms atoms, t_atom* mirror, t_atom_long number, qel::Vector<f
             return false;
         levels[i] = atoms.number (i);
     }
+    const std::lock_guard<std::mutex> lock (perSourceStores());
     for (std::size_t i = 0; i < count && mirror != nullptr; ++i)
         atom_setfloat (&mirror[i], static_cast<double> (levels[i]));
     return true;
@@ -151,7 +155,7 @@ bool sourcesPositions (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
     if (atoms.empty() || ! atoms.areNumbers())
         return true;
     copyNumbers (atoms, x->sourcespositions, x->sourcespositionssize);
-    for (t_atom_long i = 0; i < x->numsources; ++i)
+    for (t_atom_long i = 0; ! objectIsGone() && i < x->numsources; ++i)
         scene::setSourcePosition (x, i, scene::sourceInMirror (x, i), true);
     return true;
 }
@@ -193,7 +197,7 @@ bool sourceColour (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
 {
     if (atoms.size() < static_cast<std::size_t> (4 * x->numsources))
         return true;
-    for (t_atom_long i = 0; i < x->numsources; ++i) {
+    for (t_atom_long i = 0; ! objectIsGone() && i < x->numsources; ++i) {
         const auto values = atoms.from (static_cast<std::size_t> (4 * i));
         if (values.fit ("nnnn"))
             scene::setSourceColour (
@@ -208,8 +212,6 @@ bool sourcesLevels (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
     if (! storeLevels (atoms, x->sourceslevels, x->numsources, levels))
         return true;
     x->plane->SetSourcesLevels (levels);
-    if (x->showsourceslevels != 0 && x->viewerqelem != nullptr)
-        qelem_set (x->viewerqelem);
     return true;
 }
 
@@ -219,8 +221,6 @@ bool speakersLevels (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
     if (! storeLevels (atoms, x->speakerslevels, x->numspeakers, levels))
         return true;
     x->plane->SetSpeakersLevels (levels);
-    if (x->showspeakerslevels != 0)
-        x->plane->repaint();
     return true;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 #include "external/ViewerAttributes.h"
 #include "gui/plane/PlaneComponent.h"
+#include "max/ObjectCall.h"
 
 #include <algorithm>
 #include <functional>
@@ -96,7 +97,7 @@ template <void (*set) (t_halcyra_control* x, t_atom_long source, float value, bo
 bool perSource (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
 {
     if (atoms.size() >= static_cast<std::size_t> (x->numsources))
-        for (t_atom_long i = 0; i < x->numsources; ++i)
+        for (t_atom_long i = 0; ! orvanemax::objectIsGone() && i < x->numsources; ++i)
             if (orvanemax::isNumber (atoms[static_cast<std::size_t> (i)]))
                 set (x, i, atoms.number (static_cast<std::size_t> (i)), true);
     return true;
@@ -107,7 +108,7 @@ template <void (*set) (t_halcyra_control* x, t_atom_long source, t_symbol* word,
 bool wordPerSource (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
 {
     if (atoms.size() >= static_cast<std::size_t> (x->numsources))
-        for (t_atom_long i = 0; i < x->numsources; ++i)
+        for (t_atom_long i = 0; ! orvanemax::objectIsGone() && i < x->numsources; ++i)
             if (atoms.from (static_cast<std::size_t> (i)).fit ("s"))
                 set (x, i, atoms.symbol (static_cast<std::size_t> (i)), true);
     return true;

@@ -155,7 +155,8 @@ void orvanemax_reset (void* x, t_symbol*, t_clong argc, t_atom* argv)
         const Atoms atoms (argc, argv);
         if (atoms.empty()) {
             for (auto* name : visibleAttributes (x))
-                resetAttributeToDefault (x, name, false, false);
+                if (! objectIsGone())
+                    resetAttributeToDefault (x, name, false, false);
             return;
         }
         if (! atoms.fitExactly ("s"))

@@ -14,10 +14,22 @@ namespace orvanemax
 namespace
 {
 
+void addWord (t_class* c, const char* attribute, const char* property, t_symbol* word)
+{
+    class_attr_addattr_format (c, attribute, property, gensym ("symbol"), 0, "s", word);
+}
+
 void addText (t_class* c, const char* attribute, const char* property, const char* text)
 {
     if (text != nullptr)
-        class_attr_addattr_format (c, attribute, property, gensym ("symbol"), 0, "s", gensym_tr (text));
+        addWord (c, attribute, property, gensym (text));
+}
+
+/** In the user's language. */
+void addTranslated (t_class* c, const char* attribute, const char* property, const char* text)
+{
+    if (text != nullptr)
+        addWord (c, attribute, property, gensym_tr (text));
 }
 
 void addParsed (t_class* c, const char* attribute, const char* property, const char* type, const char* text)
@@ -123,7 +135,8 @@ void addPortDocumentation (t_class* c, const char* list, std::initializer_list<P
         addTexts (target, port.name, { port.help });
 }
 
-void addAttribute (t_class* c, const AttributeRow& row, const char* category, t_clong flags, method get, method set)
+void addAttribute (t_class* c, const AttributeRow& row, const char* category, t_clong flags, HostFunction get,
+                   HostFunction set)
 {
     auto* type = gensym (row.type);
     class_addattr (c, row.capacity == 0 ? attr_offset_new (row.name, type, flags, get, set, row.offset)
@@ -132,10 +145,10 @@ void addAttribute (t_class* c, const AttributeRow& row, const char* category, t_
     addFilterAndBounds (c, row);
     if (row.defaultText != nullptr)
         addParsed (c, row.name, "default", row.type, defaultTextOf (row).c_str());
-    addText (c, row.name, "label", row.label);
+    addTranslated (c, row.name, "label", row.label);
     addText (c, row.name, "category", category);
     addText (c, row.name, "style", row.style);
-    addText (c, row.name, "units", row.units);
+    addTranslated (c, row.name, "units", row.units);
     addText (c, row.name, "description", row.description);
     addParsed (c, row.name, "enumvals", "atom", row.choices);
     addParsed (c, row.name, "dontreset", "long", row.canBeReset ? nullptr : "1");

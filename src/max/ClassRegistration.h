@@ -1,6 +1,7 @@
 #pragma once
 #include "max/Atoms.h"
 #include "max/AttributeRow.h"
+#include "max/HostFunction.h"
 
 #include <initializer_list>
 
@@ -19,7 +20,7 @@ struct ArgumentRow
 struct MessageRow
 {
     const char* name;
-    method function;
+    HostFunction function;
     int pattern; // A_GIMME, A_SYM, A_CANT, or A_NOTHING for none
     const char* help = nullptr;
     ArgumentRow arguments[3] = {};
@@ -47,7 +48,8 @@ struct PortRow
 void addPortDocumentation (t_class* c, const char* list, std::initializer_list<PortRow> ports);
 
 /** Registers an attribute with its accessors (null for the host's own), filter and properties, but not its order. */
-void addAttribute (t_class* c, const AttributeRow& row, const char* category, t_clong flags, method get, method set);
+void addAttribute (t_class* c, const AttributeRow& row, const char* category, t_clong flags, HostFunction get,
+                   HostFunction set);
 
 /** Gives an attribute its place, which comes behind all other properties. */
 void addOrder (t_class* c, const char* name, int order);

@@ -67,8 +67,8 @@ void setFromEntry (void* object, Recall& recall, const t_dictionary* dictionary,
     if (dictionary_getatom (dictionary, key, &atom) != MAX_ERR_NONE ||
         (atom_gettype (&atom) == A_OBJ && ! atomisatomarray (&atom)))
         return tellError (object, std::string ("entry ") + key->s_name + " is not atom ? ");
-    if (object_attr_get (object, key) == nullptr)
-        return; // dictionaries may hold more than attributes
+    if (object_attr_usercanset (object, key) == 0)
+        return; // dictionaries may hold more than attributes, and documentation is for reading
     if (atom_gettype (&atom) == A_OBJ)
         setFromArray (recall, key, atom_getobj (&atom));
     else
@@ -84,7 +84,8 @@ bool readDictionary (void* object, t_dictionary* dictionary)
     }
     Recall recall (object, { keys.begin(), keys.end() });
     for (auto* key : keys)
-        setFromEntry (object, recall, dictionary, key);
+        if (! objectIsGone())
+            setFromEntry (object, recall, dictionary, key);
     return true;
 }
 

@@ -10,7 +10,7 @@ namespace orvanemax
 
 void reportException (void* object) noexcept
 {
-    auto* owner = static_cast<t_object*> (object);
+    auto* owner = objectIsGone() ? nullptr : static_cast<t_object*> (object);
     try {
         throw;
     } catch (const qel::Exception& e) {

@@ -1,5 +1,5 @@
 #pragma once
-#include "host/api/MaxApi.h"
+#include "max/HostFunction.h"
 
 #include <algorithm>
 #include <limits>
@@ -16,7 +16,7 @@ namespace orvanemax
 /** Runs a deferred function on the main thread with a copy of the atoms: from the main thread by defer_medium, which
     may run it at once or later. From any other it goes to the end of the queue; there defer_medium does the same only
     for the scheduler's thread, so threads of other owners need defer_low. */
-inline void runOnMainThread (void* object, method function, t_symbol* selector, t_clong argc, const t_atom* argv)
+inline void runOnMainThread (void* object, HostFunction function, t_symbol* selector, t_clong argc, const t_atom* argv)
 {
     auto* atoms = const_cast<t_atom*> (argv); // the host copies them
     if (systhread_ismainthread())
@@ -28,46 +28,50 @@ inline void runOnMainThread (void* object, method function, t_symbol* selector, 
 /** A message's handler, called on the main thread alone. */
 using Handler = void (*) (void* object, t_symbol* selector, t_clong argc, t_atom* argv);
 
+/** A handler in the form of a deferred call. */
+template <Handler handler>
+void deferredHandler (void* object, t_symbol* selector, short argc, t_atom* argv)
+{
+    handler (object, selector, argc, argv);
+}
+template <void (*handler) (void* object)>
+void deferredBareHandler (void* object, t_symbol*, short, t_atom*)
+{
+    handler (object);
+}
+
 /** What is registered for a handler that touches the component, an outlet or a dialog: a message from another thread
     posts itself to the main thread, where one that came from there runs at once. */
 template <Handler handler>
 void mainThreadEntry (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
 {
-    using Deferred = void (*) (void*, t_symbol*, short, t_atom*);
-    constexpr Deferred deferred = [] (void* x, t_symbol* s, short ac, t_atom* av) { handler (x, s, ac, av); };
     if (systhread_ismainthread())
         handler (object, selector, argc, argv);
     else
-        defer_low (object, max_method (deferred), selector, deferrable (argc), argv);
+        defer_low (object, hostFunction<deferredHandler<handler>>(), selector, deferrable (argc), argv);
 }
 
 /** What is registered for a handler that always does its work behind the queue. */
 template <Handler handler>
 void queuedEntry (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
 {
-    using Deferred = void (*) (void*, t_symbol*, short, t_atom*);
-    constexpr Deferred deferred = [] (void* x, t_symbol* s, short ac, t_atom* av) { handler (x, s, ac, av); };
-    runOnMainThread (object, max_method (deferred), selector, argc, argv);
+    runOnMainThread (object, hostFunction<deferredHandler<handler>>(), selector, argc, argv);
 }
 
 /** The same two for a message that takes no arguments. */
 template <void (*handler) (void* object)>
 void mainThreadEntry (void* object)
 {
-    using Deferred = void (*) (void*, t_symbol*, short, t_atom*);
-    constexpr Deferred deferred = [] (void* x, t_symbol*, short, t_atom*) { handler (x); };
     if (systhread_ismainthread())
         handler (object);
     else
-        defer_low (object, max_method (deferred), nullptr, 0, nullptr);
+        defer_low (object, hostFunction<deferredBareHandler<handler>>(), nullptr, 0, nullptr);
 }
 
 template <void (*handler) (void* object)>
 void queuedEntry (void* object)
 {
-    using Deferred = void (*) (void*, t_symbol*, short, t_atom*);
-    constexpr Deferred deferred = [] (void* x, t_symbol*, short, t_atom*) { handler (x); };
-    runOnMainThread (object, max_method (deferred), nullptr, 0, nullptr);
+    runOnMainThread (object, hostFunction<deferredBareHandler<handler>>(), nullptr, 0, nullptr);
 }
 
 }

@@ -1,8 +1,12 @@
 #include "max/MaxMspJuceWindowManager.h"
 
+#include "max/HostFunction.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
+
+using orvanemax::hostFunction;
 
 namespace
 {
@@ -19,6 +23,18 @@ int pixels (float value)
     if (std::isnan (value))
         return 0;
     return static_cast<int> (std::clamp<double> (value, Limits::min(), Limits::max()));
+}
+
+/** The frame itself if any of it would be seen, else moved onto the main screen: the screen that it was kept for may be
+    gone. */
+juce::Rectangle<int> onAScreen (juce::Rectangle<int> frame)
+{
+    const auto& displays = juce::Desktop::getInstance().getDisplays();
+    for (const auto& display : displays.displays)
+        if (displays.logicalToPhysical (display.totalArea).intersects (frame))
+            return frame;
+    const auto* main = displays.getPrimaryDisplay();
+    return main == nullptr ? frame : frame.constrainedWithin (displays.logicalToPhysical (main->userArea));
 }
 
 /** The manager that a deferred call carries as its first atom; an error in the Max window if there is none. */
@@ -49,8 +65,16 @@ MaxMspJuceWindowManager::~MaxMspJuceWindowManager()
     refreshPosition();
     hide();
     const juce::MessageManagerLock lock;
-    window->attach (nullptr);
+    takeOut();
     window->destroy();
+}
+
+void MaxMspJuceWindowManager::leaveOwner()
+{
+    owner = nullptr;
+    window->onCloseButton = nullptr;
+    if (window->exists())
+        hide();
 }
 
 void MaxMspJuceWindowManager::setTopLeft (int newTop, int newLeft)
@@ -65,7 +89,7 @@ void MaxMspJuceWindowManager::setTopLeft (int newTop, int newLeft)
     left = newLeft;
     t_atom self;
     atom_setobj (&self, this);
-    defer (owner, max_method (changeWindowTopLeftPoint_deferred), nullptr, 1, &self);
+    defer (owner, hostFunction<changeWindowTopLeftPoint_deferred>(), nullptr, 1, &self);
 }
 
 void MaxMspJuceWindowManager::setTopLeft (const float (&topLeft)[2])
@@ -92,7 +116,7 @@ void MaxMspJuceWindowManager::open (bool show)
     t_atom arguments[2];
     atom_setobj (&arguments[0], this);
     atom_setlong (&arguments[1], show ? 1 : 0);
-    defer (owner, max_method (open_deferred), nullptr, 2, arguments);
+    defer (owner, hostFunction<open_deferred>(), nullptr, 2, arguments);
 }
 
 void MaxMspJuceWindowManager::close()
@@ -102,7 +126,7 @@ void MaxMspJuceWindowManager::close()
 
     t_atom self;
     atom_setobj (&self, this);
-    defer (owner, max_method (close_deferred), nullptr, 1, &self);
+    defer (owner, hostFunction<close_deferred>(), nullptr, 1, &self);
 }
 
 void MaxMspJuceWindowManager::changeWindowTopLeftPoint_deferred (t_object* owner, t_symbol*, short argc, t_atom* argv)
@@ -153,13 +177,13 @@ void MaxMspJuceWindowManager::bringBack (bool show)
 void MaxMspJuceWindowManager::build (bool show)
 {
     const juce::MessageManagerLock lock;
-    component->removeFromDesktop();
     component->setVisible (false);
+    component->removeFromDesktop();
     const auto area = juce::Rectangle<int> (component->getWidth(), component->getHeight());
 
     const juce::Rectangle<int> frame (left, top, area.getWidth() + decorationWidth,
                                       area.getHeight() + decorationHeight);
-    if (! window->create (juce::String::fromUTF8 (title->s_name), frame)) {
+    if (! window->create (juce::String::fromUTF8 (title->s_name), onAScreen (frame))) {
         object_error (owner, "couldnt create native window !");
         return;
     }
@@ -171,8 +195,7 @@ void MaxMspJuceWindowManager::build (bool show)
     component->toFront (true);
 
     // Once more, so that a heavyweight peer takes the size of the client area.
-    window->attach (nullptr);
-    component->setVisible (false);
+    takeOut();
     component->setSize (area.getWidth(), area.getHeight());
     window->attach (component);
     component->setBounds (area);
@@ -181,6 +204,12 @@ void MaxMspJuceWindowManager::build (bool show)
     // The focus went when the component was taken out: keys work from the first moment, without a click.
     if (component->isShowing())
         component->grabKeyboardFocus();
+}
+
+void MaxMspJuceWindowManager::takeOut()
+{
+    component->setVisible (false); // while it has its peer, in which an OpenGL context has its listener
+    window->attach (nullptr);
 }
 
 void MaxMspJuceWindowManager::hide()

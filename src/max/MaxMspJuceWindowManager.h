@@ -22,6 +22,9 @@ public:
     MaxMspJuceWindowManager (const MaxMspJuceWindowManager&) = delete;
     MaxMspJuceWindowManager& operator= (const MaxMspJuceWindowManager&) = delete;
 
+    /** Hides the window and knows the owner no more: it goes before this manager does. Nothing but the end follows. */
+    void leaveOwner();
+
     /** Where the next new window will appear; an open one stays. Warns when the window is not moveable. */
     void setTopLeft (int newTop, int newLeft);
     void setTopLeft (const float (&topLeft)[2]);
@@ -42,6 +45,7 @@ private:
     void refreshPosition() noexcept;
     void bringBack (bool show);
     void build (bool show);
+    void takeOut();
     void hide();
 
     std::unique_ptr<NativeWindow> window;

@@ -60,7 +60,7 @@ void setOne (void* object, Recall& recall, t_symbol* name, const t_atom* first, 
         if (! isKnownType (atom))
             tellWarning (object, "unknown atom type in orvanemax_setvalueof");
     const auto error = recall.set (name, count, values.data());
-    if (error != MAX_ERR_NONE)
+    if (error != MAX_ERR_NONE && ! objectIsGone())
         tellError (object, std::string (errorText (error)) + " in object_attr_setvalueof " + name->s_name);
 }
 
@@ -70,6 +70,8 @@ void setAll (void* object, const AttributeNames& names, const t_atom* values, t_
     Recall recall (object, names);
     t_clong read = 0;
     for (auto* name : names) {
+        if (objectIsGone())
+            return;
         const auto needed = GetNumberOfAtomsNeededToStoreAttribute (object, name);
         if (needed > count - read)
             return tellError (object, "error reading atoms in orvanemax_setvalueof");

@@ -1,9 +1,9 @@
 #include "max/Recall.h"
 
 #include "max/AttributeValue.h"
+#include "max/ObjectCall.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace orvanemax
 {
@@ -42,7 +42,7 @@ Recall::Recall (void* owner, const std::vector<t_symbol*>& names) : object (owne
     for (const auto* row = lateAttributes; row != lateAttributes + numLateAttributes; ++row)
         late.push_back ({ gensym (row->name), present (object, gensym (row->name)), false });
     for (const auto* row = lateAttributes; row != lateAttributes + numLateAttributes; ++row)
-        if (row->lifted && comes (row->refuses)) {
+        if (! objectIsGone() && row->lifted && comes (row->refuses)) {
             t_atom open{};
             atom_setlong (&open, *row->lifted);
             object_attr_setvalueof (object, gensym (row->name), 1, &open);
@@ -62,7 +62,7 @@ t_max_err Recall::set (t_symbol* name, t_clong count, t_atom* atoms)
 Recall::~Recall()
 {
     for (auto& row : late)
-        if (row.isSet || ! equal (row.value, present (object, row.name)))
+        if (! objectIsGone() && (row.isSet || ! equal (row.value, present (object, row.name))))
             object_attr_setvalueof (object, row.name, static_cast<t_clong> (row.value.size()), row.value.data());
 }
 

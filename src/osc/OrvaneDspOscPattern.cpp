@@ -108,11 +108,13 @@ private:
         reached[0] = false;
     }
 
-    /** All places from the first on; but the text's end counts only for the last character of a pattern. */
+    /** All places from the first on; but where the text ends already, only the last character of a pattern holds. */
     void star()
     {
-        std::fill (std::find (reached.begin(), reached.end(), true), reached.end(), true);
-        if (at < pattern.size())
+        const auto first = std::find (reached.begin(), reached.end(), true);
+        const bool textIsOver = std::distance (first, reached.end()) == 1;
+        std::fill (first, reached.end(), true);
+        if (textIsOver && at < pattern.size())
             reached.back() = false;
     }
 

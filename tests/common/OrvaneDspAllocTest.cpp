@@ -1,4 +1,6 @@
 #include "common/OrvaneDspAlloc.h"
+#include "math/OrvaneDspVector.h"
+#include "memory/OrvaneDspHeapBlock.h"
 #include "support/core/Raised.h"
 
 #include <gtest/gtest.h>
@@ -44,9 +46,21 @@ TEST (Alloc, TellsWhenThereIsNoMemory)
     if (hasSanitizer)
         GTEST_SKIP() << "the sanitizer ends the process instead";
     volatile std::size_t tooMuch = SIZE_MAX / 4;
-    EXPECT_EQ (raised ([&] { qel::free (qel::allocate (tooMuch)); }), "bad allocation");
+    const auto failure = [] (auto&& operation) -> std::string {
+        try {
+            operation();
+        } catch (const std::bad_alloc& e) {
+            return e.what();
+        }
+        return "nothing";
+    };
+    EXPECT_EQ (failure ([&] { qel::free (qel::allocate (tooMuch)); }), "bad allocation");
 
     void* const p = qel::allocate (8);
-    EXPECT_EQ (raised ([&] { qel::free (qel::reallocate (p, tooMuch)); }), "bad allocation");
+    EXPECT_EQ (failure ([&] { qel::free (qel::reallocate (p, tooMuch)); }), "bad allocation");
     qel::free (p);
+
+    // What grows is guarded.
+    EXPECT_EQ (raised ([&] { qel::Vector<char>().resize (tooMuch); }), "out of memory");
+    EXPECT_EQ (raised ([&] { qel::HeapBlock().resize (tooMuch); }), "out of memory");
 }

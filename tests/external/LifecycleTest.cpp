@@ -151,7 +151,29 @@ TEST_P (Lifecycle, LoadingTwiceKeepsOneMessageManager)
 {
     auto* manager = juce::MessageManager::getInstanceWithoutCreating();
     ASSERT_NE (manager, nullptr);
-    ext_main (nullptr);
+    EXPECT_EQ (ext_main (nullptr), 0);
     EXPECT_EQ (juce::MessageManager::getInstanceWithoutCreating(), manager);
     EXPECT_TRUE (settled());
+}
+
+TEST_P (Lifecycle, AWindowThatWouldTouchNoScreenOpensOnOne)
+{
+    // The screen in memory has 1400 by 900 pixels; rows of top, left, and where the window comes to stand.
+    const std::pair<const char*, const char*> rows[] = {
+        { "50 800", "created 800 50 935 462 Halcyra" },
+        { "899 1399", "created 1399 899 935 462 Halcyra" }, // one pixel of it is seen
+        { "900 0", "created 0 438 935 462 Halcyra" },
+        { "0 1400", "created 465 0 935 462 Halcyra" },
+        { "-462 0", "created 0 0 935 462 Halcyra" },
+        { "-5000 -5000", "created 0 0 935 462 Halcyra" },
+        { "1e9 1e9", "created 465 438 935 462 Halcyra" },
+        { "1e30 -1e30", "created 0 438 935 462 Halcyra" },
+    };
+    for (const auto& [place, created] : rows) {
+        auto box = settled (std::string ("@windowtopleft ") + place);
+        box.send ("open");
+        settle();
+        EXPECT_EQ (box.window().at (0), created) << place;
+        box.free();
+    }
 }

@@ -74,6 +74,31 @@ TEST_P (Registration, PropertiesAreTheOnesThatUsersKnow)
     EXPECT_EQ (bench::propertyOf (*box, "aperture", "default").value().size(), 250u);
 }
 
+TEST_P (Registration, LabelsAndUnitsAloneAreInTheUsersLanguage)
+{
+    const char* texts[] = { "late reverberation gain (dB)",
+                            "px",
+                            "reverb",
+                            "rgba",
+                            "onoff",
+                            "enables/disables viewer display (could be CPU intensive)" };
+    for (const auto* text : texts)
+        patch.translate (text, std::string ("Übersetzt ") + text);
+    ext_main (nullptr);
+    auto box = settled();
+    EXPECT_EQ (box.property ("gain", "label"), "\"Übersetzt late reverberation gain (dB)\"");
+    EXPECT_EQ (box.property ("windowtopleft", "units"), "\"Übersetzt px\"");
+    EXPECT_EQ (box.property ("gain", "category"), "reverb");
+    EXPECT_EQ (box.property ("backgroundcolor", "style"), "rgba");
+    EXPECT_EQ (box.property ("infinite", "style"), "onoff");
+    EXPECT_EQ (box.property ("showviewer", "description"),
+               "\"enables/disables viewer display (could be CPU intensive)\"");
+    box.free();
+    for (const auto* text : texts)
+        patch.translate (text, text);
+    ext_main (nullptr);
+}
+
 TEST_P (Registration, TheReferencePageHoldsAllMessagesAndAttributes)
 {
     auto box = settled ("@windowtitle \"<&>\"");

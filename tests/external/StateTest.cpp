@@ -157,10 +157,13 @@ TEST_P (SavedState, EntriesOfADictionaryThatAreNoAtomsAreToldAndTheOthersTaken)
     dictionary_appendatomarray (dictionary, gensym ("tr0"), reinterpret_cast<t_object*> (atomarray_new (0, nullptr)));
     dictionary_appendatoms (dictionary, gensym ("direct"), 6, list.data());
     dictionary_appendfloat (dictionary, gensym ("trl"), 2);
+    dictionary_appendsym (dictionary, gensym ("classdescription"), gensym ("mine"));
     auto* name = gensym ("mixed");
     dictionary = dictobj_register (dictionary, &name);
     const auto before = stateOf (box);
+    const auto* documentation = box.record<t_halcyra_control>()->classdescription;
     EXPECT_EQ (saying (box, "dictionary mixed"), Messages{ "error entry gain is not atom ? " });
+    EXPECT_EQ (box.record<t_halcyra_control>()->classdescription, documentation); // it is not the user's to set
     EXPECT_EQ (box.leftOutlet(), Messages{ "reverb trl 2." });
     box.send ("trl 1");
     settle();

@@ -1,6 +1,8 @@
 #include "ControlTest.h"
 
 #include <array>
+#include <atomic>
+#include <thread>
 
 class Threads : public ControlTest
 {
@@ -112,4 +114,51 @@ TEST_P (Threads, BothAtOnceDisturbNeither)
             EXPECT_EQ (box.attribute ("name"), "\"1\" \"2\"");
             box.free();
         }
+}
+
+TEST_P (Threads, ThreeAtOnceSendAndAskEverything)
+{
+    // Every message; every attribute's value as it was, and the question for it.
+    auto box = settled ("@numsources 2 @numspeakers 2");
+    Messages all (std::begin (messages), std::end (messages));
+    for (const auto& name : bench::visibleAttributes (*box)) {
+        all.push_back (name + " " + box.attribute (name));
+        all.push_back ("get" + name);
+        all.push_back ("dump " + name);
+    }
+    all.insert (all.end(), { "defer 0", "defer 1", "display 0", "display 1" });
+    const auto sendAll = [this, &all, &target = *box] (std::size_t first) {
+        for (std::size_t i = 0; i < all.size(); ++i)
+            patch.send (target, all[(first + i) % all.size()]);
+    };
+
+    std::atomic<int> working{ 2 };
+    patch.postToScheduler ([&] {
+        for (int round = 0; round < rounds; ++round)
+            sendAll (all.size() / 3);
+        --working;
+    });
+    std::thread third ([&] {
+        for (int round = 0; round < rounds; ++round)
+            sendAll (2 * all.size() / 3);
+        --working;
+    });
+    for (std::size_t i = 0; working > 0 || i < all.size(); ++i) {
+        patch.send (*box, all[i % all.size()]);
+        patch.pump();
+    }
+    third.join();
+    settle();
+
+    const auto left = take (bench::Event::Kind::out, box->name);
+    EXPECT_GT (left.size(), 1000u);
+    for (const auto& event : left)
+        EXPECT_TRUE (event.onMainThread || event.outlet == 1) << bench::lineOf (event);
+    EXPECT_EQ (box.console(), Messages());
+    transcript();
+    box.send ("gain -7");
+    box.send ("source 1 xyz 1 0 0");
+    settle();
+    EXPECT_THAT (box.leftOutlet(), testing::Contains ("reverb gain -7."));
+    EXPECT_EQ (box.attribute ("sourcespositions").substr (0, 8), "1. 0. 0.");
 }

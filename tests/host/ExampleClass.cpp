@@ -230,7 +230,7 @@ void addAttributes (t_class* c)
 }
 }
 
-void example_main (void*)
+t_clong example_main (void*)
 {
     exampleClass = class_new ("bench.example", max_method (example_new), max_method (example_free), sizeof (t_example),
                               nullptr, A_GIMME, 0);
@@ -238,6 +238,7 @@ void example_main (void*)
     addMethods (exampleClass);
     addAttributes (exampleClass);
     class_register (CLASS_BOX, exampleClass);
+    return 0;
 }
 
 int exampleObjectsFreed() { return freed; }

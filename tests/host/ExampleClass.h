@@ -24,7 +24,7 @@ struct t_example
 };
 
 /** The entry point: registers "bench.example". */
-void example_main (void*);
+t_clong example_main (void*);
 
 /** How many objects of the class were freed so far. */
 int exampleObjectsFreed();

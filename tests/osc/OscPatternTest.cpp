@@ -34,7 +34,10 @@ constexpr MatchRow matchRows[] = {
     { "**", "", false }, // at the text's end only a last * holds
     { "a**", "a", false },
     { "a*{}", "a", false },
-    { "a*[]", "ab", false },
+    { "a*[]", "a", false },
+    { "*[]", "a", true }, // but a star may walk to the end
+    { "*{}", "a", true },
+    { "a*[]", "ab", true },
     { "*b*", "abc", true },
     { "*b*", "ab", true },
     // ?
@@ -154,9 +157,12 @@ bool matchByTrying (const std::string& pattern, const std::string& text)
 {
     if (pattern.empty())
         return text.empty();
-    if (pattern[0] == '*')
-        return text.empty() ? pattern.size() == 1
-                            : matchByTrying (pattern.substr (1), text) || matchByTrying (pattern, text.substr (1));
+    if (pattern[0] == '*') {
+        bool matches = text.empty() && pattern.size() == 1;
+        for (std::size_t taken = 0; ! text.empty() && taken <= text.size(); ++taken)
+            matches = matches || matchByTrying (pattern.substr (1), text.substr (taken));
+        return matches;
+    }
     if (pattern[0] == '[')
         return matchClassByTrying (pattern, text);
     if (pattern[0] == '{')

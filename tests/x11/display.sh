@@ -3,7 +3,7 @@
 
 fail() { echo "FAILED: $*" >&2; [ -f out ] && tail -n 15 out err >&2; exit 1; }
 
-for tool in Xvfb openbox xdotool wmctrl xwininfo xprop compare; do
+for tool in Xvfb openbox xdotool wmctrl xwininfo xprop compare convert; do
     command -v "$tool" >/dev/null || fail "$tool is missing"
 done
 [ -x "$PATCHBENCH" ] || fail "there is no program $PATCHBENCH"

@@ -82,7 +82,7 @@ void CairoScene::DrawFrame (const lumo::PlaneComponent& plane)
                      y = static_cast<double> (source.screenPosition.y);
         const double size = view.PixelSize (source.Proportion());
         DrawBall (c, x, y, size);
-        DrawLabel (c, x, y, source.label.toRawUTF8(), juce::jlimit (12.0, 20.0, size / 2));
+        DrawLabel (c, x, y, source.label.Text().toRawUTF8(), juce::jlimit (12.0, 20.0, size / 2));
     }
     cairo_surface_flush (surfaces->frame);
 }

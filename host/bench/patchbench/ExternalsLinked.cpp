@@ -1,6 +1,6 @@
 #include "host/bench/patchbench/Externals.h"
 
-MAX_EXPORT void ext_main (void*);
+MAX_EXPORT t_clong ext_main (void*);
 
 bench::Entry findExternal (const std::string& className)
 {

@@ -1,10 +1,6 @@
 #include "host/bench/window/GuiPump.h"
 
-namespace juce
-{
-// JUCE's own step of its message loop; false when there was nothing to do.
-bool dispatchNextMessageOnSystemQueue (bool returnIfNoPendingMessages);
-}
+#include <JucePrivateParts.h>
 
 bool pumpGui()
 {

@@ -44,9 +44,12 @@ juce::TabbedComponent* tabsIn (juce::Component& component)
     return nullptr;
 }
 
-/** With all that lies over it in its window, menus included, if it is on view. */
+/** With all that lies over it in its window, menus included, if it is on view. What OpenGL draws is not in JUCE's
+    reach: then the component paints itself once more, without. */
 juce::Image pictureOf (juce::Component& component)
 {
+    if (component.getCachedComponentImage() != nullptr)
+        return component.createComponentSnapshot (component.getLocalBounds());
     auto& top = component.isShowing() ? *component.getTopLevelComponent() : component;
     return top.createComponentSnapshot (top.getLocalArea (&component, component.getLocalBounds()));
 }
@@ -148,7 +151,12 @@ std::unique_ptr<NativeWindow> JuceWindowDriver::makeWindow (const void* object, 
             if (tell)
                 tell (const_cast<void*> (object), what);
         },
-        [this, object] { entries.erase (object); });
+        [this, object, component] {
+            // The object's place may be another's by now.
+            if (const auto entry = entries.find (object);
+                entry != entries.end() && entry->second.component == component)
+                entries.erase (entry);
+        });
 }
 
 JuceWindowDriver::Entry* JuceWindowDriver::find (void* object)

@@ -1,5 +1,7 @@
 #include "gui/plane/LumoComponent.h"
 
+#include <utility>
+
 namespace lumo
 {
 
@@ -9,9 +11,41 @@ namespace
 constexpr const char* openGLRendererName = "OpenGL Renderer";
 constexpr double smoothing = 0.1;
 
+/** JUCE leaves a new context current on the thread that draws for all windows. If the context goes before its first
+    frame, that thread lets go of it only when the next one is made current, long after it was freed. It makes the
+    context current again for each frame, so it need not be now. */
+struct ReleaseNewContext : juce::OpenGLRenderer
+{
+    void newOpenGLContextCreated() override { juce::OpenGLContext::deactivateCurrentContext(); }
+    void renderOpenGL() override {}
+    void openGLContextClosing() override {}
+};
+
+ReleaseNewContext releaseNewContext;
+
 double now() noexcept { return juce::Time::getMillisecondCounterHiRes(); }
 
 }
+
+/** Paints nothing, behind all children, and so learns of each frame: JUCE skips the paint of a component that its
+    children hide. */
+class Component::FrameMark : public juce::Component
+{
+public:
+    explicit FrameMark (lumo::Component& componentToTime) : owner (componentToTime)
+    {
+        constexpr int everywhere = 1 << 15;
+        setBounds (0, 0, everywhere, everywhere);
+        setInterceptsMouseClicks (false, false);
+        setAccessible (false);
+        setPaintingIsUnclipped (true);
+        owner.addAndMakeVisible (*this, 0);
+    }
+    void paint (juce::Graphics&) override { owner.BeginPaintTiming(); }
+
+private:
+    lumo::Component& owner;
+};
 
 Component::Component (const juce::String& name) : juce::Component (name) { applyLookAndFeel(); }
 
@@ -50,16 +84,26 @@ void Component::SetOpenGLEnabled (bool enabled)
 void Component::attachOpenGL()
 {
     const auto* peer = getPeer();
-    const bool canAttach = peer != nullptr && peer->getNativeHandle() != nullptr;
+    const bool canAttach = isVisible() && peer != nullptr && peer->getNativeHandle() != nullptr;
     if (! openGLIsWanted || ! canAttach || IsOpenGLEnabled())
         return;
-    if (openGLContext == nullptr)
+    if (openGLContext == nullptr) {
         openGLContext = std::make_unique<juce::OpenGLContext>();
+        openGLContext->setRenderer (&releaseNewContext);
+    }
     openGLContext->setContinuousRepainting (true);
     openGLContext->attachTo (*this);
 }
 
 void Component::parentHierarchyChanged() { attachOpenGL(); }
+
+void Component::visibilityChanged()
+{
+    if (isVisible())
+        attachOpenGL();
+    else if (openGLContext != nullptr)
+        openGLContext->detach();
+}
 
 bool Component::IsOpenGLEnabled() const noexcept
 {
@@ -71,18 +115,21 @@ void Component::SetShowFps (bool show)
     if (showFps == show)
         return;
     showFps = show;
+    isTiming = false;
+    frameMark = show ? std::make_unique<FrameMark> (*this) : nullptr;
     repaint();
 }
 
 void Component::BeginPaintTiming() noexcept
 {
-    if (showFps)
-        paintStartTime = now();
+    if (! showFps || std::exchange (isTiming, true))
+        return;
+    paintStartTime = now();
 }
 
 void Component::EndPaintTiming() noexcept
 {
-    if (! showFps)
+    if (! std::exchange (isTiming, false))
         return;
     const double end = now();
     const double sinceLast = end - lastPaintTime;
@@ -123,7 +170,7 @@ juce::Font Component::MakeFont (const juce::String& face, const juce::String& st
     return { face, height, flags };
 }
 
-juce::Font Component::MakeFont (float height) { return MakeFont ("Lucida Grande", "plain", height); }
+juce::Font Component::MakeFont (float height) { return { "Lucida Grande", height, juce::Font::plain }; }
 
 juce::Rectangle<int> Component::overlayArea() const
 {
@@ -135,6 +182,7 @@ juce::Rectangle<int> Component::overlayArea() const
 void Component::paintOverChildren (juce::Graphics& g)
 {
     const auto* parent = getParentComponent();
+    isTiming = false; // the frame is over, timed or not
     if (! showFps || (parent != nullptr && dynamic_cast<const juce::TopLevelWindow*> (parent) == nullptr))
         return;
     const auto area = overlayArea();

@@ -20,7 +20,8 @@ public:
     virtual void SetLookAndFeelVersion (const juce::String& text);
 
     /** While on, JUCE renders this component through OpenGL, frame after frame, in a native window. A window in memory
-        has nothing that OpenGL could draw on. */
+        has nothing that OpenGL could draw on. Hide the component before it leaves its window: a context that is
+        detached later leaves its listener in the window, which calls it when it is gone. */
     void SetOpenGLEnabled (bool enabled);
     /** True while a context is attached. */
     [[nodiscard]] bool IsOpenGLEnabled() const noexcept;
@@ -29,7 +30,8 @@ public:
     void SetShowFps (bool show);
     [[nodiscard]] bool GetShowFps() const noexcept { return showFps; }
 
-    /** A painter brackets its work with these two; they do nothing while the statistics are off. */
+    /** A painter brackets its work with these two; they do nothing while the statistics are off. One that ends in
+        paintOverChildren is timed from the start of the frame, also when its children hide all that it paints itself. */
     void BeginPaintTiming() noexcept;
     void EndPaintTiming() noexcept;
     /** Milliseconds that a paint takes, smoothed. */
@@ -49,6 +51,7 @@ public:
 
     void paintOverChildren (juce::Graphics& g) override;
     void parentHierarchyChanged() override;
+    void visibilityChanged() override;
 
 private:
     /** One instance of each look serves all components of the process. */
@@ -63,10 +66,14 @@ private:
     void applyLookAndFeel();
     void attachOpenGL();
 
+    class FrameMark;
+
     std::unique_ptr<juce::OpenGLContext> openGLContext;
+    std::unique_ptr<FrameMark> frameMark; // while the statistics are on
     LookAndFeelHolder lookAndFeelHolder;
     bool openGLIsWanted = false;
     bool showFps = false;
+    bool isTiming = false;
     double paintStartTime = 0, renderTime = 0, frameRate = 0, lastPaintTime = 0;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (Component)

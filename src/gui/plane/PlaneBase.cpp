@@ -76,10 +76,11 @@ void PlaneBase::SettingChanged()
     repaint();
 }
 
-void PlaneBase::RepaintUnlessGated()
+void PlaneBase::BeginFrame (const juce::Graphics& g)
 {
-    if (repaintMode == 0)
-        repaint();
+    surface.pixels = PixelGrid::Of (*this, g);
+    if (! surface.icons)
+        surface.icons.emplace();
 }
 
 void PlaneBase::SetNumber (float& stored, float value)
@@ -94,6 +95,15 @@ void PlaneBase::resized()
 {
     UpdateTransform();
     staticCache.Resize (getWidth(), getHeight());
+}
+
+void PlaneBase::parentHierarchyChanged()
+{
+    ComponentWithOscInterface::parentHierarchyChanged();
+    if (getPeer() != nullptr)
+        return;
+    staticCache.Release();
+    surface.icons.reset();
 }
 
 void PlaneBase::UpdateTransform()

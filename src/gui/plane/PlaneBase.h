@@ -100,6 +100,8 @@ public:
     qel::OSCBundle getOscState() override;
 
     void resized() override;
+    /** Out of its window it keeps no pictures. */
+    void parentHierarchyChanged() override;
 
 protected:
     /** Recomputes what the objects keep of the view. */
@@ -113,9 +115,10 @@ protected:
     /** Compares and stores; tells the listeners always, repaints only what changed. */
     template <typename Value>
     void SetOption (Value& stored, const Value& value);
-    /** How the setters that move objects end. */
-    void RepaintUnlessGated();
+    [[nodiscard]] bool SettersRepaint() const noexcept { return repaintMode == 0; }
     void MarkStaticLayerDirty() noexcept { staticCache.MarkDirty(); }
+    /** To be called as a frame begins. */
+    void BeginFrame (const juce::Graphics& g);
     /** Clamps and stores; false if that very zoom stands already or is locked. True for one that the limits bring back
         to what stands: whoever asked has to hear what it became. */
     bool StoreZoom (float zoom);

@@ -2,6 +2,7 @@
 
 #include "geometry/OrvaneDspLayouts.h"
 #include "gui/plane/objects/Positions.h"
+#include "gui/plane/painting/Extents.h"
 #include "gui/plane/painting/Foreground.h"
 #include "gui/plane/painting/StaticLayer.h"
 #include "gui/plane/view/AutoZoom.h"
@@ -50,47 +51,138 @@ void PlaneComponent::UpdateScreenPositions()
 void PlaneComponent::paint (juce::Graphics& g)
 {
     BeginPaintTiming();
+    BeginFrame (g);
+    const auto parts = changedParts.Take();
+    if (autoZoomRequested)
+        AutoZoomBeforePainting (g);
     if (surface.viewerVisible) {
-        UpdateBeforePainting();
-        const auto drawStaticLayer = [this] (juce::Graphics& target) { DrawStaticLayer (target, surface, scene); };
-        const auto colour = surface.background.colour;
-        if (colour.getFloatAlpha() < 0.99f)
-            drawStaticLayer (g);
-        else
-            g.drawImageAt (staticCache.Refresh (colour.isOpaque(), drawStaticLayer), 0, 0);
-        DrawForeground (g, surface, scene);
+        UpdateGeometryBeforePainting();
+        DrawParts (g, parts);
     } else {
         DrawBackground (g, surface);
     }
     EndPaintTiming();
 }
 
-/** Whatever has to change before a frame changes here, so that the layers only read. With OpenGL this is not the main
-    thread: then the listeners hear of it there, a little later. */
-void PlaneComponent::UpdateBeforePainting()
+/** Each part on its own: clipping every line and letter by several rectangles costs much more than it saves. Parts may
+    share pixels at their edges, so what lies behind must not show through. */
+void PlaneComponent::DrawParts (juce::Graphics& g, const juce::RectangleList<int>& parts)
 {
-    const auto tell = [this] (auto&& call) {
-        if (IsOpenGLEnabled())
-            juce::MessageManager::callAsync ([call, plane = juce::Component::SafePointer (this)] {
-                if (plane != nullptr)
-                    call (*plane);
-            });
-        else
-            call (*this);
-    };
-    if (autoZoomRequested && StoreZoom (FittingZoom (scene, surface.viewTransform)))
-        tell ([] (PlaneComponent& plane) { plane.NotifyOptionsChanged(); });
+    if (isOpaque() && parts.getNumRectangles() > 1)
+        for (const auto& part : parts) {
+            {
+                const juce::Graphics::ScopedSaveState state (g);
+                if (g.reduceClipRegion (part))
+                    DrawLayers (g);
+            }
+            g.excludeClipRegion (part);
+        }
+    if (! g.isClipEmpty())
+        DrawLayers (g);
+}
+
+void PlaneComponent::DrawLayers (juce::Graphics& g)
+{
+    const auto drawStaticLayer = [this] (juce::Graphics& target) { DrawStaticLayer (target, surface, scene); };
+    const auto colour = surface.background.colour;
+    if (colour.getFloatAlpha() < 0.99f)
+        drawStaticLayer (g);
+    else
+        staticCache.Draw (g, surface.pixels, colour.isOpaque(), drawStaticLayer);
+    DrawForeground (g, surface, scene);
+}
+
+void PlaneComponent::parentHierarchyChanged()
+{
+    PlaneBase::parentHierarchyChanged();
+    if (getPeer() == nullptr)
+        changedParts.Reset();
+}
+
+// Whatever has to change before a frame changes here, so that the layers only read.
+
+/** Calls with the plane; with OpenGL, where painting is not the main thread's, there and a little later. */
+template <typename Call>
+void PlaneComponent::TellFromPaint (Call&& call)
+{
+    if (! IsOpenGLEnabled())
+        return call (*this);
+    juce::MessageManager::callAsync ([call, plane = juce::Component::SafePointer (this)] {
+        if (plane != nullptr)
+            call (*plane);
+    });
+}
+
+void PlaneComponent::AutoZoomBeforePainting (const juce::Graphics& g)
+{
+    if (! StoreZoom (FittingZoom (scene, surface.viewTransform)))
+        return;
+    if (! g.getClipBounds().contains (getLocalBounds()))
+        repaint();
+    TellFromPaint ([] (PlaneComponent& plane) { plane.NotifyOptionsChanged(); });
+}
+
+void PlaneComponent::UpdateGeometryBeforePainting()
+{
     auto& geometry = scene.speakerGeometry;
     if (surface.options.hullVisible)
         geometry.UpdateHull (scene.speakers);
     if (surface.options.triangulationVisible)
         geometry.UpdateTriangulation (scene.speakers);
     if (surface.options.speakersProjectionVisible && geometry.UpdateProjection (scene.speakers))
-        tell ([] (PlaneComponent& plane) {
+        TellFromPaint ([] (PlaneComponent& plane) {
             plane.Notify ([&points = plane.scene.speakerGeometry.Projection()] (PlaneListener& l) {
                 l.SpeakersProjectionChanged (points);
             });
         });
+}
+
+juce::Rectangle<int> PlaneComponent::PartOf (const Source& source) const
+{
+    return changedParts.AreTheWhole() ? juce::Rectangle<int>() : ExtentOf (source, surface);
+}
+
+juce::Rectangle<int> PlaneComponent::PartOfSpeaker (std::size_t index) const
+{
+    if (changedParts.AreTheWhole() && staticCache.IsWhollyDirty())
+        return {};
+    return ExtentOf (scene.speakers[index], scene.selectedSpeaker == static_cast<int> (index), surface);
+}
+
+juce::Rectangle<int> PlaneComponent::PartOfListener() const
+{
+    if (changedParts.AreTheWhole() && staticCache.IsWhollyDirty())
+        return {};
+    return ExtentOf (surface.listener, surface);
+}
+
+void PlaneComponent::RepaintParts (juce::Rectangle<int> before, juce::Rectangle<int> after)
+{
+    if (changedParts.AreTheWhole())
+        return; // asked for already
+    if (before.intersects (after)) {
+        before = before.getUnion (after);
+        after = {};
+    }
+    for (const auto& part : { before, after })
+        if (const auto shown = part.getIntersection (getLocalBounds()); ! shown.isEmpty()) {
+            changedParts.Add (shown);
+            if (changedParts.AreTheWhole() || autoZoomRequested)
+                return repaint();
+            repaint (shown);
+        }
+}
+
+void PlaneComponent::MarkStaticParts (juce::Rectangle<int> before, juce::Rectangle<int> after)
+{
+    staticCache.MarkDirty (before);
+    staticCache.MarkDirty (after);
+}
+
+void PlaneComponent::RepaintMove (juce::Rectangle<int> before, juce::Rectangle<int> after)
+{
+    if (SettersRepaint())
+        RepaintParts (before, after);
 }
 
 void PlaneComponent::RequestAutoZoom (bool on)

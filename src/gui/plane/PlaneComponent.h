@@ -3,6 +3,7 @@
 #include "gui/plane/PlaneBase.h"
 #include "gui/plane/interaction/Pointer.h"
 #include "gui/plane/objects/Scene.h"
+#include "gui/plane/view/ChangedParts.h"
 
 namespace lumo
 {
@@ -61,7 +62,7 @@ public:
     void SetSourceRadius (std::size_t index, float metres, bool notify);
     void SetAllSourcesRadius (float metres);
     void SetRadiusVisible (bool visible);
-    /** -60 to 6 dB. Levels do not repaint: the host does, at its own rate. */
+    /** -60 to 6 dB. */
     void SetSourceLevel (std::size_t index, float decibels);
     void SetSourcesLevels (const qel::Vector<float>& decibels);
 
@@ -161,6 +162,7 @@ public:
     qel::OSCBundle getOscState() override;
 
     void paint (juce::Graphics& g) override;
+    void parentHierarchyChanged() override;
     void mouseDown (const juce::MouseEvent& event) override;
     void mouseDrag (const juce::MouseEvent& event) override;
     void mouseUp (const juce::MouseEvent& event) override;
@@ -175,7 +177,17 @@ private:
     [[nodiscard]] Plane::Source* SourceAt (std::size_t index);
     template <typename Change>
     void ChangeSource (std::size_t index, Change&& change);
-    void FinishSourceMove (std::size_t index, bool notify);
+    void FinishSourceMove (std::size_t index, juce::Rectangle<int> before, bool notify);
+
+    /** What a source, a speaker or the listener takes of the picture; empty while nobody needs to know. */
+    [[nodiscard]] juce::Rectangle<int> PartOf (const Plane::Source& source) const;
+    [[nodiscard]] juce::Rectangle<int> PartOfSpeaker (std::size_t index) const;
+    [[nodiscard]] juce::Rectangle<int> PartOfListener() const;
+    /** What a change of one object touched, before and after. Many changes between two frames repaint the whole once. */
+    void RepaintParts (juce::Rectangle<int> before, juce::Rectangle<int> after);
+    /** How the setters that move objects end. */
+    void RepaintMove (juce::Rectangle<int> before, juce::Rectangle<int> after);
+    void MarkStaticParts (juce::Rectangle<int> before, juce::Rectangle<int> after);
     void FinishSourcesEditable (bool notify);
     void UpdateSourceYaw (std::size_t index, bool report);
 
@@ -185,9 +197,12 @@ private:
     [[nodiscard]] bool StoreSpeakerPosition (std::size_t index, const qel::Point3& position);
     void FinishSpeakersMove (bool notify);
     void SpeakersMoved();
+    /** Whether anything is drawn that hangs on where all speakers stand. */
+    [[nodiscard]] bool ShowsSpeakerGeometry() const noexcept;
 
     void SetListenerAngle (float& stored, float degrees, bool notify, void (PlaneListener::*told) (float));
-    void ListenerChanged();
+    template <typename Change>
+    void ChangeListener (Change&& change);
 
     template <typename Change>
     void ChangeArea (std::size_t index, Change&& change);
@@ -196,7 +211,12 @@ private:
     void ReportSpeakerAreas (std::size_t index);
     void ReportListenerAreas();
 
-    void UpdateBeforePainting();
+    void AutoZoomBeforePainting (const juce::Graphics& g);
+    void UpdateGeometryBeforePainting();
+    void DrawLayers (juce::Graphics& g);
+    void DrawParts (juce::Graphics& g, const juce::RectangleList<int>& parts);
+    template <typename Call>
+    void TellFromPaint (Call&& call);
     void ApplySnapshot (qel::Point3Array points);
     void NotifySelectionChanged();
     void DeselectAllSources();
@@ -222,6 +242,7 @@ private:
     qel::CoordinatesSnapshotStore snapshots;
     bool listenerEnabled = true;
     bool autoZoomRequested = false;
+    Plane::ChangedParts changedParts;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (PlaneComponent)
 };

@@ -9,24 +9,28 @@ namespace lumo
 using namespace Plane;
 
 /** The listener that nobody can drag stands in the static layer. */
-void PlaneComponent::ListenerChanged()
+template <typename Change>
+void PlaneComponent::ChangeListener (Change&& change)
 {
+    const auto before = PartOfListener();
+    change (surface.listener);
+    const auto after = PartOfListener();
     if (! surface.listener.editable)
-        MarkStaticLayerDirty();
-    RepaintUnlessGated();
+        MarkStaticParts (before, after);
+    RepaintMove (before, after);
 }
 
 void PlaneComponent::SetListenerPosition (const qel::Point3& position, bool notify)
 {
-    auto& listener = surface.listener;
     if (! listenerEnabled || ! qel::isFinite (position))
         return;
-    listener.position = position;
-    listener.screenPosition = surface.viewTransform.ToScreen (position);
+    ChangeListener ([&] (Plane::Listener& listener) {
+        listener.position = position;
+        listener.screenPosition = surface.viewTransform.ToScreen (position);
+    });
     ReportListenerAreas();
     if (notify)
         Notify ([&, position] (PlaneListener& l) { l.ListenerPositionChanged (position, *this); });
-    ListenerChanged();
 }
 
 void PlaneComponent::SetListenerAngle (float& stored, float degrees, bool notify, void (PlaneListener::*told) (float))
@@ -34,10 +38,9 @@ void PlaneComponent::SetListenerAngle (float& stored, float degrees, bool notify
     if (! listenerEnabled || ! AreFinite (degrees))
         return;
     const float wrapped = Orientation::WrapDegrees (degrees);
-    stored = wrapped * qel::radiansPerDegree;
+    ChangeListener ([&] (Plane::Listener&) { stored = wrapped * qel::radiansPerDegree; });
     if (notify)
         Notify ([&] (PlaneListener& l) { (l.*told) (wrapped); });
-    ListenerChanged();
 }
 
 void PlaneComponent::SetListenerYaw (float degrees, bool notify)
@@ -62,12 +65,13 @@ void PlaneComponent::SetListenerOrientation (float yaw, float pitch, float roll,
     yaw = Orientation::WrapDegrees (yaw);
     pitch = Orientation::WrapDegrees (pitch);
     roll = Orientation::WrapDegrees (roll);
-    surface.listener.yaw = yaw * qel::radiansPerDegree;
-    surface.listener.pitch = pitch * qel::radiansPerDegree;
-    surface.listener.roll = roll * qel::radiansPerDegree;
+    ChangeListener ([&] (Plane::Listener& listener) {
+        listener.yaw = yaw * qel::radiansPerDegree;
+        listener.pitch = pitch * qel::radiansPerDegree;
+        listener.roll = roll * qel::radiansPerDegree;
+    });
     if (notify)
         Notify ([&] (PlaneListener& l) { l.ListenerOrientationChanged (yaw, pitch, roll); });
-    ListenerChanged();
 }
 
 void PlaneComponent::RestoreListener (const qel::Point3& position, float yaw, float pitch, float roll)

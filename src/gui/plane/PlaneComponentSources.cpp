@@ -4,6 +4,7 @@
 #include "gui/plane/PlaneComponent.h"
 #include "gui/plane/Text.h"
 #include "gui/plane/objects/Limits.h"
+#include "gui/plane/painting/Extents.h"
 #include "gui/plane/view/Finite.h"
 
 namespace lumo
@@ -16,6 +17,16 @@ Source* PlaneComponent::SourceAt (std::size_t index)
     return index < scene.sources.size() ? &scene.sources[index] : nullptr;
 }
 
+template <typename Change>
+void PlaneComponent::ChangeSource (std::size_t index, Change&& change)
+{
+    if (auto* source = SourceAt (index)) {
+        const auto before = PartOf (*source);
+        change (*source);
+        RepaintParts (before, PartOf (*source));
+    }
+}
+
 void PlaneComponent::SetNumSources (std::size_t number, bool notify)
 {
     const auto before = scene.sources.size();
@@ -26,7 +37,7 @@ void PlaneComponent::SetNumSources (std::size_t number, bool notify)
         scene.sources.erase (scene.sources.size() - 1);
     for (auto i = before; i < number; ++i) {
         scene.sources.push_back (Source (static_cast<int> (i) + 1));
-        FinishSourceMove (i, false);
+        FinishSourceMove (i, {}, false);
     }
     surface.options.sourcesEditable = scene.AllSourcesEditable();
     if (notify)
@@ -46,15 +57,16 @@ void PlaneComponent::SetSourcePosition (std::size_t index, const qel::Point3& po
     auto* source = SourceAt (index);
     if (source == nullptr || ! qel::isFinite (position))
         return;
+    const auto before = PartOf (*source);
     const auto kept = qel::withDistance (position, qel::distance (source->position));
     const auto wanted = surface.options.radiusConstraint ? kept : position;
     if (qel::isFinite (wanted))
         source->position = wanted;
-    FinishSourceMove (index, notify);
+    FinishSourceMove (index, before, notify);
 }
 
 /** What every move of a source ends with, whether it moved or not. */
-void PlaneComponent::FinishSourceMove (std::size_t index, bool notify)
+void PlaneComponent::FinishSourceMove (std::size_t index, juce::Rectangle<int> before, bool notify)
 {
     auto& source = scene.sources[index];
     source.screenPosition = surface.viewTransform.ToScreen (source.position);
@@ -63,7 +75,8 @@ void PlaneComponent::FinishSourceMove (std::size_t index, bool notify)
     UpdateSourceYaw (index, true);
     if (notify)
         Notify ([&] (PlaneListener& l) { l.SourcePositionChanged (index, position); });
-    RepaintUnlessGated();
+    if (const auto* moved = SourceAt (index)) // a listener may have changed their number
+        RepaintMove (before, PartOf (*moved));
 }
 
 void PlaneComponent::SetSourceDistance (std::size_t index, float metres, bool notify)
@@ -72,7 +85,7 @@ void PlaneComponent::SetSourceDistance (std::size_t index, float metres, bool no
     if (source == nullptr || ! AreFinite (metres))
         return;
     if (surface.options.radiusConstraint)
-        FinishSourceMove (index, notify);
+        FinishSourceMove (index, PartOf (*source), notify);
     else
         SetSourcePosition (index, qel::withDistance (source->position, metres), notify);
 }
@@ -123,11 +136,13 @@ void PlaneComponent::SetSourceYaw (std::size_t index, float degrees, bool notify
     auto* source = SourceAt (index);
     if (source == nullptr || ! AreFinite (degrees))
         return;
+    const auto before = PartOf (*source);
     source->SetYaw (degrees);
     UpdateSourceYaw (index, false);
     if (notify)
         Notify ([&, yaw = source->YawDegrees()] (PlaneListener& l) { l.SourceYawChanged (index, yaw); });
-    RepaintUnlessGated();
+    if (const auto* turned = SourceAt (index))
+        RepaintMove (before, PartOf (*turned));
 }
 
 void PlaneComponent::SetSourceYawMode (std::size_t index, const qel::String& name)
@@ -140,10 +155,11 @@ void PlaneComponent::SetSourceYawMode (std::size_t index, Orientation::Mode mode
     auto* source = SourceAt (index);
     if (source == nullptr || source->yawMode == mode)
         return;
+    const auto before = PartOf (*source);
     source->yawMode = mode;
-    if (source->apertureVisible)
-        repaint();
     UpdateSourceYaw (index, true);
+    if (const auto* turned = SourceAt (index))
+        RepaintParts (before, PartOf (*turned));
 }
 
 void PlaneComponent::SetSourceLookAt (std::size_t index, const qel::Point3& target, bool notify)
@@ -157,13 +173,12 @@ void PlaneComponent::SetSourceLookAt (std::size_t index, const qel::Point3& targ
 
 void PlaneComponent::SetSourceAperture (std::size_t index, float degrees, bool notify)
 {
-    auto* source = SourceAt (index);
+    const auto* source = SourceAt (index);
     if (source == nullptr || ! AreFinite (degrees))
         return;
-    source->SetApertureDegrees (degrees);
+    ChangeSource (index, [&] (Source& s) { s.SetApertureDegrees (degrees); });
     if (notify)
         Notify ([&, angle = source->ApertureDegrees()] (PlaneListener& l) { l.SourceApertureChanged (index, angle); });
-    repaint();
 }
 
 void PlaneComponent::SetSourceApertureVisible (std::size_t index, bool visible)
@@ -204,20 +219,11 @@ void PlaneComponent::RestoreSource (std::size_t index, const SourcePose& pose)
 
 // ---- Looks
 
-template <typename Change>
-void PlaneComponent::ChangeSource (std::size_t index, Change&& change)
-{
-    if (auto* source = SourceAt (index)) {
-        change (*source);
-        repaint();
-    }
-}
-
 void PlaneComponent::SetSourceLabel (std::size_t index, const qel::String& label, bool notify)
 {
     if (SourceAt (index) == nullptr)
         return;
-    ChangeSource (index, [&] (Source& s) { s.label = FromCore (label); });
+    ChangeSource (index, [&] (Source& s) { s.label.Set (FromCore (label)); });
     if (notify)
         Notify ([&] (PlaneListener& l) { l.SourceLabelChanged (index, label); });
 }
@@ -332,8 +338,11 @@ void PlaneComponent::SetRadiusVisible (bool visible) { SetOption (surface.option
 
 void PlaneComponent::SetSourceLevel (std::size_t index, float decibels)
 {
-    if (auto* source = SourceAt (index); source != nullptr && ! std::isnan (decibels))
-        source->level = ClampLevel (decibels);
+    auto* source = SourceAt (index);
+    if (source == nullptr || ! StoreLevel (source->level, decibels))
+        return;
+    if (const auto meter = WithRoom (MeterOf (*source, surface.viewTransform)); surface.options.sourcesLevelsVisible)
+        RepaintMove (meter, meter);
 }
 
 void PlaneComponent::SetSourcesLevels (const qel::Vector<float>& decibels)

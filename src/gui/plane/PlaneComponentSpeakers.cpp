@@ -3,6 +3,7 @@
 #include "gui/plane/Text.h"
 #include "gui/plane/objects/Limits.h"
 #include "gui/plane/objects/Positions.h"
+#include "gui/plane/painting/Extents.h"
 #include "gui/plane/view/Finite.h"
 
 namespace lumo
@@ -13,6 +14,22 @@ using namespace Plane;
 Speaker* PlaneComponent::SpeakerAt (std::size_t index)
 {
     return index < scene.speakers.size() ? &scene.speakers[index] : nullptr;
+}
+
+template <typename Change>
+void PlaneComponent::ChangeSpeaker (std::size_t index, Change&& change)
+{
+    if (auto* speaker = SpeakerAt (index)) {
+        const auto before = PartOfSpeaker (index);
+        change (*speaker);
+        const auto after = PartOfSpeaker (index);
+        MarkStaticParts (before, after);
+        RepaintParts (before, after);
+        if (surface.options.speakersProjectionVisible) { // the projected speaker changes as well
+            MarkStaticLayerDirty();
+            repaint();
+        }
+    }
 }
 
 void PlaneComponent::SetNumSpeakers (std::size_t number, bool notify)
@@ -30,6 +47,7 @@ void PlaneComponent::SetNumSpeakers (std::size_t number, bool notify)
     surface.options.speakersEditable = scene.AllSpeakersEditable();
     SpeakersMoved();
     UpdateScreenPositions();
+    MarkStaticLayerDirty();
     if (notify)
         NotifyOptionsChanged();
     repaint();
@@ -60,8 +78,15 @@ bool PlaneComponent::StoreSpeakerPosition (std::size_t index, const qel::Point3&
     auto* speaker = SpeakerAt (index);
     if (speaker == nullptr || ! qel::isFinite (position))
         return false;
+    const auto before = PartOfSpeaker (index);
+    const bool moves = ! (speaker->position == position);
     speaker->position = position;
     speaker->screenPosition = surface.viewTransform.ToScreen (position);
+    if (moves && ! ShowsSpeakerGeometry()) {
+        const auto after = PartOfSpeaker (index);
+        MarkStaticParts (before, after);
+        RepaintMove (before, after);
+    }
     ReportSpeakerAreas (index);
     return true;
 }
@@ -72,7 +97,18 @@ void PlaneComponent::FinishSpeakersMove (bool notify)
     if (notify)
         Notify (
             [positions = PositionsOf (scene.speakers)] (PlaneListener& l) { l.SpeakersPositionsChanged (positions); });
-    RepaintUnlessGated();
+    if (! ShowsSpeakerGeometry())
+        return; // what moved has been asked for
+    MarkStaticLayerDirty();
+    if (SettersRepaint())
+        repaint();
+}
+
+bool PlaneComponent::ShowsSpeakerGeometry() const noexcept
+{
+    const auto& options = surface.options;
+    return options.hullVisible || options.triangulationVisible || options.speakersRadiusVisible ||
+           options.speakersProjectionVisible;
 }
 
 void PlaneComponent::SpeakersMoved()
@@ -80,26 +116,15 @@ void PlaneComponent::SpeakersMoved()
     scene.speakerGeometry.SpeakersMoved();
     if (surface.options.speakersRadiusVisible)
         scene.speakerGeometry.UpdateRadius (scene.speakers);
-    MarkStaticLayerDirty();
 }
 
 // ---- Looks
-
-template <typename Change>
-void PlaneComponent::ChangeSpeaker (std::size_t index, Change&& change)
-{
-    if (auto* speaker = SpeakerAt (index)) {
-        change (*speaker);
-        MarkStaticLayerDirty();
-        repaint();
-    }
-}
 
 void PlaneComponent::SetSpeakerName (std::size_t index, const qel::String& name, bool notify)
 {
     if (SpeakerAt (index) == nullptr)
         return;
-    ChangeSpeaker (index, [&] (Speaker& s) { s.name = FromCore (name); });
+    ChangeSpeaker (index, [&] (Speaker& s) { s.name.Set (FromCore (name)); });
     if (notify)
         Notify ([&] (PlaneListener& l) { l.SpeakerNameChanged (index, name); });
 }
@@ -126,7 +151,7 @@ void PlaneComponent::SetSpeakerColour (std::size_t index, float red, float green
     const auto colour = ColourFrom (red, green, blue, alpha);
     if (! colour || SpeakerAt (index) == nullptr)
         return;
-    ChangeSpeaker (index, [&] (Speaker& s) { s.SetColour (*colour); });
+    ChangeSpeaker (index, [&] (Speaker& s) { s.colour = *colour; });
     if (notify)
         Notify ([&] (PlaneListener& l) { l.SpeakerColourChanged (index, red, green, blue, alpha); });
 }
@@ -186,8 +211,11 @@ void PlaneComponent::SetAllSpeakersProportion (float proportion)
 
 void PlaneComponent::SetSpeakerLevel (std::size_t index, float decibels)
 {
-    if (auto* speaker = SpeakerAt (index); speaker != nullptr && ! std::isnan (decibels))
-        speaker->level = ClampLevel (decibels);
+    auto* speaker = SpeakerAt (index);
+    if (speaker == nullptr || ! StoreLevel (speaker->level, decibels))
+        return;
+    if (const auto meter = WithRoom (MeterOf (*speaker, surface.viewTransform)); surface.options.speakersLevelsVisible)
+        RepaintMove (meter, meter);
 }
 
 void PlaneComponent::SetSpeakersLevels (const qel::Vector<float>& decibels)

@@ -1,13 +1,9 @@
 #define JUCE_GUI_BASICS_INCLUDE_XHEADERS 1
 #include "max/window/OffscreenDesktop.h"
 
-#include <cstdlib>
+#include <JucePrivateParts.h>
 
-namespace juce
-{
-// Stands beside JUCE's Linux windows, in the unit that compiles them.
-void setForegroundProcess (bool isForeground);
-}
+#include <cstdlib>
 
 namespace OffscreenDesktop
 {

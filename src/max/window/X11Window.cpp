@@ -1,6 +1,8 @@
 #define JUCE_GUI_BASICS_INCLUDE_XHEADERS 1
 #include "max/window/X11Window.h"
 
+#include <JucePrivateParts.h>
+
 namespace
 {
 

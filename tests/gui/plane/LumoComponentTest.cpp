@@ -64,6 +64,40 @@ TEST (LumoComponent, TimesItsPaintsOnlyWhileTheStatisticsAreOn)
     EXPECT_GT (component.GetFrameRate(), 0);
 }
 
+/** Times all of its frame, of which it paints nothing itself. */
+struct Covered : lumo::Component
+{
+    Covered() : lumo::Component ("covered")
+    {
+        setSize (400, 200);
+        setOpaque (true);
+        cover.setSize (400, 200);
+        addAndMakeVisible (cover);
+    }
+    void paint (juce::Graphics&) override { BeginPaintTiming(); }
+    void paintOverChildren (juce::Graphics& g) override
+    {
+        EndPaintTiming();
+        lumo::Component::paintOverChildren (g);
+    }
+    Timed cover;
+};
+
+TEST (LumoComponent, TimesAFrameFromItsStartThoughChildrenHideAllOfIt)
+{
+    Covered component;
+    Stage stage (component);
+    component.SetShowFps (true);
+    (void)stage.picture();
+    const auto start = juce::Time::getMillisecondCounterHiRes();
+    while (juce::Time::getMillisecondCounterHiRes() < start + 300) {
+    }
+    component.cover.repaint();
+    (void)stage.picture();
+    EXPECT_GT (component.GetRenderTime(), 0);
+    EXPECT_LT (component.GetRenderTime(), 20) << "a tenth of 300 ms would be 30: the time between two frames";
+}
+
 TEST (LumoComponent, ShowsTheOverlayInTheTopRightQuarterOfASmallWindow)
 {
     Timed component;

@@ -175,6 +175,11 @@ struct WheelRow
     int keys;
     bool apertureVisible;
     const char* told; // "" if the wheel zooms
+
+    friend std::ostream& operator<< (std::ostream& out, const WheelRow& row)
+    {
+        return out << "keys " << row.keys << (row.apertureVisible ? " with apertures" : " without apertures");
+    }
 };
 
 class PlaneWheel : public PlaneOnStage, public testing::WithParamInterface<WheelRow>

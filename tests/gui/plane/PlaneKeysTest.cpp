@@ -11,6 +11,11 @@ struct KeyRow
 {
     int code, modifiers;
     std::vector<std::string> told;
+
+    friend std::ostream& operator<< (std::ostream& out, const KeyRow& row)
+    {
+        return out << "code " << row.code << " with " << row.modifiers;
+    }
 };
 
 class PlaneKeys : public PlaneOnStage, public testing::WithParamInterface<KeyRow>
@@ -24,17 +29,17 @@ TEST_P (PlaneKeys, DoWhatTheTableSays)
 
 INSTANTIATE_TEST_SUITE_P (
     Rows, PlaneKeys,
-    testing::Values (KeyRow{ 'w', Keys::ctrlModifier, { "command 0" } },
-                     KeyRow{ '+', Keys::ctrlModifier, { "command 2" } },
-                     KeyRow{ ',', Keys::ctrlModifier, { "command 2" } },
-                     KeyRow{ '-', Keys::ctrlModifier, { "command 3" } }, KeyRow{ 'm', 0, { "command 13" } },
-                     KeyRow{ '+', 0, { "options" } }, KeyRow{ '+', Keys::shiftModifier, { "options" } },
-                     KeyRow{ '-', 0, { "options" } }, KeyRow{ '=', 0, {} }, KeyRow{ 'a', 0, { "options" } },
-                     KeyRow{ 's', 0, { "options" } }, KeyRow{ 'l', 0, { "options" } }, KeyRow{ 'c', 0, { "options" } },
-                     KeyRow{ 'v', 0, { "options" } }, KeyRow{ 'g', 0, { "options" } },
-                     KeyRow{ 'a', Keys::ctrlModifier, { "selection 1111" } },
-                     KeyRow{ juce::KeyPress::tabKey, 0, { "selection 1000" } },
-                     KeyRow{ juce::KeyPress::rightKey, 0, {} }, KeyRow{ juce::KeyPress::upKey, 0, {} }));
+    testing::Values (
+        KeyRow{ 'w', Keys::ctrlModifier, { "command 0" } }, KeyRow{ '+', Keys::ctrlModifier, { "command 2" } },
+        KeyRow{ ',', Keys::ctrlModifier, { "command 2" } }, KeyRow{ '-', Keys::ctrlModifier, { "command 3" } },
+        KeyRow{ 0xAD, Keys::ctrlModifier, { "command 3" } }, // the numeric pad's, on X11
+        KeyRow{ 0xAD, 0, { "options" } }, KeyRow{ 'm', 0, { "command 13" } }, KeyRow{ '+', 0, { "options" } },
+        KeyRow{ '+', Keys::shiftModifier, { "options" } }, KeyRow{ '-', 0, { "options" } }, KeyRow{ '=', 0, {} },
+        KeyRow{ 'a', 0, { "options" } }, KeyRow{ 's', 0, { "options" } }, KeyRow{ 'l', 0, { "options" } },
+        KeyRow{ 'c', 0, { "options" } }, KeyRow{ 'v', 0, { "options" } }, KeyRow{ 'g', 0, { "options" } },
+        KeyRow{ 'a', Keys::ctrlModifier, { "selection 1111" } },
+        KeyRow{ juce::KeyPress::tabKey, 0, { "selection 1000" } }, KeyRow{ juce::KeyPress::rightKey, 0, {} },
+        KeyRow{ juce::KeyPress::upKey, 0, {} }));
 
 TEST_F (PlaneOnStage, KeysOutsideTheTableTravelOn)
 {

@@ -183,6 +183,22 @@ TEST (PlaneLayers, StandWhereTheirMetresAre)
     }
 }
 
+/** The cross would strike it through otherwise. */
+TEST (PlaneLayers, AnAnchorsNameHangsBelowItsCross)
+{
+    PlaneComponent plane (0, 0, 300);
+    Bare (plane).SetNumAnchors (1);
+    plane.SetAnchorPosition (0, { 0.5f, -0.5f, 0 });
+    plane.SetAnchorName (0, "WW");
+    plane.SetAnchorsVisible (true);
+    const auto without = Picture (plane);
+    plane.SetAnchorsLabelVisible (true);
+    const auto found = Difference (without, Picture (plane));
+    EXPECT_TRUE (juce::Rectangle<int> (217, 217, 45, 45).contains (found)) << found.toString();
+    EXPECT_NEAR (found.getCentreX(), 217 + 22, 2);
+    EXPECT_NEAR (found.getCentreY(), 217 + 22, 3);
+}
+
 /** How large letters are is the platform's affair. */
 TEST (PlaneLayers, TheLegendIsNeverCutShort)
 {

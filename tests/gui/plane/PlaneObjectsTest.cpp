@@ -27,7 +27,7 @@ TEST (PlaneSources, StandInARingFromTheFrontClockwise)
     PlaneComponent plane (4, 0, 300);
     ExpectNear (plane.GetSourcePosition (0), { 0, 1, 0 });
     ExpectNear (plane.GetSourcePosition (1), { 1, 0, 0 });
-    EXPECT_EQ (plane.GetScene().sources[3].label, "4");
+    EXPECT_EQ (plane.GetScene().sources[3].label.Text(), "4");
 }
 
 TEST (PlaneSources, AreAtMost256AndNewOnesStandAtTheOrigin)
@@ -94,6 +94,11 @@ struct YawRow
 {
     const char* mode;
     float wanted, stored;
+
+    friend std::ostream& operator<< (std::ostream& out, const YawRow& row)
+    {
+        return out << row.mode << " " << row.wanted;
+    }
 };
 
 class PlaneYaw : public testing::TestWithParam<YawRow>
@@ -133,6 +138,11 @@ struct LookRow
 {
     Point3 source, target;
     float yaw;
+
+    friend std::ostream& operator<< (std::ostream& out, const LookRow& row)
+    {
+        return out << "from " << row.source.x << " " << row.source.y << " to " << row.target.x << " " << row.target.y;
+    }
 };
 
 class PlaneLookAt : public testing::TestWithParam<LookRow>
@@ -273,15 +283,6 @@ TEST (PlaneSnapshots, AreStoredRecalledAndMixed)
     EXPECT_THAT (heard.Take(), IsEmpty());
     plane.RemoveSnapshot ("ring");
     EXPECT_EQ (plane.GetSnapshotNames(), qel::Vector<qel::String>{ "far" });
-}
-
-TEST (PlaneIcons, ARepeatedColourBuildsNoNewIcon)
-{
-    PlaneComponent plane (1, 1, 300);
-    plane.SetSourceColour (0, 1, 0, 0, 1, false);
-    const auto* red = &plane.GetScene().sources[0].Icon();
-    plane.SetSourceColour (0, 1, 0, 0, 1, false);
-    EXPECT_EQ (&plane.GetScene().sources[0].Icon(), red);
 }
 
 TEST (PlaneListeners, HearInTheOrderOfAddingAndMayLeaveDuringACall)

@@ -85,6 +85,7 @@ TEST (PlaneOsc, OnlyAxisAndLegendCanBeWritten)
         { to ("/axis/visible").add (1.0f), false },
         { to ("/axis/visible").add (true).add (true), false },
         { to ("/axis").add (true), false },
+        { to ("/*/visible").add (true), false },
         { to ("/grid/mode").add ("square"), false },
         { to ("/source/1/visible").add (false), false },
     };

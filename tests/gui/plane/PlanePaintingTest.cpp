@@ -26,6 +26,16 @@ TEST (PlanePainting, ABackgroundHasItsFrame)
     EXPECT_EQ (picture.getPixelAt (150, 150), grey) << "no objects while the viewer is hidden";
 }
 
+TEST (PlanePainting, AHiddenViewerZoomsOnItsOwnToo)
+{
+    PlaneComponent plane (1, 0, 300);
+    plane.SetViewerVisible (false);
+    plane.SetSourcePosition (0, { 4, 0, 0 }, false);
+    plane.RequestAutoZoom (true);
+    static_cast<void> (Picture (plane));
+    EXPECT_LT (plane.GetSurface().viewTransform.zoom, 0.5f);
+}
+
 TEST (PlanePainting, ATransparentBackgroundShowsWhatLiesBehind)
 {
     PlaneComponent plane (0, 0, 300);
@@ -206,6 +216,8 @@ struct CoordinatesRow
     qel::Point3 position;
     bool circular, topView;
     const char* text;
+
+    friend std::ostream& operator<< (std::ostream& out, const CoordinatesRow& row) { return out << row.text; }
 };
 
 class PlaneCoordinates : public testing::TestWithParam<CoordinatesRow>

@@ -83,6 +83,8 @@ TEST (PlaneView, FarPointsStayWithinWhatARasteriserCanCount)
 struct ZoomRow
 {
     float wanted, stored;
+
+    friend std::ostream& operator<< (std::ostream& out, const ZoomRow& row) { return out << row.wanted; }
 };
 
 class PlaneZoom : public testing::TestWithParam<ZoomRow>

@@ -110,6 +110,14 @@ public:
     BenchTestInBothModes() : BenchTest (GetParam()) {}
 };
 
+namespace bench
+{
+inline void PrintTo (DeferMedium mode, std::ostream* out)
+{
+    *out << (mode == DeferMedium::queue ? "queued" : "at once");
+}
+}
+
 inline const auto bothDeferModes = testing::Values (bench::DeferMedium::queue, bench::DeferMedium::now);
 
 inline std::string deferModeName (const testing::TestParamInfo<bench::DeferMedium>& info)

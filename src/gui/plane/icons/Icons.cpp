@@ -98,6 +98,26 @@ juce::XmlElement HeadIcon (HeadKind kind)
     return svg.Take();
 }
 
+std::uint64_t Icon::Key() const noexcept
+{
+    const std::uint64_t look = kind == Kind::head ? static_cast<std::uint32_t> (headKind) : colour.getARGB();
+    return static_cast<std::uint64_t> (kind) << 32 | look;
+}
+
+juce::XmlElement DocumentOf (const Icon& icon)
+{
+    switch (icon.kind) {
+    case Icon::Kind::source:
+    case Icon::Kind::fixedSource:
+        return SourceIcon (icon.colour, icon.kind == Icon::Kind::source);
+    case Icon::Kind::speaker:
+        return SpeakerIcon (icon.colour);
+    case Icon::Kind::head:
+        break;
+    }
+    return HeadIcon (icon.headKind);
+}
+
 juce::String SvgText (const juce::XmlElement& document)
 {
     juce::XmlElement::TextFormat format;

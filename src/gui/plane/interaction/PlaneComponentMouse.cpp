@@ -165,7 +165,8 @@ void PlaneComponent::mouseDrag (const juce::MouseEvent& event)
     } else {
         setMouseCursor (juce::MouseCursor::NormalCursor);
     }
-    repaint();
+    if (! SettersRepaint()) // else what moved has asked for its part
+        repaint();
 }
 
 void PlaneComponent::DragLasso (juce::Point<float> pixels)

@@ -80,17 +80,20 @@ const auto& Rows()
     constexpr int plain = juce::ModifierKeys::noModifiers;
     constexpr int ctrl = juce::ModifierKeys::ctrlModifier;
     constexpr int shift = juce::ModifierKeys::shiftModifier;
+    constexpr int softHyphen = 0xAD; // what JUCE makes of the numeric pad's minus on X11
     static const std::array rows{
         Row{ 'w', ctrl, Command<0> }, // asks to close the window
         Row{ KeyPress::numberPadAdd, ctrl, Command<2> },
         Row{ '+', ctrl, Command<2> },
         Row{ ',', ctrl, Command<2> },
         Row{ KeyPress::numberPadSubtract, ctrl, Command<3> },
+        Row{ softHyphen, ctrl, Command<3> },
         Row{ '-', ctrl, Command<3> },
         Row{ KeyPress::numberPadAdd, plain, Zoom<1> },
         Row{ '+', plain, Zoom<1> },
         Row{ '+', shift, Zoom<1> },
         Row{ KeyPress::numberPadSubtract, plain, Zoom<-1> },
+        Row{ softHyphen, plain, Zoom<-1> },
         Row{ '-', plain, Zoom<-1> },
         Row{ KeyPress::numberPadEquals, plain, ZoomToOne },
         Row{ '=', plain, ZoomToOne },

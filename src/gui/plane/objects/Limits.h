@@ -1,5 +1,6 @@
 #pragma once
 #include <algorithm>
+#include <cmath>
 
 namespace lumo::Plane
 {
@@ -9,9 +10,14 @@ namespace lumo::Plane
 
 inline constexpr float leastLevel = -60.0f, greatestLevel = 6.0f; // dB
 
-[[nodiscard]] inline float ClampLevel (float decibels) noexcept
+/** Clamps and stores; false if nothing changes, or for what is no number. */
+[[nodiscard]] inline bool StoreLevel (float& stored, float decibels) noexcept
 {
-    return std::clamp (decibels, leastLevel, greatestLevel);
+    const float wanted = std::clamp (decibels, leastLevel, greatestLevel);
+    if (std::isnan (decibels) || wanted == stored)
+        return false;
+    stored = wanted;
+    return true;
 }
 
 }

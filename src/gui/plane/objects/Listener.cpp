@@ -1,19 +1,13 @@
 #include "gui/plane/objects/Listener.h"
 
-#include "gui/plane/icons/Icons.h"
-
 namespace lumo::Plane
 {
 
-Listener::Listener()
+Plane::Icon Listener::Icon (bool topView) const noexcept
 {
-    for (std::size_t kind = 0; kind < icons.size(); ++kind)
-        icons[kind] = MakeDrawable (HeadIcon (static_cast<HeadKind> (kind)));
-}
-
-const juce::Drawable& Listener::Icon (bool topView) const noexcept
-{
-    return *icons[(topView ? 2u : 0u) + (headphonesVisible ? 1u : 0u)];
+    const auto bare = topView ? HeadKind::top : HeadKind::front;
+    const auto withHeadphones = topView ? HeadKind::topWithHeadphones : HeadKind::frontWithHeadphones;
+    return { Plane::Icon::Kind::head, {}, headphonesVisible ? withHeadphones : bare };
 }
 
 }

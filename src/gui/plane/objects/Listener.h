@@ -1,21 +1,14 @@
 #pragma once
 #include "geometry/OrvaneDspPoint3.h"
-
-#include <juce_gui_basics/juce_gui_basics.h>
-
-#include <array>
-#include <memory>
+#include "gui/plane/icons/Icons.h"
 
 namespace lumo::Plane
 {
 
 /** The head in the scene. Angles in radians. */
-class Listener
+struct Listener
 {
-public:
-    Listener();
-
-    [[nodiscard]] const juce::Drawable& Icon (bool topView) const noexcept;
+    [[nodiscard]] Plane::Icon Icon (bool topView) const noexcept;
 
     qel::Point3 position;
     juce::Point<float> screenPosition;
@@ -24,9 +17,6 @@ public:
     bool headphonesVisible = false;
     bool editable = false;
     float proportion = 0.15f;
-
-private:
-    std::array<std::unique_ptr<juce::Drawable>, 4> icons; // by kind: front, front with headphones, top, top with them
 };
 
 }

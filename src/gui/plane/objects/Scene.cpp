@@ -1,13 +1,9 @@
 #include "gui/plane/objects/Scene.h"
 
-#include "gui/plane/icons/Icons.h"
-
 #include <algorithm>
 
 namespace lumo::Plane
 {
-
-Scene::Scene() : projectionIcon (MakeDrawable (SpeakerIcon (juce::Colours::grey))) {}
 
 bool Scene::AnySourceSelected() const
 {

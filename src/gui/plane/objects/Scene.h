@@ -19,9 +19,6 @@ struct Scene
     std::vector<Area> areas;
     SpeakerGeometry speakerGeometry;
     int selectedSpeaker = none;
-    std::unique_ptr<juce::Drawable> projectionIcon; // a grey speaker
-
-    Scene();
 
     [[nodiscard]] bool AnySourceSelected() const;
     [[nodiscard]] bool AnySourceEditable() const;

@@ -1,7 +1,6 @@
 #include "gui/plane/objects/Source.h"
 
 #include "geometry/OrvaneDspSpherical.h"
-#include "gui/plane/icons/Icons.h"
 #include "gui/plane/objects/Limits.h"
 
 #include <algorithm>
@@ -10,12 +9,12 @@
 namespace lumo::Plane
 {
 
-Source::Source (int number) : label (number), colour (juce::Colour::fromFloatRGBA (0.49019608f, 1.0f, 0.0f, 1.0f))
-{
-    BuildIcon();
-}
+Source::Source (int number) : label (juce::String (number)) {}
 
-void Source::BuildIcon() { image = MakeDrawable (SourceIcon (colour, editable)); }
+Plane::Icon Source::Icon() const noexcept
+{
+    return { editable ? Plane::Icon::Kind::source : Plane::Icon::Kind::fixedSource, colour };
+}
 
 float Source::Direction() const noexcept { return std::atan2 (position.y, position.x); }
 
@@ -56,22 +55,6 @@ void Source::SetApertureDegrees (float degrees) noexcept
 }
 
 float Source::ApertureDegrees() const noexcept { return aperture * qel::degreesPerRadian; }
-
-void Source::SetColour (juce::Colour newColour)
-{
-    if (newColour == colour)
-        return;
-    colour = newColour;
-    BuildIcon();
-}
-
-void Source::SetEditable (bool canBeEdited)
-{
-    if (canBeEdited == editable)
-        return;
-    editable = canBeEdited;
-    BuildIcon();
-}
 
 void Source::SetProportion (float value) noexcept
 {

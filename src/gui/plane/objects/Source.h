@@ -1,9 +1,7 @@
 #pragma once
+#include "gui/plane/icons/Icons.h"
 #include "gui/plane/objects/Orientation.h"
-
-#include <juce_gui_basics/juce_gui_basics.h>
-
-#include <memory>
+#include "gui/plane/painting/Caption.h"
 
 namespace lumo::Plane
 {
@@ -26,16 +24,15 @@ public:
     void SetApertureDegrees (float degrees) noexcept;
     [[nodiscard]] float ApertureDegrees() const noexcept;
 
-    /** Each builds the icon anew, and only if it looks different. */
-    void SetColour (juce::Colour newColour);
-    void SetEditable (bool canBeEdited);
+    void SetColour (juce::Colour newColour) noexcept { colour = newColour; }
+    void SetEditable (bool canBeEdited) noexcept { editable = canBeEdited; }
     void SetProportion (float value) noexcept;
 
     [[nodiscard]] juce::Colour Colour() const noexcept { return colour; }
     [[nodiscard]] bool Editable() const noexcept { return editable; }
     [[nodiscard]] float Proportion() const noexcept { return proportion; }
     [[nodiscard]] float ApertureProportion() const noexcept { return apertureProportion; }
-    [[nodiscard]] const juce::Drawable& Icon() const noexcept { return *image; }
+    [[nodiscard]] Plane::Icon Icon() const noexcept;
 
     juce::Point<float> screenPosition;
     float aperture = 1.3962634f; // half opening of the fan
@@ -46,7 +43,7 @@ public:
     bool labelVisible = true;
     bool apertureVisible = true;
     bool coordinatesVisible = true;
-    juce::String label;
+    Caption label;
     qel::Point3 position;
     float level = -60; // dB
     juce::Colour labelColour = juce::Colours::black;
@@ -56,13 +53,11 @@ public:
 
 private:
     [[nodiscard]] float Direction() const noexcept;
-    void BuildIcon();
 
-    juce::Colour colour;
+    juce::Colour colour{ juce::Colour::fromFloatRGBA (0.49019608f, 1.0f, 0.0f, 1.0f) };
     bool editable = true;
     float proportion = 0.07f;
     float apertureProportion = 0.075f;
-    std::unique_ptr<juce::Drawable> image;
 };
 
 }

@@ -43,7 +43,7 @@ using Bundle = qel::OSCBundle;
 using Address = const qel::String&;
 
 const Row<Source> sourceRows[] = {
-    { "/label/text", [] (Bundle& b, Address a, const Source& s) { b.add (a, ToCore (s.label)); } },
+    { "/label/text", [] (Bundle& b, Address a, const Source& s) { b.add (a, ToCore (s.label.Text())); } },
     { "/label/visible", [] (Bundle& b, Address a, const Source& s) { b.add (a, s.labelVisible); } },
     { "/label/color", [] (Bundle& b, Address a, const Source& s) { b.add (a, ToCore (s.labelColour)); } },
     { "/visible", [] (Bundle& b, Address a, const Source& s) { b.add (a, s.visible); } },
@@ -60,13 +60,13 @@ const Row<Source> sourceRows[] = {
 };
 
 const Row<Speaker> speakerRows[] = {
-    { "/name/text", [] (Bundle& b, Address a, const Speaker& s) { b.add (a, ToCore (s.name)); } },
+    { "/name/text", [] (Bundle& b, Address a, const Speaker& s) { b.add (a, ToCore (s.name.Text())); } },
     { "/name/visible", [] (Bundle& b, Address a, const Speaker& s) { b.add (a, s.nameVisible); } },
     { "/visible", [] (Bundle& b, Address a, const Speaker& s) { b.add (a, s.visible); } },
     { "/editable", [] (Bundle& b, Address a, const Speaker& s) { b.add (a, s.editable); } },
     { "/aed", [] (Bundle& b, Address a, const Speaker& s) { AddPosition (b, a, s.position); } },
     { "/proportion", [] (Bundle& b, Address a, const Speaker& s) { b.add (a, s.proportion); } },
-    { "/color", [] (Bundle& b, Address a, const Speaker& s) { b.add (a, ToCore (s.Colour())); } },
+    { "/color", [] (Bundle& b, Address a, const Speaker& s) { b.add (a, ToCore (s.colour)); } },
 };
 
 const Row<Plane::Listener> listenerRows[] = {
@@ -109,6 +109,13 @@ const Row<BackgroundImage> imageRows[] = {
       [] (Bundle& b, Address a, const BackgroundImage& i) { b.add (a, BackgroundImage::NameOf (i.quality)); } },
 };
 
+/** Whether an address begins with a name as it stands: a pattern in its place reaches nothing. */
+bool BeginsWith (const qel::OSCMessage& message, const char* name)
+{
+    const auto& parts = message.address().parts();
+    return ! parts.empty() && parts[0] == name;
+}
+
 /** A switch that can be read and written by address. */
 template <typename Object>
 struct Switch
@@ -148,6 +155,8 @@ void AddSwitches (qel::OSCBundle& bundle, const Object& object, const Switch<Obj
 
 bool Axis::processOscMessage (const qel::OSCMessage& message)
 {
+    if (! BeginsWith (message, "axis"))
+        return false;
     if (! message.has ("nnnn", true) || ! message.matches ("/axis/color"))
         return SetSwitch (*this, axisSwitches, message);
     colour = FromCore (message.toColour());
@@ -162,7 +171,10 @@ qel::OSCBundle Axis::getOscState()
     return bundle;
 }
 
-bool Legend::processOscMessage (const qel::OSCMessage& message) { return SetSwitch (*this, legendSwitches, message); }
+bool Legend::processOscMessage (const qel::OSCMessage& message)
+{
+    return BeginsWith (message, "legend") && SetSwitch (*this, legendSwitches, message);
+}
 
 qel::OSCBundle Legend::getOscState()
 {

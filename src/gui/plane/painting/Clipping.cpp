@@ -66,12 +66,18 @@ std::optional<juce::Line<float>> VisiblePart (juce::Line<double> line, juce::Rec
     return juce::Line<float> ((start + step * first).toFloat(), (start + step * last).toFloat());
 }
 
+bool MeetsCircle (juce::Rectangle<float> area, juce::Point<float> centre, double radius)
+{
+    const auto at = centre.toDouble();
+    return radius >= NearestDistance (at, area.toDouble()) && radius <= FarthestDistance (at, area.toDouble());
+}
+
 juce::Path VisibleCircle (juce::Point<float> at, double radius, juce::Rectangle<float> clip)
 {
     juce::Path path;
     const auto centre = at.toDouble();
     const auto area = clip.toDouble();
-    if (radius < NearestDistance (centre, area) || radius > FarthestDistance (centre, area))
+    if (! MeetsCircle (clip, at, radius))
         return path;
     if (area.contains (centre)) {
         const auto r = static_cast<float> (radius);

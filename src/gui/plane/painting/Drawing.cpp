@@ -3,33 +3,21 @@
 #include "geometry/OrvaneDspSpherical.h"
 #include "gui/plane/LumoComponent.h"
 #include "gui/plane/Text.h"
+#include "gui/plane/painting/Extents.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace lumo::Plane
 {
-
-namespace
-{
-
-constexpr int coordinatesWidth = 100;
-
-}
 
 juce::Rectangle<float> SquareAt (juce::Point<float> centre, float side)
 {
     return juce::Rectangle<float> (side, side).withCentre (centre);
 }
 
-bool IsInSight (const ViewTransform& view, juce::Point<float> centre, float side)
+bool IsWanted (const juce::Graphics& g, juce::Point<float> centre, float side)
 {
-    return SquareAt (centre, side).intersects (view.Bounds().toFloat());
-}
-
-bool IsObjectInSight (const ViewTransform& view, juce::Point<float> centre, float size)
-{
-    return IsInSight (view, centre, std::max (6 * size, static_cast<float> (coordinatesWidth)));
+    return g.clipRegionIntersects (SquareAt (centre, side).getSmallestIntegerContainer());
 }
 
 void DrawTextAt (juce::Graphics& g, const juce::String& text, juce::Point<float> centre, float side)
@@ -54,30 +42,25 @@ juce::String CoordinatesText (const qel::Point3& position, const Surface& surfac
     return juce::String (static_cast<int> (Orientation::WrapDegrees (degrees)));
 }
 
-void DrawCoordinates (juce::Graphics& g, const qel::Point3& position, juce::Point<int> topLeft, const Surface& surface)
+void DrawCoordinates (juce::Graphics& g, const qel::Point3& position, juce::Rectangle<int> area, const Surface& surface)
 {
     g.setFont (lumo::Component::MakeFont (10.0f));
-    g.drawText (CoordinatesText (position, surface), topLeft.x, topLeft.y, coordinatesWidth, 20,
-                juce::Justification::centred, true);
+    g.drawText (CoordinatesText (position, surface), area, juce::Justification::centred, true);
 }
 
-void DrawIcon (juce::Graphics& g, const juce::Drawable& icon, juce::Point<float> centre, float size)
+void DrawIcon (juce::Graphics& g, const Icon& icon, juce::Point<float> centre, float size, const Surface& surface)
 {
-    icon.drawWithin (g, SquareAt (centre, size), juce::RectanglePlacement::centred, 1.0f);
+    surface.icons->get().Draw (g, icon, SquareAt (centre, size), surface.pixels);
 }
 
 void DrawListener (juce::Graphics& g, const Surface& surface)
 {
     const auto& listener = surface.listener;
     const auto& view = surface.viewTransform;
-    const auto size = static_cast<float> (view.PixelSize (listener.proportion));
-    const auto centre = listener.screenPosition;
-    if (! listener.visible || ! IsInSight (view, centre, 2 * size))
-        return;
-    const juce::Graphics::ScopedSaveState state (g);
-    if (view.topView)
-        g.addTransform (juce::AffineTransform::rotation (listener.yaw, centre.x, centre.y));
-    DrawIcon (g, listener.Icon (view.topView), centre, size);
+    if (g.clipRegionIntersects (ExtentOf (listener, surface)))
+        surface.icons->get().Draw (g, listener.Icon (view.topView),
+                                   SquareAt (listener.screenPosition, SizeOf (listener, view)), surface.pixels,
+                                   view.topView ? listener.yaw : 0.0f);
 }
 
 }

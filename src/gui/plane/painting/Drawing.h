@@ -9,10 +9,8 @@ namespace lumo::Plane
 /** A square about a point. */
 [[nodiscard]] juce::Rectangle<float> SquareAt (juce::Point<float> centre, float side);
 
-/** Whether anything about a point can be seen; objects far outside are not drawn at all. */
-[[nodiscard]] bool IsInSight (const ViewTransform& view, juce::Point<float> centre, float side);
-/** The same for a source or a speaker of that size in pixels, with its name and its coordinates. */
-[[nodiscard]] bool IsObjectInSight (const ViewTransform& view, juce::Point<float> centre, float size);
+/** Whether anything in a square about a point would be painted. */
+[[nodiscard]] bool IsWanted (const juce::Graphics& g, juce::Point<float> centre, float side);
 
 /** Centred in a square about a point; what does not fit ends in an ellipsis. */
 void DrawTextAt (juce::Graphics& g, const juce::String& text, juce::Point<float> centre, float side);
@@ -21,9 +19,10 @@ void DrawTextAt (juce::Graphics& g, const juce::String& text, juce::Point<float>
 [[nodiscard]] juce::String MetresText (float metres, int decimals);
 /** "(x,y,z)" in metres; with the circular constraint the angle that a drag changes, in whole degrees. */
 [[nodiscard]] juce::String CoordinatesText (const qel::Point3& position, const Surface& surface);
-void DrawCoordinates (juce::Graphics& g, const qel::Point3& position, juce::Point<int> topLeft, const Surface& surface);
+void DrawCoordinates (juce::Graphics& g, const qel::Point3& position, juce::Rectangle<int> area,
+                      const Surface& surface);
 
-void DrawIcon (juce::Graphics& g, const juce::Drawable& icon, juce::Point<float> centre, float size);
+void DrawIcon (juce::Graphics& g, const Icon& icon, juce::Point<float> centre, float size, const Surface& surface);
 void DrawListener (juce::Graphics& g, const Surface& surface);
 
 }

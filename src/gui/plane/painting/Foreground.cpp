@@ -1,10 +1,10 @@
 #include "gui/plane/painting/Foreground.h"
 
-#include "geometry/OrvaneDspSpherical.h"
-#include "gui/plane/LumoComponent.h"
 #include "gui/plane/objects/Limits.h"
 #include "gui/plane/painting/Drawing.h"
+#include "gui/plane/painting/Extents.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace lumo::Plane
@@ -36,48 +36,50 @@ void DrawMeter (juce::Graphics& g, juce::Rectangle<float> box, float decibels)
     g.fillRect (box.withTop (rest.getBottom()));
 }
 
-/** Objects of either kind: their meter stands at an offset from their middle. */
-template <typename Object>
-void DrawMeterOf (juce::Graphics& g, const Object& object, float size, float xOffset, const ViewTransform& view)
+template <typename Objects>
+void DrawMetersOf (juce::Graphics& g, const Objects& objects, const ViewTransform& view)
 {
-    const auto at = object.screenPosition;
-    if (object.visible && IsInSight (view, at, 2 * size + 20))
-        DrawMeter (g, { at.x + xOffset, at.y - size * 0.5f, 5.0f, size }, object.level);
+    for (const auto& object : objects)
+        if (const auto box = MeterOf (object, view); object.visible && g.clipRegionIntersects (WithRoom (box)))
+            DrawMeter (g, box, object.level);
 }
 
 void DrawMeters (juce::Graphics& g, const Surface& surface, const Scene& scene)
 {
-    const auto& view = surface.viewTransform;
     if (surface.options.speakersLevelsVisible)
-        for (const auto& speaker : scene.speakers) {
-            const auto size = static_cast<float> (view.PixelSize (speaker.proportion));
-            DrawMeterOf (g, speaker, size, size * 0.5f - 2.5f, view);
-        }
+        DrawMetersOf (g, scene.speakers, surface.viewTransform);
     if (surface.options.sourcesLevelsVisible)
-        for (const auto& source : scene.sources) {
-            const auto size = static_cast<float> (view.PixelSize (source.Proportion()));
-            DrawMeterOf (g, source, size, size * 0.5f + 2.0f, view);
-        }
+        DrawMetersOf (g, scene.sources, surface.viewTransform);
 }
 
 // ---- Sources
 
-void DrawApertures (juce::Graphics& g, const Surface& surface, const Scene& scene)
+/** With chords that leave the arc by no more than a twentieth of a pixel of the screen: JUCE's own arcs have the same
+    number of chords whatever their size, twice as many as a fan of the usual size needs. */
+juce::Path FanOf (const Source& source, const Surface& surface)
 {
-    const auto& view = surface.viewTransform;
-    if (! surface.options.apertureVisible || ! view.topView)
-        return;
+    constexpr float deviation = 0.05f;
+    const auto at = source.screenPosition;
+    const float radius = ApertureRadius (source, surface.viewTransform);
+    const float longest = std::sqrt (8 * deviation / (radius * surface.pixels.scale));
+    const auto chords = static_cast<int> (std::ceil (2 * source.aperture / longest));
+    const float first = RotationOfFan (source) + source.aperture,
+                step = -2 * source.aperture / static_cast<float> (chords);
+    juce::Path fan;
+    fan.preallocateSpace (3 * chords + 8);
+    fan.startNewSubPath (at);
+    for (int i = 0; i <= chords; ++i)
+        fan.lineTo (at.getPointOnCircumference (radius, first + static_cast<float> (i) * step));
+    fan.closeSubPath();
+    return fan;
+}
+
+void DrawFans (juce::Graphics& g, const Surface& surface, const Scene& scene)
+{
     for (const auto& source : scene.sources) {
-        const auto radius = static_cast<float> (view.PixelSize (source.ApertureProportion()));
-        const auto at = source.screenPosition;
-        if (! source.apertureVisible || ! source.visible || source.yawMode == Orientation::follow ||
-            ! IsInSight (view, at, 2 * radius + 4))
+        if (! g.clipRegionIntersects (ExtentOfFan (source, surface)))
             continue;
-        const float rotation = source.yawMode == Orientation::translation ? source.yawOffset : source.RelativeYaw();
-        juce::Path fan;
-        fan.startNewSubPath (at);
-        fan.addCentredArc (at.x, at.y, radius, radius, rotation, source.aperture, -source.aperture);
-        fan.closeSubPath();
+        const auto fan = FanOf (source, surface);
         g.setColour (source.apertureColour);
         g.fillPath (fan);
         g.strokePath (fan, juce::PathStrokeType (2.0f));
@@ -86,30 +88,27 @@ void DrawApertures (juce::Graphics& g, const Surface& surface, const Scene& scen
 
 void DrawSelection (juce::Graphics& g, const Source& source, float size, const Surface& surface)
 {
-    const auto at = source.screenPosition;
     g.setColour (juce::Colours::white);
-    g.drawRect (SquareAt (at, size), 2.0f);
+    g.drawRect (SquareAt (source.screenPosition, size), 2.0f);
     if (! source.coordinatesVisible)
         return;
     g.setColour (juce::Colours::black);
-    const auto x = static_cast<int> (at.x), y = static_cast<int> (at.y), half = static_cast<int> (size * 0.5f);
-    DrawCoordinates (g, source.position, { x - 50, y + half }, surface);
+    DrawCoordinates (g, source.position, CoordinatesOf (source, surface.viewTransform), surface);
 }
 
 void DrawSources (juce::Graphics& g, const Surface& surface, const Scene& scene)
 {
     for (const auto& source : scene.sources) {
-        const auto size = static_cast<float> (surface.viewTransform.PixelSize (source.Proportion()));
-        if (! source.visible || ! IsObjectInSight (surface.viewTransform, source.screenPosition, size))
+        if (! g.clipRegionIntersects (ExtentOfBody (source, surface)))
             continue;
-        DrawIcon (g, source.Icon(), source.screenPosition, size);
+        const float size = SizeOf (source, surface.viewTransform);
+        DrawIcon (g, source.Icon(), source.screenPosition, size, surface);
         if (source.selected)
             DrawSelection (g, source, size, surface);
         if (! source.labelVisible)
             continue;
         g.setColour (source.labelColour);
-        g.setFont (lumo::Component::MakeFont (juce::jlimit (12.0f, 20.0f, size * 0.5f)));
-        DrawTextAt (g, source.label, source.screenPosition, 6 * size);
+        source.label.Draw (g, source.screenPosition, LabelStyle (size));
     }
 }
 
@@ -121,11 +120,8 @@ void DrawRadiusCircle (juce::Graphics& g, const Surface& surface, const Scene& s
     if (! surface.options.radiusVisible || std::count_if (sources.begin(), sources.end(), isSelected) != 1)
         return;
     const auto& source = *std::find_if (sources.begin(), sources.end(), isSelected);
-    const auto& view = surface.viewTransform;
-    const float metre =
-        std::trunc (view.halfWidth * view.zoom) - std::trunc (static_cast<float> (view.Margin()) * 0.5f + 1);
     g.setColour (juce::Colour (0x9E4444FF));
-    g.fillEllipse (SquareAt (source.screenPosition, juce::jlimit (0.0f, 1.0e6f, 2 * source.radius * metre)));
+    g.fillEllipse (RadiusOf (source, surface.viewTransform));
 }
 
 void DrawLasso (juce::Graphics& g, const Lasso& lasso)
@@ -145,7 +141,7 @@ void DrawForeground (juce::Graphics& g, const Surface& surface, const Scene& sce
     if (surface.listener.editable)
         DrawListener (g, surface);
     DrawMeters (g, surface, scene);
-    DrawApertures (g, surface, scene);
+    DrawFans (g, surface, scene);
     DrawSources (g, surface, scene);
     DrawRadiusCircle (g, surface, scene);
     DrawLasso (g, surface.lasso);

@@ -13,6 +13,9 @@ namespace
 /** With room for the width of a line. */
 juce::Rectangle<float> VisibleArea (const ViewTransform& view) { return view.Bounds().toFloat().expanded (2); }
 
+/** What the clip has of it. Lines are cut to the visible area all the same, so that parts of a picture fit together. */
+juce::Rectangle<float> WantedArea (const juce::Graphics& g) { return g.getClipBounds().toFloat().expanded (2); }
+
 /** One fill for all dashes of a line: they do not meet, and hundreds of fills a line would be slow. */
 void Stroke (juce::Graphics& g, const juce::Path& path, bool dashed)
 {
@@ -28,7 +31,7 @@ void Stroke (juce::Graphics& g, const juce::Path& path, bool dashed)
 void DrawLine (juce::Graphics& g, juce::Line<double> line, const Surface& surface)
 {
     const auto visible = VisiblePart (line, VisibleArea (surface.viewTransform));
-    if (! visible)
+    if (! visible || ! VisiblePart (line, WantedArea (g)))
         return;
     if (! surface.grid.dashed)
         return g.drawLine (*visible, 1.0f);
@@ -40,6 +43,8 @@ void DrawLine (juce::Graphics& g, juce::Line<double> line, const Surface& surfac
 
 void DrawCircle (juce::Graphics& g, juce::Point<float> centre, double radius, const Surface& surface)
 {
+    if (! MeetsCircle (WantedArea (g), centre, radius))
+        return;
     const auto circle = VisibleCircle (centre, radius, VisibleArea (surface.viewTransform));
     if (! circle.isEmpty())
         Stroke (g, circle, surface.grid.dashed);

@@ -1,6 +1,7 @@
 #include "gui/plane/painting/SpeakerPainter.h"
 
 #include "gui/plane/painting/Drawing.h"
+#include "gui/plane/painting/Extents.h"
 
 namespace lumo::Plane
 {
@@ -19,18 +20,15 @@ void DrawName (juce::Graphics& g, const Speaker& speaker, juce::Point<float> at,
     if (! speaker.nameVisible)
         return;
     g.setColour (juce::Colours::white);
-    g.setFont (juce::Font (juce::jlimit (12.0f, 20.0f, size * 0.5f), juce::Font::bold));
-    DrawTextAt (g, speaker.name, at, 6 * size);
+    speaker.name.Draw (g, at, NameStyle (size));
 }
 
 void DrawSelection (juce::Graphics& g, const Speaker& speaker, float size, const Surface& surface)
 {
-    const auto at = speaker.screenPosition;
     g.setColour (juce::Colours::red);
-    g.drawRoundedRectangle (SquareAt (at, size), 2.0f, 2.0f);
+    g.drawRoundedRectangle (SquareAt (speaker.screenPosition, size), 2.0f, 2.0f);
     g.setColour (juce::Colours::white);
-    const auto x = static_cast<int> (at.x), y = static_cast<int> (at.y), half = static_cast<int> (size * 0.5f);
-    DrawCoordinates (g, speaker.position, { x - 50, y + half - 10 }, surface);
+    DrawCoordinates (g, speaker.position, CoordinatesOf (speaker, surface.viewTransform), surface);
 }
 
 }
@@ -43,11 +41,11 @@ void DrawSpeakerProjection (juce::Graphics& g, const Surface& surface, const Sce
         return;
     for (std::size_t i = 0; i < std::min (points.size(), scene.speakers.size()); ++i) {
         const auto& speaker = scene.speakers[i];
-        const auto size = static_cast<float> (view.PixelSize (speaker.proportion));
+        const float size = SizeOf (speaker, view);
         const auto at = view.ToScreen (points[i]);
-        if (! speaker.visible || ! IsObjectInSight (view, at, size))
+        if (! speaker.visible || ! IsWanted (g, at, 6 * size))
             continue;
-        DrawIcon (g, *scene.projectionIcon, at, size);
+        DrawIcon (g, { Icon::Kind::speaker, juce::Colours::grey }, at, size, surface);
         DrawName (g, speaker, at, size);
     }
 }
@@ -97,11 +95,12 @@ void DrawSpeakers (juce::Graphics& g, const Surface& surface, const Scene& scene
         return;
     for (std::size_t i = 0; i < scene.speakers.size(); ++i) {
         const auto& speaker = scene.speakers[i];
-        const auto size = static_cast<float> (surface.viewTransform.PixelSize (speaker.proportion));
-        if (! speaker.visible || ! IsObjectInSight (surface.viewTransform, speaker.screenPosition, size))
+        const bool selected = scene.selectedSpeaker == static_cast<int> (i);
+        if (! speaker.visible || ! g.clipRegionIntersects (ExtentOf (speaker, selected, surface)))
             continue;
-        DrawIcon (g, speaker.Icon(), speaker.screenPosition, size);
-        if (scene.selectedSpeaker == static_cast<int> (i))
+        const float size = SizeOf (speaker, surface.viewTransform);
+        DrawIcon (g, speaker.Icon(), speaker.screenPosition, size, surface);
+        if (selected)
             DrawSelection (g, speaker, size, surface);
         DrawName (g, speaker, speaker.screenPosition, size);
     }

@@ -129,16 +129,17 @@ void DrawAnchors (juce::Graphics& g, const Surface& surface)
         return;
     const auto& view = surface.viewTransform;
     const float half = 0.5f * static_cast<float> (view.PixelSize (view.markerProportion));
+    const float side = 3.0f * std::trunc (half);
     g.setColour (juce::Colours::black);
     g.setFont (lumo::Component::MakeFont (juce::jlimit (10.0f, 20.0f, half)));
     for (const auto& anchor : surface.anchors.items) {
         const auto at = anchor.screenPosition;
-        if (! IsInSight (view, at, 4 * half))
+        if (! IsWanted (g, at, 7 * half)) // the name stands to the lower right
             continue;
         g.drawVerticalLine (static_cast<int> (at.x), at.y - half, at.y + half);
         g.drawHorizontalLine (static_cast<int> (at.y), at.x - half, at.x + half);
         if (surface.anchors.anchorsLabelVisible)
-            DrawTextAt (g, anchor.name, at, 3.0f * std::trunc (half));
+            DrawTextAt (g, anchor.name, at + juce::Point<float> (side, side) * 0.5f, side);
     }
 }
 

@@ -1,11 +1,14 @@
 #pragma once
 #include "gui/plane/PlaneOptions.h"
+#include "gui/plane/icons/IconStore.h"
 #include "gui/plane/objects/Listener.h"
 #include "gui/plane/surface/Axis.h"
 #include "gui/plane/surface/BackgroundImage.h"
 #include "gui/plane/surface/Grid.h"
 #include "gui/plane/surface/Marks.h"
 #include "gui/plane/view/ViewTransform.h"
+
+#include <optional>
 
 namespace lumo::Plane
 {
@@ -26,6 +29,10 @@ struct Surface
     ViewTransform viewTransform;
     PlaneOptions options;
     Lasso lasso;
+
+    // How it is painted, up to date whenever it is.
+    PixelGrid pixels;
+    std::optional<juce::SharedResourcePointer<IconStore>> icons;
 };
 
 }

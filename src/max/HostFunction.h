@@ -1,0 +1,94 @@
+#pragma once
+#include "host/api/MaxApi.h"
+#include "max/Guarded.h"
+
+#include <type_traits>
+
+namespace orvanemax
+{
+
+template <auto function>
+struct HostEntry;
+
+/** What stands between the host and a function of ours, whose first argument is the object: the call is known as one
+    under way in the object (see ObjectCall), and nothing that is thrown reaches the host. A setter or getter that
+    throws answers MAX_ERR_GENERIC. */
+template <typename Result, typename Object, typename... Rest, Result (*function) (Object*, Rest...)>
+struct HostEntry<function>
+{
+    static Result call (Object* x, Rest... rest) noexcept
+    {
+        const ObjectCall call (x);
+        try {
+            return function (x, rest...);
+        } catch (...) {
+            reportException (x);
+        }
+        if constexpr (! std::is_void_v<Result>)
+            return MAX_ERR_GENERIC;
+    }
+};
+
+/** The same for what makes an object, null when it throws. */
+template <void* (*function) (t_symbol*, t_clong, t_atom*)>
+struct HostEntry<function>
+{
+    static void* call (t_symbol* name, t_clong argc, t_atom* argv) noexcept
+    {
+        try {
+            return function (name, argc, argv);
+        } catch (...) {
+            reportException (nullptr);
+        }
+        return nullptr;
+    }
+};
+
+/** The same for what frees one: no call of the object, but the end of all. */
+template <auto function>
+struct HostDestructor;
+
+template <typename Object, void (*function) (Object*)>
+struct HostDestructor<function>
+{
+    static void call (Object* x) noexcept
+    {
+        try {
+            function (x);
+        } catch (...) {
+            reportException (nullptr);
+        }
+    }
+};
+
+/** A function as it is handed to the host: there is no way to one but hostFunction(), and so none without a guard. An
+    empty one leaves the work to the host. */
+class HostFunction
+{
+public:
+    constexpr HostFunction() = default;
+    [[nodiscard]] operator method() const noexcept { return function; }
+
+private:
+    template <auto guarded>
+    friend HostFunction hostFunction() noexcept;
+    template <auto guarded>
+    friend HostFunction hostDestructor() noexcept;
+    explicit HostFunction (method f) noexcept : function (f) {}
+
+    method function = nullptr;
+};
+
+template <auto function>
+[[nodiscard]] HostFunction hostFunction() noexcept
+{
+    return HostFunction (max_method (HostEntry<function>::call));
+}
+
+template <auto function>
+[[nodiscard]] HostFunction hostDestructor() noexcept
+{
+    return HostFunction (max_method (HostDestructor<function>::call));
+}
+
+}

@@ -1,0 +1,369 @@
+#include "PlaneOnStage.h"
+#include "ScaledScreen.h"
+#include "gui/plane/painting/Foreground.h"
+#include "gui/plane/painting/StaticLayer.h"
+
+#include <random>
+
+using lumo::PlaneComponent;
+
+namespace
+{
+
+/** Levels of 255 by which the channel that differs most does; counts those that differ by more than two. */
+int FarthestLevels (const juce::Image& a, const juce::Image& b, int* beyondTwo = nullptr)
+{
+    const juce::Image::BitmapData left (a, juce::Image::BitmapData::readOnly),
+        right (b, juce::Image::BitmapData::readOnly);
+    int farthest = 0;
+    for (int y = 0; y < left.height; ++y)
+        for (int x = 0; x < left.width; ++x)
+            for (int i = 0; i < 3; ++i) {
+                const int levels = std::abs (left.getPixelPointer (x, y)[i] - right.getPixelPointer (x, y)[i]);
+                farthest = std::max (farthest, levels);
+                if (beyondTwo != nullptr && levels > 2)
+                    ++*beyondTwo;
+            }
+    return farthest;
+}
+
+/** The whole plane anew, its static layer too. */
+void RepaintAll (PlaneComponent& plane) { plane.SetGridColour (plane.GetSurface().grid.colour, false); }
+
+class Chance
+{
+public:
+    explicit Chance (unsigned seed) : random (seed) {}
+
+    [[nodiscard]] bool Of (double share) { return std::uniform_real_distribution<> (0, 1) (random) < share; }
+    [[nodiscard]] float Between (float low, float high)
+    {
+        return std::uniform_real_distribution<float> (low, high) (random);
+    }
+    [[nodiscard]] std::size_t Below (std::size_t number) { return random() % number; }
+    [[nodiscard]] juce::Colour Colour() { return juce::Colour (static_cast<juce::uint32> (random())); }
+    /** Mostly in sight, at times all on one point or as far away as there is. */
+    [[nodiscard]] qel::Point3 Point()
+    {
+        if (Of (0.1))
+            return { 0.5f, 0.5f, 0.5f };
+        if (Of (0.05))
+            return { Between (-1, 1) * 1e38f, Between (-1, 1), Between (-1, 1) * 1e38f };
+        const float reach = Of (0.1) ? 4.0f : 1.1f;
+        return { Between (-reach, reach), Between (-reach, reach), Between (-reach, reach) };
+    }
+    [[nodiscard]] qel::String Text()
+    {
+        constexpr const char* texts[] = { "1",
+                                          "",
+                                          "Flöte",
+                                          "gjpqy",
+                                          "a name that is much too long for its place by far",
+                                          "ẤẨ",
+                                          "\xe2\x80\xae"
+                                          "jf",
+                                          " ",
+                                          "WWWW" };
+        return texts[Below (std::size (texts))];
+    }
+
+private:
+    std::mt19937 random;
+};
+
+void Prepare (PlaneComponent& plane, Chance& chance)
+{
+    plane.SetSpeakersEditable (chance.Of (0.7), false);
+    plane.SetListenerEditable (chance.Of (0.5));
+    plane.SetListenerProportion (chance.Between (0.05f, 0.4f));
+    plane.SetTopView (chance.Of (0.6));
+    plane.SetHeadphonesVisible (chance.Of (0.2));
+    plane.SetCircularConstraint (chance.Of (0.3), false);
+    plane.SetRadiusConstraint (chance.Of (0.1));
+    plane.SetRadiusVisible (chance.Of (0.2));
+    plane.SetApertureVisible (chance.Of (0.8));
+    plane.SetSourcesLevelsVisible (chance.Of (0.4));
+    plane.SetSpeakersLevelsVisible (chance.Of (0.4));
+    plane.SetSpeakersVisible (chance.Of (0.8));
+    plane.SetHullVisible (chance.Of (0.15));
+    plane.SetSpeakersRadiusVisible (chance.Of (0.15));
+    plane.SetSpeakersProjectionVisible (chance.Of (0.15));
+    plane.SetGridMode (static_cast<std::int32_t> (chance.Below (3)));
+    plane.SetGridDashed (chance.Of (0.3));
+    plane.SetAngularDivisionsVisible (chance.Of (0.3));
+    if (chance.Of (0.3))
+        plane.SetZoom (chance.Of (0.3) ? 100.0f : chance.Between (0.1f, 4), false);
+    if (chance.Of (0.1))
+        plane.SetBackgroundColour (juce::Colour (0xFEB5B5B5));
+    for (std::size_t i = 0; i < plane.GetNumSources(); ++i) {
+        plane.SetSourcePosition (i, chance.Point(), false);
+        plane.SetSourceColour (i, chance.Between (0, 1), chance.Between (0, 1), 0, 1, false);
+        plane.SetSourceLabel (i, chance.Text(), false);
+        plane.SetSourceProportion (i, chance.Between (0.03f, 0.2f));
+        plane.SetSourceSelected (i, chance.Of (0.3), false);
+        plane.SetSourceLabelVisible (i, chance.Of (0.8));
+        plane.SetSourceYawMode (i, static_cast<lumo::Plane::Orientation::Mode> (chance.Below (4)));
+        plane.SetSourceAperture (i, chance.Between (10, 180), false);
+    }
+    for (std::size_t i = 0; i < plane.GetNumSpeakers(); ++i) {
+        plane.SetSpeakerPosition (i, chance.Point(), false);
+        plane.SetSpeakerName (i, chance.Text(), false);
+        plane.SetSpeakerProportion (i, chance.Between (0.03f, 0.2f));
+    }
+}
+
+juce::MouseEvent EventAt (PlaneComponent& plane, juce::Point<float> at)
+{
+    constexpr float none = 0;
+    return { juce::Desktop::getInstance().getMainMouseSource(),
+             at,
+             juce::ModifierKeys::leftButtonModifier,
+             none,
+             none,
+             none,
+             none,
+             none,
+             &plane,
+             &plane,
+             {},
+             at,
+             {},
+             1,
+             true };
+}
+
+void DragSomething (PlaneComponent& plane, Chance& chance)
+{
+    const auto from = plane.GetSurface().viewTransform.ToScreen (
+        plane.GetNumSources() > 0 && chance.Of (0.6) ? plane.GetSourcePosition (0) : chance.Point());
+    plane.mouseDown (EventAt (plane, from));
+    for (auto steps = chance.Below (3); steps > 0; --steps)
+        plane.mouseDrag (
+            EventAt (plane, from + juce::Point<float> (chance.Between (-40, 40), chance.Between (-40, 40))));
+    if (chance.Of (0.5))
+        plane.mouseUp (EventAt (plane, from));
+}
+
+/** What may happen between two frames. An index past the end changes nothing. */
+using Step = void (*) (PlaneComponent&, Chance&);
+const Step steps[] = {
+    [] (PlaneComponent& p, Chance& c) { p.SetSourcePosition (c.Below (12), c.Point(), true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceAzimuth (c.Below (12), c.Between (-180, 180), true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceYaw (c.Below (12), c.Between (-180, 180), true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceAperture (c.Below (12), c.Between (10, 180), true); },
+    [] (PlaneComponent& p, Chance& c) {
+        p.SetSourceYawMode (c.Below (12), static_cast<lumo::Plane::Orientation::Mode> (c.Below (4)));
+    },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceLabel (c.Below (12), c.Text(), true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceLabelVisible (c.Below (12), c.Of (0.5)); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceLabelColour (c.Below (12), c.Colour()); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceCoordinatesVisible (c.Below (12), c.Of (0.5)); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceColour (c.Below (12), c.Between (0, 1), 0, 1, 1, true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceApertureColour (c.Below (12), c.Colour()); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceApertureVisible (c.Below (12), c.Of (0.5)); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceVisible (c.Below (12), c.Of (0.5), true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceEditable (c.Below (12), c.Of (0.5), true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceProportion (c.Below (12), c.Between (0.03f, 0.3f)); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceRadius (c.Below (12), c.Between (0, 2), true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceLevel (c.Below (12), c.Between (-70, 10)); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourceSelected (c.Below (12), c.Of (0.5), true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSpeakerPosition (c.Below (8), c.Point(), true); },
+    [] (PlaneComponent& p, Chance& c) {
+        p.SetSpeakersPositions ({ c.Point(), p.GetSpeakerPosition (1) }, true);
+    },
+    [] (PlaneComponent& p, Chance& c) { p.SetSpeakerName (c.Below (8), c.Text(), true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSpeakerNameVisible (c.Below (8), c.Of (0.5)); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSpeakerColour (c.Below (8), c.Between (0, 1), 0, 1, 1, true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSpeakerVisible (c.Below (8), c.Of (0.5), true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSpeakerProportion (c.Below (8), c.Between (0.03f, 0.3f)); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSpeakerLevel (c.Below (8), c.Between (-70, 10)); },
+    [] (PlaneComponent& p, Chance& c) { p.SetListenerPosition (c.Point(), true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetListenerYaw (c.Between (-180, 180), true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetListenerOrientation (c.Between (-180, 180), 0, 0, true); },
+    [] (PlaneComponent& p, Chance& c) { p.SetZoom (c.Between (0.1f, 3), true); },
+    [] (PlaneComponent& p, Chance&) { p.SetTopView (! p.GetSurface().viewTransform.topView); },
+    [] (PlaneComponent& p, Chance& c) { p.RequestAutoZoom (c.Of (0.3)); },
+    DragSomething,
+    DragSomething,
+};
+
+}
+
+/** Whatever changed between two frames, and however little of it was painted. */
+TEST (PlaneRepaint, ShowsWhatAWholeRepaintWouldShow)
+{
+    constexpr float scales[] = { 1, 1, 1.25f, 1.5f, 2 };
+    for (unsigned seed = 1; seed <= 150; ++seed) {
+        Chance chance (seed);
+        PlaneComponent plane (chance.Below (13), chance.Below (9), 150);
+        const int width = chance.Of (0.05) ? 1 : 100 + static_cast<int> (chance.Below (150));
+        plane.setSize (width, chance.Of (0.2) ? 1 : width - 20);
+        Prepare (plane, chance);
+        ScaledScreen screen (plane, scales[chance.Below (std::size (scales))]);
+        for (int round = 0; round < 8; ++round) {
+            for (auto frames = 1 + chance.Below (3); frames > 0; --frames) {
+                for (auto changes = chance.Of (0.2) ? 20 : 1 + chance.Below (4); changes > 0; --changes)
+                    steps[chance.Below (std::size (steps))](plane, chance);
+                screen.Frame();
+            }
+            screen.Frame(); // an automatic zoom may ask for one more
+            const auto incremental = screen.Picture().createCopy();
+            plane.RequestAutoZoom (false); // each frame would try another zoom
+            RepaintAll (plane);
+            screen.Frame();
+            int beyondTwo = 0;
+            const int farthest = FarthestLevels (incremental, screen.Picture(), &beyondTwo);
+            // The renderer cuts a 256th off what crosses the right edge of a clip: where many shapes lie one over the
+            // other, that may add up to a level more.
+            ASSERT_LE (farthest, 4) << "seed " << seed << ", round " << round;
+            ASSERT_LE (beyondTwo, 24) << "seed " << seed << ", round " << round;
+        }
+    }
+}
+
+namespace
+{
+
+struct SmallChange
+{
+    const char* name;
+    void (*change) (PlaneComponent&);
+};
+
+const SmallChange smallChanges[] = {
+    { "source",
+      [] (PlaneComponent& p) {
+          p.SetSourcePosition (0, { 0.55f, 0.5f, 0 }, true);
+      } },
+    { "yaw", [] (PlaneComponent& p) { p.SetSourceYaw (0, 30, true); } },
+    { "source level", [] (PlaneComponent& p) { p.SetSourceLevel (0, -10); } },
+    { "speaker",
+      [] (PlaneComponent& p) {
+          p.SetSpeakerPosition (0, { -0.5f, 0.45f, 0 }, true);
+      } },
+    { "speakers, one of which moves",
+      [] (PlaneComponent& p) {
+          p.SetSpeakersPositions ({ { -0.5f, 0.45f, 0 }, p.GetSpeakerPosition (1) }, true);
+      } },
+    { "speaker level", [] (PlaneComponent& p) { p.SetSpeakerLevel (0, -10); } },
+    { "listener",
+      [] (PlaneComponent& p) {
+          p.SetListenerPosition ({ 0, -0.05f, 0 }, true);
+      } },
+    { "listener's yaw", [] (PlaneComponent& p) { p.SetListenerYaw (30, true); } },
+};
+
+int AreaOf (const juce::RectangleList<int>& parts)
+{
+    int pixels = 0;
+    for (const auto& part : parts)
+        pixels += part.getWidth() * part.getHeight();
+    return pixels;
+}
+
+/** Things that move one by one, far from each other. */
+struct SparsePlane
+{
+    SparsePlane()
+    {
+        plane.SetSourcePosition (0, { 0.5f, 0.5f, 0 }, false);
+        plane.SetSpeakerPosition (0, { -0.5f, 0.5f, 0 }, false);
+        plane.SetSpeakersEditable (true, false);
+        plane.SetSourcesLevelsVisible (true);
+        plane.SetSpeakersLevelsVisible (true);
+    }
+    PlaneComponent plane{ 1, 2, 400 };
+};
+
+}
+
+TEST (PlaneRepaint, AsksForWhatChangedAndForNoMore)
+{
+    for (const bool editable : { false, true })
+        for (const auto& row : smallChanges) {
+            SparsePlane sparse;
+            sparse.plane.SetListenerEditable (editable);
+            ScaledScreen screen (sparse.plane, 1);
+            const auto before = screen.Picture().createCopy();
+            row.change (sparse.plane);
+            const int painted = AreaOf (screen.Frame());
+            EXPECT_GT (FarthestLevels (before, screen.Picture()), 20) << row.name;
+            EXPECT_LT (painted, 400 * 400 / 10) << row.name;
+        }
+}
+
+TEST (PlaneRepaint, ManyMovesBetweenTwoFramesAskForTheWholeOnce)
+{
+    PlaneComponent plane (64, 0, 400);
+    ScaledScreen screen (plane, 1);
+    for (std::size_t i = 0; i < 64; ++i)
+        plane.SetSourcePosition (i, { 0.9f - 0.025f * static_cast<float> (i), 0, 0 }, true);
+    const auto painted = screen.Frame();
+    EXPECT_EQ (painted.getNumRectangles(), 1);
+    EXPECT_EQ (AreaOf (painted), 400 * 400);
+    plane.SetSourcePosition (0, { 0.9f, 0.1f, 0 }, true);
+    EXPECT_LT (AreaOf (screen.Frame()), 400 * 400 / 10) << "the next frame begins anew";
+}
+
+TEST (PlaneRepaint, GatedMovesLeaveItToTheCaller)
+{
+    SparsePlane sparse;
+    ScaledScreen screen (sparse.plane, 1);
+    sparse.plane.SetImmediateRepaint (false);
+    const auto before = screen.Picture().createCopy();
+    for (const auto& row : smallChanges)
+        row.change (sparse.plane);
+    EXPECT_TRUE (screen.Frame().isEmpty());
+    sparse.plane.repaint();
+    screen.Frame();
+    const auto shown = screen.Picture().createCopy();
+    EXPECT_GT (FarthestLevels (before, shown), 20);
+    RepaintAll (sparse.plane);
+    screen.Frame();
+    EXPECT_LE (FarthestLevels (shown, screen.Picture()), 2);
+}
+
+/** By hand, in a window: what is dragged and nothing else of the plane is painted. */
+TEST (PlaneRepaint, ADragPaintsWhatItDrags)
+{
+    SparsePlane sparse;
+    sparse.plane.SetListenerEditable (true);
+    ScaledScreen screen (sparse.plane, 1);
+    for (const auto from : { qel::Point3{ 0.5f, 0.5f, 0 }, qel::Point3{ -0.5f, 0.5f, 0 }, qel::Point3{} }) {
+        const auto at = sparse.plane.GetSurface().viewTransform.ToScreen (from);
+        sparse.plane.mouseDown (EventAt (sparse.plane, at));
+        screen.Frame();
+        for (int step = 1; step < 4; ++step) {
+            sparse.plane.mouseDrag (EventAt (sparse.plane, at + juce::Point<float> (0, 3.3f) * step));
+            const int painted = AreaOf (screen.Frame());
+            EXPECT_GT (painted, 0);
+            EXPECT_LT (painted, 400 * 400 / 8) << from.x;
+        }
+        sparse.plane.mouseUp (EventAt (sparse.plane, at));
+        screen.Frame();
+    }
+}
+
+/** The picture kept of what seldom moves, and the icons in it, have the screen's own pixels. Letters may stand a pixel
+    higher or lower, where their line falls right between two. */
+TEST (PlaneRepaint, TheStaticLayerIsSharpAtEveryScale)
+{
+    for (const float scale : { 1.0f, 1.25f, 1.5f, 2.0f }) {
+        PlaneComponent plane (0, 6, 300);
+        plane.SetAllSpeakerNamesVisible (false);
+        ScaledScreen screen (plane, scale);
+        juce::Image drawn (juce::Image::RGB, screen.Picture().getWidth(), screen.Picture().getHeight(), true,
+                           juce::SoftwareImageType());
+        {
+            juce::Graphics g (drawn);
+            g.addTransform (juce::AffineTransform::scale (scale));
+            g.fillAll (juce::Colours::black);
+            g.reduceClipRegion (plane.getBounds());
+            g.setOrigin (plane.getPosition());
+            lumo::Plane::DrawStaticLayer (g, plane.GetSurface(), plane.GetScene());
+        }
+        int different = 0;
+        FarthestLevels (screen.Picture(), drawn, &different);
+        EXPECT_LT (different, 0.01 * drawn.getWidth() * drawn.getHeight()) << scale; // of three channels a pixel
+    }
+}

@@ -1,0 +1,78 @@
+#pragma once
+#include <juce_gui_basics/juce_gui_basics.h>
+
+#include <cmath>
+
+/** A screen of any scale that shows a component somewhere in a window. It hears what is to be repainted, and paints
+    that and nothing else when a frame is due. */
+class ScaledScreen
+{
+public:
+    ScaledScreen (juce::Component& shownComponent, float screenScale, juce::Point<int> place = { 7, 13 })
+        : shown (shownComponent), scale (screenScale)
+    {
+        window.setSize (place.x + shown.getWidth() + 9, place.y + shown.getHeight() + 5);
+        window.setOpaque (true);
+        window.setVisible (true);
+        window.setCachedComponentImage (new Hearing (dirty));
+        shown.setTopLeftPosition (place);
+        window.addAndMakeVisible (shown);
+        const auto extent = [&] (int length) {
+            return static_cast<int> (std::ceil (static_cast<float> (length) * scale));
+        };
+        image = juce::Image (juce::Image::RGB, extent (window.getWidth()), extent (window.getHeight()), true,
+                             juce::SoftwareImageType());
+        dirty = window.getLocalBounds();
+        Frame();
+    }
+    ~ScaledScreen() { window.removeChildComponent (&shown); }
+
+    ScaledScreen (const ScaledScreen&) = delete;
+    ScaledScreen& operator= (const ScaledScreen&) = delete;
+
+    /** Gives what was repainted, in pixels of the component. */
+    juce::RectangleList<int> Frame()
+    {
+        juce::RectangleList<int> onScreen, ofShown;
+        for (const auto& area : std::exchange (dirty, {})) {
+            onScreen.add (
+                (area * static_cast<double> (scale)).getIntersection (image.getBounds())); // as windows of X11 do
+            ofShown.add (area - shown.getPosition());
+        }
+        if (! onScreen.isEmpty()) {
+            juce::LowLevelGraphicsSoftwareRenderer renderer (image, {}, onScreen);
+            renderer.addTransform (juce::AffineTransform::scale (scale));
+            juce::Graphics g (renderer);
+            window.paintEntireComponent (g, true);
+        }
+        return ofShown;
+    }
+
+    [[nodiscard]] const juce::Image& Picture() const { return image; }
+
+private:
+    struct Window : juce::Component
+    {
+        void paint (juce::Graphics& g) override { g.fillAll (juce::Colours::black); }
+    };
+
+    struct Hearing : juce::CachedComponentImage
+    {
+        explicit Hearing (juce::RectangleList<int>& list) : heard (list) {}
+        void paint (juce::Graphics&) override {}
+        bool invalidateAll() override { return false; }
+        bool invalidate (const juce::Rectangle<int>& area) override
+        {
+            heard.add (area);
+            return false;
+        }
+        void releaseResources() override {}
+        juce::RectangleList<int>& heard;
+    };
+
+    juce::Component& shown;
+    const float scale;
+    juce::RectangleList<int> dirty;
+    Window window;
+    juce::Image image;
+};
