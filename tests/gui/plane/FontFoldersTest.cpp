@@ -1,5 +1,5 @@
 #include "support/files/ScratchFolder.h"
-#include <juce/FontFolders.h>
+#include <FontFolders.h>
 
 #include <gtest/gtest.h>
 
