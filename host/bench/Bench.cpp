@@ -54,8 +54,7 @@ struct Bench::Patch
     bool held = false;
 
     /** Pumps when there is something to pump and sleeps meanwhile, until the time is over or the input can be read. */
-    void letTimePass (Bench& bench, std::chrono::milliseconds time, int input,
-                      const std::function<bool()>& goesOn);
+    void letTimePass (Bench& bench, std::chrono::milliseconds time, int input, const std::function<bool()>& goesOn);
 
     t_object* create (t_class* c, BoxRecord& record, const std::vector<Word>& words)
     {

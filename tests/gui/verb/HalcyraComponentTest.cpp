@@ -6,8 +6,8 @@
 
 #include <gmock/gmock.h>
 
-#include <functional>
 #include <JucePrivateParts.h>
+#include <functional>
 #include <limits>
 
 namespace
