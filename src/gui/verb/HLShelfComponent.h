@@ -26,7 +26,7 @@ public:
     void paint (juce::Graphics& g) override;
     bool keyPressed (const juce::KeyPress& key) override;
 
-    // The prescribed surface: a column that stands alone, with a filter of its own. Only notify tells.
+    // The column by itself, with a filter of its own. Only notify tells.
     explicit HLShelfComponent (const juce::String& name);
     void setParameters (const HLShelfParameters& wish, bool notify, bool force)
     {

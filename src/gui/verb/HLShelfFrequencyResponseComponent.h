@@ -38,7 +38,7 @@ public:
     /** Tells the listeners of the close key. */
     void requestClose();
 
-    // The prescribed surface: a curve that stands alone, with a filter of its own, and setters that are no hand's.
+    // The curve by itself, with a filter of its own, and setters that are no hand's.
     explicit HLShelfFrequencyResponseComponent (const juce::String& name);
     void setParameters (const HLShelfParameters& wish, bool notify, bool force);
     void setGlobalGain (float dB) { setField (0, dB, halcyra::Edit::message); }

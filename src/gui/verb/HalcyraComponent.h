@@ -66,7 +66,7 @@ public:
     [[nodiscard]] std::uint32_t numSpeakers() const noexcept { return numspeakers; }
     [[nodiscard]] std::uint32_t numInternals() const noexcept { return numinternals; }
 
-    // The prescribed surface: each parameter and filter by its own name.
+    // The same by name: one accessor and one setter for each parameter and filter.
     [[nodiscard]] float getReverbGain() const noexcept { return getTimeStructure().gain; }
     [[nodiscard]] float getTr0() const noexcept { return getTimeStructure().tr0; }
     [[nodiscard]] float getTrl() const noexcept { return getTimeStructure().trl; }

@@ -26,7 +26,7 @@ public:
     void resized() override;
     void paint (juce::Graphics& g) override;
 
-    // The prescribed surface: a page that stands alone, with a model of its own. Notification 1 tells, others are quiet.
+    // The page by itself, with a model of its own. Notification 1 tells, others are quiet.
     HalcyraTimeStructureTabComponent (const juce::String& name, int numinternals);
     void addListener (lumo::HalcyraTimeStructureListener* listener) { listeners.add (listener); }
     void removeListener (lumo::HalcyraTimeStructureListener* listener) { listeners.remove (listener); }
