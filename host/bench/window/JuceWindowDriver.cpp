@@ -44,6 +44,15 @@ juce::TabbedComponent* tabsIn (juce::Component& component)
     return nullptr;
 }
 
+/** Pages that are made only when the component is first drawn are made now. */
+juce::TabbedComponent* pagesOf (juce::Component& component)
+{
+    if (auto* tabs = tabsIn (component))
+        return tabs;
+    component.createComponentSnapshot ({ 1, 1 });
+    return tabsIn (component);
+}
+
 /** With all that lies over it in its window, menus included, if it is on view. What OpenGL draws is not in JUCE's
     reach: then the component paints itself once more, without. */
 juce::Image pictureOf (juce::Component& component)
@@ -86,7 +95,7 @@ std::string JuceWindowDriver::turnPage (void* object, int page)
     auto* const entry = find (object);
     if (entry == nullptr)
         return noWindow;
-    auto* const tabs = tabsIn (*entry->component);
+    auto* const tabs = pagesOf (*entry->component);
     if (tabs == nullptr || page < 0 || page >= tabs->getNumTabs())
         return "it has no page " + std::to_string (page);
     tabs->setCurrentTabIndex (page);
