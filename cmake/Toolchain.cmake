@@ -32,10 +32,11 @@ if(WIN32)
     add_link_options(-static -Wl,--gc-sections)
 endif()
 
-# A shared cache of objects, so that several work trees compile a file once.
+# A shared cache of objects, so that several work trees compile a file once; also the file of JUCE that holds the time of
+# its compilation.
 find_program(HALCYRA_CCACHE ccache)
 if(HALCYRA_CCACHE)
-    set(launcher "${CMAKE_COMMAND};-E;env;CCACHE_BASEDIR=${CMAKE_SOURCE_DIR};CCACHE_NOHASHDIR=1;${HALCYRA_CCACHE}")
+    set(launcher "${CMAKE_COMMAND};-E;env;CCACHE_BASEDIR=${CMAKE_SOURCE_DIR};CCACHE_NOHASHDIR=1;CCACHE_SLOPPINESS=time_macros;${HALCYRA_CCACHE}")
     set(CMAKE_C_COMPILER_LAUNCHER "${launcher}")
     set(CMAKE_CXX_COMPILER_LAUNCHER "${launcher}")
 endif()

@@ -2,6 +2,7 @@
 
 #include "external/SceneMirror.h"
 #include "gui/plane/PlaneComponent.h"
+#include "max/ObjectCall.h"
 #include "max/OrvanemaxSymbols.h"
 
 #include <utility>
@@ -63,7 +64,7 @@ constexpr FlagMirror flagMirrors[] = {
 template <typename Value>
 void mirror (t_halcyra_control* x, Value& stored, Value value, const char* attribute)
 {
-    if (std::exchange (stored, value) != value)
+    if (! orvanemax::objectIsGone() && std::exchange (stored, value) != value)
         touchAttribute (x, gensym (attribute));
 }
 
@@ -71,6 +72,8 @@ void mirror (t_halcyra_control* x, Value& stored, Value value, const char* attri
 
 void mirrorViewerOptions (t_halcyra_control* x)
 {
+    if (orvanemax::objectIsGone())
+        return;
     PlaneOptions options;
     x->plane->GetOptions (options);
     for (const auto& row : flagMirrors)

@@ -190,6 +190,29 @@ std::vector<Reentrancy::Road> Reentrancy::roads()
         for (const auto* word : { "v", "a", "g", "tab", "-", "cursor left", "ctrl + w" })
             t.key (word);
     });
+    // What was done by hand leaves again as it is taken back, from inside the key that takes it back.
+    const auto takenBack = [&] (const char* name, int page, auto&& edit) {
+        all.push_back ({ name,
+                         [=] (auto& t) {
+                             t.openAt (page);
+                             edit (t);
+                         },
+                         [] (auto& t) {
+                             for (const auto* word : { "ctrl + z", "ctrl + y", "ctrl + z", "ctrl + shift + z" }) {
+                                 t.key (word);
+                                 t.settle();
+                             }
+                         },
+                         true });
+    };
+    takenBack ("a slider is undone", 0, [] (auto& t) { t.drag (138, 241, 58, 241); });
+    takenBack ("the reset button is undone", 0, [] (auto& t) {
+        t.drag (138, 241, 58, 241);
+        t.point (Action::down, 683, 366);
+        t.point (Action::up, 683, 366);
+    });
+    takenBack ("a handle is undone", 1, [] (auto& t) { t.drag (65, 135, 65, 61); });
+    takenBack ("a source's move is undone", 2, [] (auto& t) { t.drag (213, 80, 250, 160); });
     onPage ("the menu", 2, [] (auto& t) {
         t.point (Action::down, 300, 200, 0, true);
         t.point (Action::up, 300, 200, 0, true);
