@@ -29,7 +29,7 @@ bool forwardKeyed (t_halcyra_control* x, t_symbol* group, Atoms atoms)
     return false;
 }
 
-/** The atoms are parsed here only to tell of a bad list; the working record belongs to the handler. */
+/** The atoms are parsed here only to tell of a bad list: what they change is known when the handler runs. */
 bool forwardFilter (t_halcyra_control* x, t_symbol* selector, Atoms atoms)
 {
     HLShelfParameters unused;

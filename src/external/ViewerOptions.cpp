@@ -79,6 +79,10 @@ void mirrorViewerOptions (t_halcyra_control* x)
     for (const auto& row : flagMirrors)
         mirror<t_atom_long> (x, x->*row.mirror, options.*row.flag ? 1 : 0, row.attribute);
     mirror (x, x->zoom, options.zoom, "zoom");
+    const auto& view = x->plane->GetSurface().viewTransform;
+    mirror (x, x->xoffset, view.xOffset, "xoffset");
+    mirror (x, x->yoffset, view.yOffset, "yoffset");
+    mirror (x, x->zoffset, view.zOffset, "zoffset");
     mirror (x, x->gridspacing, options.gridSpacing, "gridspacing");
     mirror<t_atom_long> (x, x->numangulardivisions, options.gridNumAngularDivisions, "numangulardivisions");
     mirror<t_atom_long> (x, x->gridlines, options.gridNumLines, "gridlines");

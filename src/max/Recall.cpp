@@ -1,6 +1,7 @@
 #include "max/Recall.h"
 
 #include "max/AttributeValue.h"
+#include "max/Guarded.h"
 #include "max/ObjectCall.h"
 
 #include <algorithm>
@@ -22,7 +23,7 @@ std::vector<t_atom> present (void* object, t_symbol* name)
 bool equal (const std::vector<t_atom>& a, const std::vector<t_atom>& b)
 {
     return std::equal (a.begin(), a.end(), b.begin(), b.end(), [] (const t_atom& x, const t_atom& y) {
-        return atom_gettype (&x) == atom_gettype (&y) && atom_getlong (&x) == atom_getlong (&y);
+        return x.a_type == y.a_type && x.a_w.w_long == y.a_w.w_long;
     });
 }
 
@@ -60,6 +61,12 @@ t_max_err Recall::set (t_symbol* name, t_clong count, t_atom* atoms)
 }
 
 Recall::~Recall()
+{
+    if (! objectIsGone())
+        guarded (object, [this] { setLate(); });
+}
+
+void Recall::setLate()
 {
     for (auto& row : late)
         if (! objectIsGone() && (row.isSet || ! equal (row.value, present (object, row.name))))

@@ -40,6 +40,8 @@ private:
         bool isSet; // by the recall
     };
 
+    void setLate();
+
     void* object;
     std::vector<Late> late;
 };

@@ -1,4 +1,5 @@
 #pragma once
+#include "reverb/HalcyraParameters.h"
 
 namespace lumo
 {
@@ -7,8 +8,10 @@ namespace lumo
     right on a logarithmic scale, 30 to -30 dB from top to bottom. */
 struct HLShelfScale
 {
-    static constexpr double lowestFrequency = 20, highestFrequency = 20000;
-    static constexpr double lowestGain = -30, highestGain = 30;
+    static constexpr const halcyra::SliderRange &frequencies = halcyra::shelfTable[4].range,
+                                                &gains = halcyra::shelfTable[1].range;
+    static constexpr double lowestFrequency = frequencies.lowest, highestFrequency = frequencies.highest;
+    static constexpr double lowestGain = gains.lowest, highestGain = gains.highest;
 
     double width = 0, height = 0;
 

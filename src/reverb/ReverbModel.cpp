@@ -87,11 +87,13 @@ float ReverbModel::value (ReverbCell number) const noexcept
 void ReverbModel::setParameter (HalcyraReverbParameter number, float wish, Edit edit)
 {
     const auto* row = parameterRow (number);
-    if (row == nullptr || ! std::isfinite (wish) || (number == held && edit != Edit::hand))
+    if (row == nullptr || ! std::isfinite (wish))
         return;
     const auto linked = linkedIndex (number);
     if (linked >= 0 && edit == Edit::message)
         return wishTime (linked, wish);
+    if (number == held && edit != Edit::hand)
+        return;
     if (linked >= 0)
         timesWished.reset();
     store (number,
@@ -136,6 +138,8 @@ void ReverbModel::wishTime (int index, float wish)
     timesWished.set (static_cast<std::size_t> (index));
     if (timesWished.all())
         return recallTimes (timeWishes, Edit::message);
+    if (number == held)
+        return;
     const auto& row = rowOf (number);
     store (number, row.range.stepped (limited (row, wish, stageTimes())), Edit::message);
 }
@@ -143,13 +147,13 @@ void ReverbModel::wishTime (int index, float wish)
 /** The wishes as they fit together, whatever stands at present. */
 ReverbModel::Times ReverbModel::fitted (Times wishes) const noexcept
 {
-    if (const auto index = linkedIndex (held); index >= 0)
-        wishes[static_cast<std::size_t> (index)] = valueOf (values, rowOf (held));
     const auto lowest = [] (auto number) { return static_cast<float> (rowOf (number).range.lowest); };
     HalcyraTimeStructure fit;
     fit.earlyStart = lowest (parameter::earlyStart);
     fit.clusterStart = lowest (parameter::clusterStart);
     fit.clusterEnd = static_cast<float> (rowOf (parameter::clusterEnd).range.highest);
+    if (const auto index = linkedIndex (held); index >= 0) // the others fit around what the hand holds
+        wishes[static_cast<std::size_t> (index)] = fit.*rowOf (held).value = valueOf (values, rowOf (held));
     for (std::size_t i = 0; i < wishes.size(); ++i) {
         const auto& row = rowOf (linkedTimes[i]);
         const StageTimes present{ fit.earlyStart, fit.earlyEnd, fit.clusterStart, fit.clusterEnd };

@@ -275,6 +275,13 @@ TEST (ReverbModel, TheHandThatHoldsAControlWinsOverMessages)
         model.set (number, 5);
     EXPECT_EQ (model.parameters().earlyEnd, 39.71f);
     EXPECT_GE (model.parameters().clusterEnd, 39.71f) << "the limits hold all the same";
+    model.end();
+    model.hold (parameter::earlyStart);
+    const float held = model.parameters().earlyStart;
+    for (const int number : { 7, 8, 12, 13, 15 })
+        model.set (number, 2);
+    EXPECT_EQ (model.parameters().earlyStart, held) << "a recall fits around it too";
+    EXPECT_EQ (model.parameters().earlyEnd, held);
 }
 
 TEST (ReverbModel, FiltersAreClippedNeverSteppedAndAnEqualOneIsSilent)

@@ -172,6 +172,17 @@ void PlaneBase::SetXOffset (float pixels) { SetOffset (surface.viewTransform.xOf
 void PlaneBase::SetYOffset (float pixels) { SetOffset (surface.viewTransform.yOffset, pixels); }
 void PlaneBase::SetZOffset (float pixels) { SetOffset (surface.viewTransform.zOffset, pixels); }
 
+void PlaneBase::ShiftView (float right, float up)
+{
+    auto& view = surface.viewTransform;
+    SetXOffset (view.xOffset + right);
+    if (view.topView)
+        SetYOffset (view.yOffset + up);
+    else
+        SetZOffset (view.zOffset + up);
+    NotifyOptionsChanged();
+}
+
 void PlaneBase::SetMarkerProportion (float proportion)
 {
     if (! AreFinite (proportion))

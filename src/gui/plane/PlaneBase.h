@@ -43,6 +43,8 @@ public:
     void SetXOffset (float pixels);
     void SetYOffset (float pixels);
     void SetZOffset (float pixels);
+    /** Adds pixels to the offsets across and along the view, and tells the listeners of the options. */
+    void ShiftView (float right, float up);
     /** 0.001 to 1 of the width: the margin of the scene, and the size of anchors and label boxes. */
     void SetMarkerProportion (float proportion);
 

@@ -71,45 +71,45 @@ void ImpulseResponseComponent::store (float& field, float value, unsigned makesS
     repaint();
 }
 
-void ImpulseResponseComponent::setTr0 (float seconds) { store (tr0, seconds, decay); }
-void ImpulseResponseComponent::setTrl (float ratio) { store (trl, ratio, decay); }
-void ImpulseResponseComponent::setTrm (float ratio) { store (trm, ratio, decay); }
-void ImpulseResponseComponent::setTrh (float ratio) { store (trh, ratio, decay); }
-void ImpulseResponseComponent::setReverbStart (float ms) { store (reverbStart, ms, decay); }
+void ImpulseResponseComponent::setTr0 (float seconds) { store (shown.tr0, seconds, decay); }
+void ImpulseResponseComponent::setTrl (float ratio) { store (shown.trl, ratio, decay); }
+void ImpulseResponseComponent::setTrm (float ratio) { store (shown.trm, ratio, decay); }
+void ImpulseResponseComponent::setTrh (float ratio) { store (shown.trh, ratio, decay); }
+void ImpulseResponseComponent::setReverbStart (float ms) { store (shown.reverbStart, ms, decay); }
 
 void ImpulseResponseComponent::setEarlyStart (float ms)
 {
-    store (earlyStart, std::min (ms, earlyEnd), earlyDelays | earlyGains);
+    store (shown.earlyStart, std::min (ms, shown.earlyEnd), earlyDelays | earlyGains);
 }
 
 void ImpulseResponseComponent::setEarlyEnd (float ms)
 {
-    store (earlyEnd, std::max (ms, earlyStart), earlyDelays | earlyGains);
+    store (shown.earlyEnd, std::max (ms, shown.earlyStart), earlyDelays | earlyGains);
 }
 
 void ImpulseResponseComponent::setEarlyDistr (float distribution)
 {
-    store (earlyDistr, distribution, earlyDelays | earlyGains);
+    store (shown.earlyDistr, distribution, earlyDelays | earlyGains);
 }
 
 void ImpulseResponseComponent::setEarlyShape (float shape)
 {
-    store (earlyShape, std::clamp (shape, 0.0f, 1.0f), earlyGains);
+    store (shown.earlyShape, std::clamp (shape, 0.0f, 1.0f), earlyGains);
 }
 
 void ImpulseResponseComponent::setClusterStart (float ms)
 {
-    store (clusterStart, std::max (1.0f, ms - earlyStart), clusterDelays);
+    store (shown.clusterStart, std::max (1.0f, ms - shown.earlyStart), clusterDelays);
 }
 
 void ImpulseResponseComponent::setClusterEnd (float ms)
 {
-    store (clusterEnd, std::max (1.0f, ms - earlyEnd), clusterDelays);
+    store (shown.clusterEnd, std::max (1.0f, ms - shown.earlyEnd), clusterDelays);
 }
 
 void ImpulseResponseComponent::setClusterDistr (float distribution)
 {
-    store (clusterDistr, distribution, clusterDelays);
+    store (shown.clusterDistr, distribution, clusterDelays);
 }
 
 ImpulseResponseScale ImpulseResponseComponent::scale() const noexcept
@@ -122,11 +122,11 @@ void ImpulseResponseComponent::bringUpToDate (float pixelScale)
     if (std::exchange (decayPixelScale, pixelScale) != pixelScale)
         stale |= decay;
     if ((stale & earlyDelays) != 0)
-        early.setMinMax (earlyStart, earlyEnd, earlyDistr);
+        early.setMinMax (shown.earlyStart, shown.earlyEnd, shown.earlyDistr);
     if ((stale & clusterDelays) != 0)
-        cluster.setMinMax (clusterStart, clusterEnd, clusterDistr);
+        cluster.setMinMax (shown.clusterStart, shown.clusterEnd, shown.clusterDistr);
     if ((stale & earlyGains) != 0)
-        halcyra::earlyGains (gains, earlyShape, std::abs (earlyEnd - earlyStart), false);
+        halcyra::earlyGains (gains, shown.earlyShape, std::abs (shown.earlyEnd - shown.earlyStart), false);
     if ((stale & decay) != 0)
         buildDecay (pixelScale);
     if ((stale & ticks) != 0)
@@ -137,16 +137,16 @@ void ImpulseResponseComponent::bringUpToDate (float pixelScale)
 void ImpulseResponseComponent::buildDecay (float pixelScale)
 {
     const auto s = scale();
-    const juce::Point<float> corner{ s.x (reverbStart), s.top (1) };
+    const juce::Point<float> corner{ s.x (shown.reverbStart), s.top (1) };
     // Seconds are held against ms here, and pictures rely on it: it bites only where the reverb starts within 30 ms.
-    const float seconds = std::clamp (tr0, 0.0f, reverbStart);
+    const float seconds = std::clamp (shown.tr0, 0.0f, shown.reverbStart);
     const auto shape = [&] (float ratio, float control) {
         return decayShape (corner, s.x (seconds * ratio * 1000), s.height, control, s.width);
     };
     const std::vector<OverlaidFill> bands{
-        { shape (trl, 67.0f / 193), juce::Colour (0x80FF0000) },
-        { shape (trm, 42.0f / 134), juce::Colour (0x80AEFF00) },
-        { shape (trh, 37.0f / 84), juce::Colour (0x800057FF) },
+        { shape (shown.trl, 67.0f / 193), juce::Colour (0x80FF0000) },
+        { shape (shown.trm, 42.0f / 134), juce::Colour (0x80AEFF00) },
+        { shape (shown.trh, 37.0f / 84), juce::Colour (0x800057FF) },
     };
     juce::Rectangle<float> extent;
     for (const auto& band : bands)

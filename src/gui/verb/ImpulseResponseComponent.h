@@ -2,6 +2,7 @@
 #include "gui/verb/ImpulseResponseScale.h"
 #include "gui/verb/OverlaidFills.h"
 #include "reverb/Delgen.h"
+#include "reverb/HalcyraParameters.h"
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
@@ -62,10 +63,7 @@ private:
     void paintTicks (juce::Graphics& g) const;
     void paintTaps (juce::Graphics& g) const;
 
-    float tr0 = 1.995f, trl = 1, trm = 1, trh = 0.5f;
-    float reverbStart = 95.37f;
-    float earlyStart = 22.22f, earlyEnd = 39.71f, earlyDistr = 0.5f, earlyShape = 0.5f;
-    float clusterStart = 42.47f, clusterEnd = 105.64f, clusterDistr = 0.5f;
+    HalcyraTimeStructure shown; // the cluster's times relative to the early stage's, once they have been set
     float zoom = ImpulseResponseScale::defaultZoom;
 
     Ambrel::Delgen early, cluster;

@@ -23,23 +23,12 @@ void Zoom (PlaneComponent& plane)
     plane.SetZoom (plane.GetSurface().viewTransform.zoom * std::exp2 (octavesPerKey * direction), true);
 }
 
-/** The step follows the width in both directions. */
-float ArrowStep (const PlaneComponent& plane) { return static_cast<float> (plane.getWidth()) / 10.0f; }
-
-template <int direction>
-void Across (PlaneComponent& plane)
+/** Steps to the right and up. Their length follows the width in both directions. */
+template <int right, int up>
+void Shift (PlaneComponent& plane)
 {
-    plane.SetXOffset (plane.GetSurface().viewTransform.xOffset + direction * ArrowStep (plane));
-}
-
-template <int direction>
-void Along (PlaneComponent& plane)
-{
-    const auto& view = plane.GetSurface().viewTransform;
-    if (view.topView)
-        plane.SetYOffset (view.yOffset + direction * ArrowStep (plane));
-    else
-        plane.SetZOffset (view.zOffset + direction * ArrowStep (plane));
+    const float step = static_cast<float> (plane.getWidth()) / 10.0f;
+    plane.ShiftView (right * step, up * step);
 }
 
 void ZoomToOne (PlaneComponent& plane) { plane.SetZoom (1.0f, true); }
@@ -105,10 +94,10 @@ const auto& Rows()
         Row{ 'm', plain, Command<13> },
         Row{ 'a', ctrl, SelectAll },
         Row{ 'g', plain, NextGrid },
-        Row{ KeyPress::rightKey, plain, Across<-1> },
-        Row{ KeyPress::leftKey, plain, Across<1> },
-        Row{ KeyPress::upKey, plain, Along<-1> },
-        Row{ KeyPress::downKey, plain, Along<1> },
+        Row{ KeyPress::rightKey, plain, Shift<-1, 0> },
+        Row{ KeyPress::leftKey, plain, Shift<1, 0> },
+        Row{ KeyPress::upKey, plain, Shift<0, -1> },
+        Row{ KeyPress::downKey, plain, Shift<0, 1> },
         Row{ KeyPress::tabKey, plain, SelectNext },
     };
     return rows;

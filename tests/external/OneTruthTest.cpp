@@ -1,0 +1,793 @@
+#include "ControlTest.h"
+
+#include "external/ReverbParameters.h"
+#include "gui/plane/PlaneComponent.h"
+#include "gui/verb/HLShelfComponent.h"
+#include "gui/verb/HalcyraComponent.h"
+#include "gui/verb/HalcyraTimeStructureLayout.h"
+#include "host/bench/WindowDriver.h"
+#include "host/bench/Words.h"
+#include "text/OrvaneDspUnitText.h"
+
+#include <cmath>
+#include <deque>
+#include <map>
+#include <random>
+
+namespace
+{
+
+namespace cell = halcyra::cell;
+namespace parameter = halcyra::parameter;
+using halcyra::Edit;
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr int stepsOfWalk = 1000;
+#else
+constexpr int stepsOfWalk = 13000;
+#endif
+constexpr int stepsBetweenRecalls = 60;
+
+/** What left last by an outlet, by box and first words: "reverb tr0". */
+using Told = std::map<std::string, bench::Atoms>;
+
+struct Sizes
+{
+    int sources, speakers, internals;
+
+    [[nodiscard]] std::string words() const
+    {
+        return "@numsources " + std::to_string (sources) + " @numspeakers " + std::to_string (speakers) +
+               " @numinternals " + std::to_string (internals);
+    }
+};
+
+constexpr Sizes walkSizes[] = { { 6, 6, 8 }, { 1, 1, 2 }, { 3, 2, 16 }, { 2, 9, 9 } };
+
+class Dice
+{
+public:
+    explicit Dice (unsigned seed) : random (seed) {}
+
+    int below (int end) { return static_cast<int> (random() % static_cast<unsigned> (end)); }
+    bool oneIn (int n) { return below (n) == 0; }
+    int jitter (int most) { return below (2 * most + 1) - most; }
+    double between (double low, double high) { return std::uniform_real_distribution<> (low, high) (random); }
+    template <typename Row, std::size_t size>
+    const Row& of (const Row (&rows)[size])
+    {
+        return rows[below (static_cast<int> (size))];
+    }
+    template <typename Rows>
+    const auto& in (const Rows& rows)
+    {
+        return rows[static_cast<std::size_t> (below (static_cast<int> (rows.size())))];
+    }
+
+private:
+    std::mt19937 random;
+};
+
+std::string text (double value) { return bench::textOf (static_cast<float> (value)); }
+
+/** Mostly inside a range and on its ends, at times beyond them. */
+std::string numberAbout (Dice& dice, double low, double high)
+{
+    switch (dice.below (10)) {
+    case 0:
+        return text (low);
+    case 1:
+        return text (high);
+    case 2:
+        return text (dice.between (low - 0.5 * (high - low), high + 0.5 * (high - low)));
+    case 3:
+        return std::to_string (static_cast<int> (dice.between (low, high)));
+    default:
+        return text (dice.between (low, high));
+    }
+}
+
+constexpr const char* badMessages[] = {
+    "gain foo",   "tr0",          "reverb tr0 foo",     "early start",         "early foo 3",         "cluster 3",
+    "roomsize",   "roomsize 3",   "direct foo",         "direct 1 2 3",        "direct freqs 1",      "reverb air 0.5",
+    "infinite x", "gridmode foo", "viewpoint diagonal", "orientationmode foo", "source 99 xyz 1 2 3", "zoom foo",
+};
+
+constexpr const char* switches[] = { "zoomlock",
+                                     "showheadphones",
+                                     "showspeakers",
+                                     "radiusconstraint",
+                                     "circularconstraint",
+                                     "speakerseditable",
+                                     "listenereditable",
+                                     "sourceseditable",
+                                     "showaperture",
+                                     "display",
+                                     "defer",
+                                     "showlistener",
+                                     "showradius",
+                                     "windowmoveable",
+                                     "autozoom",
+                                     "showsources" };
+
+std::string reverbMessage (Dice& dice)
+{
+    const auto& row = dice.in (halcyra::parameterTable);
+    const auto& words = halcyra::reverbMirrors[static_cast<std::size_t> (row.number)];
+    const bool isGrouped = dice.oneIn (2);
+    const auto selector = isGrouped ? std::string (row.selector) + " " + row.key
+                                    : std::string (orvanemax::symbol (words.attribute)->s_name);
+    const auto value =
+        row.isSwitch() ? std::to_string (dice.below (2)) : numberAbout (dice, row.range.lowest, row.range.highest);
+    return selector + " " + value;
+}
+
+std::string filterMessage (Dice& dice)
+{
+    std::string message = dice.in (halcyra::filterNames);
+    const auto value = [&] (std::size_t field) {
+        const auto& row = halcyra::shelfTable[field];
+        return " " + numberAbout (dice, static_cast<double> (row.lowest), static_cast<double> (row.highest));
+    };
+    const auto values = [&] (std::size_t first, std::size_t end) {
+        for (auto field = first; field < end; ++field)
+            message += value (field);
+        return message;
+    };
+    switch (dice.below (4)) {
+    case 0:
+        return values (0, 6);
+    case 1:
+        message += " gains";
+        return values (0, 4);
+    case 2:
+        message += " freqs";
+        return values (4, 6);
+    default: {
+        const auto field = static_cast<std::size_t> (dice.below (6));
+        return message + " " + halcyra::shelfTable[field].name + value (field);
+    }
+    }
+}
+
+std::string sceneMessage (Dice& dice, const Sizes& sizes)
+{
+    const auto source = "source " + std::to_string (1 + dice.below (sizes.sources)) + " ";
+    const auto metres = [&] { return " " + text (dice.between (-4, 4)); };
+    const auto degrees = [&] { return " " + text (dice.between (-400, 400)); };
+    const auto each = [&] (const std::string& name, int count, auto&& value) {
+        auto message = name;
+        for (int i = 0; i < count; ++i)
+            message += value();
+        return message;
+    };
+    constexpr const char* modes[] = { "yawconstraint", "translation", "follow", "listenerconstraint", "none" };
+    constexpr const char* grids[] = { "none", "circular", "square" };
+    constexpr const char* formats[] = { "xyz", "aed", "xy", "ad" };
+    switch (dice.below (24)) {
+    case 0:
+        return source + "xyz" + metres() + metres() + metres();
+    case 1:
+        return source + "aed" + degrees() + " " + text (dice.between (-90, 90)) + " " + text (dice.between (0, 5));
+    case 2:
+        return source + "yaw" + degrees();
+    case 3:
+        return source + "aperture " + text (dice.between (0, 200));
+    case 4:
+        return source + "lookat" + metres() + metres() + metres();
+    case 5:
+        return source + "orientationmode " + dice.of (modes);
+    case 6:
+        return source + "radius " + text (dice.between (0, 40));
+    case 7:
+        return source + "name word" + std::to_string (dice.below (9));
+    case 8:
+        return source + "color " + each ("", 4, [&] { return " " + text (dice.between (0, 1)); });
+    case 9:
+        return "listener xyz" + metres() + metres() + metres();
+    case 10:
+        return "listener rpy" + degrees() + degrees() + degrees();
+    case 11:
+        return "listener x++ 0.1";
+    case 12:
+        return "speaker " + std::to_string (1 + dice.below (sizes.speakers)) + " xyz" + metres() + metres() + metres();
+    case 13:
+        return "rotate " + std::to_string (dice.below (sizes.sources + 1)) + degrees() + " 0 0";
+    case 14:
+        return "zoom " + text (dice.between (0, 4));
+    case 15:
+        return std::string ("gridmode ") + dice.of (grids);
+    case 16:
+        return std::string ("format ") + dice.of (formats);
+    case 17:
+        return std::string ("viewpoint ") + (dice.oneIn (2) ? "top" : "front");
+    case 18:
+        return "listeneryaw" + degrees();
+    case 19:
+        return each ("yaw", sizes.sources, degrees);
+    case 20:
+        return each ("sourcespositions", 3 * sizes.sources, metres);
+    case 21:
+        return each ("sourceslevels", sizes.sources, [&] { return " " + text (dice.between (-70, 10)); });
+    default:
+        return std::string (dice.of (switches)) + " " + std::to_string (dice.below (2));
+    }
+}
+
+std::string roomMessage (Dice& dice) { return "roomsize " + text (dice.between (-1000, 16000)); }
+
+std::string randomMessage (Dice& dice, const Sizes& sizes)
+{
+    switch (dice.below (16)) {
+    case 0:
+        return roomMessage (dice);
+    case 1:
+        return dice.oneIn (3) ? "reset" : "bang";
+    case 2:
+        return dice.of (badMessages);
+    case 3:
+    case 4:
+    case 5:
+        return filterMessage (dice);
+    case 6:
+    case 7:
+    case 8:
+        return sceneMessage (dice, sizes);
+    default:
+        return reverbMessage (dice);
+    }
+}
+
+/** What a message carries if the bench's words cannot. */
+bench::Atoms badNumbers (Dice& dice)
+{
+    bench::Atoms atoms (static_cast<std::size_t> (1 + dice.below (6)));
+    for (auto& atom : atoms)
+        atom_setfloat (&atom, dice.oneIn (2) ? std::nan ("") : (dice.oneIn (2) ? HUGE_VAL : -HUGE_VAL));
+    return atoms;
+}
+
+template <typename Part>
+std::vector<Part*> partsOf (juce::Component& parent)
+{
+    std::vector<Part*> parts;
+    for (auto* child : parent.getChildren())
+        if (auto* part = dynamic_cast<Part*> (child))
+            parts.push_back (part);
+    return parts;
+}
+
+std::vector<float> reverbOf (const HalcyraComponent& component)
+{
+    std::vector<float> values;
+    for (int i = 0; i < cell::count; ++i)
+        if (i != cell::roomSize)
+            values.push_back (component.getModel().value (i));
+    return values;
+}
+
+}
+
+class OneTruth : public ControlTest
+{
+protected:
+    OneTruth()
+    {
+        patch.setListener ([this] (const bench::Event& event) {
+            if (! event.onMainThread)
+                return;
+            if (event.kind == bench::Event::Kind::out && event.outlet == 0)
+                told[event.box + keyOf (event)] = event.atoms;
+            else if (event.kind == bench::Event::Kind::bug)
+                bugs.push_back (event.text);
+        });
+    }
+
+    static std::string keyOf (const bench::Event& event)
+    {
+        if (event.atoms.empty() || event.atoms.front().a_type == A_FLOAT)
+            return " " + event.text;
+        const auto& first = event.atoms.front();
+        return " " + event.text + " " +
+               (first.a_type == A_SYM ? std::string (atom_getsym (&first)->s_name)
+                                      : std::to_string (atom_getlong (&first)));
+    }
+
+    static HalcyraComponent& componentOf (const TestBox& box) { return *box.record<t_halcyra_control>()->component; }
+
+    // ---- The walk
+
+    void walk (const Sizes& sizes, unsigned seed)
+    {
+        Dice dice (seed);
+        walker = std::make_unique<TestBox> (make ("halcyra~.control " + sizes.words()));
+        receiver = std::make_unique<TestBox> (make ("halcyra~.control " + sizes.words()));
+        settle();
+        pressed = false;
+        pool = { bench::stateOf (**walker).value() };
+        for (int i = 0; i < stepsOfWalk; ++i) {
+            turn (dice, sizes);
+            agree (*walker);
+            if (dice.oneIn (4)) {
+                walker->send ("bang");
+                settle();
+                agree (*walker);
+            }
+            if (dice.oneIn (20) && ! HasFailure())
+                keepState (dice);
+            if (dice.oneIn (stepsBetweenRecalls) && ! HasFailure())
+                recallByAllRoads (dice, sizes);
+            if (HasFailure()) {
+                std::string steps;
+                for (const auto& line : log)
+                    steps += line + "\n";
+                FAIL() << sizes.words() << ", step " << i << ", after\n" << steps;
+            }
+        }
+        walker->free();
+        receiver->free();
+        settle();
+        told.clear();
+    }
+
+    /** One or more steps, until all has been told. */
+    void turn (Dice& dice, const Sizes& sizes)
+    {
+        const bool isHeld = dice.oneIn (4);
+        if (isHeld)
+            patch.hold();
+        const bool aloneAndFree = ! isHeld && ! pressed;
+        if (aloneAndFree && dice.oneIn (20)) {
+            const auto message = roomMessage (dice);
+            act (message);
+            settle();
+            const auto volume = static_cast<float> (std::atof (message.c_str() + sizeof "roomsize"));
+            return expectRoom (volume);
+        }
+        for (int steps = isHeld ? 1 + dice.below (7) : 1; steps > 0; --steps)
+            step (dice, sizes);
+        note (isHeld ? "release" : "settle");
+        if (isHeld)
+            patch.release();
+        else
+            settle();
+    }
+
+    void step (Dice& dice, const Sizes& sizes)
+    {
+        switch (dice.below (12)) {
+        case 0:
+        case 1:
+        case 2:
+            return hand (dice);
+        case 3:
+            return key (dice);
+        case 4:
+            if (dice.oneIn (3))
+                return recallOldState (dice);
+            return window (dice);
+        case 5:
+            if (dice.oneIn (4)) {
+                const auto& mirror = dice.in (halcyra::reverbMirrors);
+                const std::string name =
+                    dice.oneIn (4) ? dice.in (halcyra::filterNames) : orvanemax::symbol (mirror.attribute)->s_name;
+                note (name + " with bad numbers");
+                return walker->send (name, badNumbers (dice));
+            }
+            [[fallthrough]];
+        default:
+            act (randomMessage (dice, sizes), dice.oneIn (8) ? bench::Thread::scheduler : bench::Thread::main);
+        }
+    }
+
+    void note (const std::string& line)
+    {
+        log.push_back (line);
+        if (log.size() > 40)
+            log.pop_front();
+    }
+
+    void act (const std::string& message, bench::Thread thread = bench::Thread::main)
+    {
+        note ((thread == bench::Thread::main ? "send " : "scheduler: send ") + message);
+        walker->send (message, thread);
+    }
+
+    void window (Dice& dice)
+    {
+        switch (dice.below (8)) {
+        case 0:
+            return act ("wclose");
+        case 1:
+        case 2:
+            return act ("open");
+        default: {
+            const int page = dice.below (3);
+            note ("page " + std::to_string (page));
+            bench::windowDriver()->turnPage ((*walker)->object, page);
+        }
+        }
+    }
+
+    void pointer (bench::PointerEvent event, juce::Point<int> place)
+    {
+        event.x = static_cast<float> (place.x);
+        event.y = static_cast<float> (place.y);
+        constexpr const char* names[] = { "down", "drag", "up", "move", "double", "wheel" };
+        note (std::string ("mouse ") + names[static_cast<int> (event.action)] + " " + std::to_string (place.x) + " " +
+              std::to_string (place.y) +
+              (event.wheelDelta != 0 ? " " + text (static_cast<double> (event.wheelDelta)) : "") +
+              (event.shift ? " shift" : "") + (event.ctrl ? " ctrl" : "") + (event.alt ? " alt" : ""));
+        bench::windowDriver()->pointer ((*walker)->object, event);
+    }
+
+    void hand (Dice& dice)
+    {
+        using Action = bench::PointerEvent::Action;
+        const auto place = target (dice);
+        bench::PointerEvent event;
+        event.ctrl = dice.oneIn (6);
+        event.alt = dice.oneIn (6);
+        event.shift = dice.oneIn (8);
+        const auto with = [&event] (Action action) {
+            event.action = action;
+            return event;
+        };
+        if (pressed) {
+            pressed = ! dice.oneIn (3);
+            return pointer (with (pressed ? Action::drag : Action::up), place);
+        }
+        switch (dice.below (6)) {
+        case 0:
+            event.wheelDelta = 0.2f * static_cast<float> (dice.jitter (5));
+            return pointer (with (Action::wheel), place);
+        case 1:
+            return pointer (with (Action::doubleClick), place);
+        case 2:
+            pressed = true;
+            return pointer (with (Action::down), place);
+        default:
+            pointer (with (Action::down), place);
+            for (int i = dice.below (3); i > 0; --i)
+                pointer (with (Action::drag), place + juce::Point<int> (dice.jitter (60), dice.jitter (60)));
+            pointer (with (Action::up), place + juce::Point<int> (dice.jitter (60), dice.jitter (60)));
+        }
+    }
+
+    /** A control of the page in front, or something of the scene. */
+    juce::Point<int> target (Dice& dice)
+    {
+        auto& component = componentOf (*walker);
+        const juce::Point<int> anywhere (dice.below (component.getWidth()), dice.below (component.getHeight()));
+        if (component.getNumChildComponents() == 0 || dice.oneIn (12))
+            return anywhere;
+        auto* tabs = dynamic_cast<juce::TabbedComponent*> (component.getChildComponent (0));
+        auto* page = tabs->getCurrentContentComponent();
+        if (tabs->getCurrentTabIndex() == 2) {
+            const auto& plane = *component.getPlane();
+            std::vector<juce::Point<float>> places{ plane.GetListener().screenPosition };
+            for (const auto& source : plane.GetScene().sources)
+                places.push_back (source.screenPosition);
+            for (const auto& speaker : plane.GetScene().speakers)
+                places.push_back (speaker.screenPosition);
+            const auto place = dice.in (places).toInt() + juce::Point<int> (dice.jitter (6), dice.jitter (6));
+            return component.getLocalPoint (&plane, place);
+        }
+        if (tabs->getCurrentTabIndex() == 1)
+            page = dice.in (partsOf<lumo::HLShelfComponent> (*page));
+        std::vector<juce::Component*> controls;
+        for (auto* part : page->getChildren())
+            if (part->isVisible() && dynamic_cast<juce::Label*> (part) == nullptr &&
+                dynamic_cast<juce::GroupComponent*> (part) == nullptr)
+                controls.push_back (part);
+        auto& chosen = *dice.in (controls);
+        return component.getLocalPoint (
+            &chosen, chosen.getLocalBounds().getCentre() +
+                         juce::Point<int> (dice.jitter (chosen.getWidth() / 2), dice.jitter (chosen.getHeight() / 2)));
+    }
+
+    void key (Dice& dice)
+    {
+        constexpr const char* keys[] = { "ctrl + z",    "ctrl + z", "ctrl + z",    "ctrl + shift + z",
+                                         "ctrl + y",    "ctrl + w", "cursor left", "cursor up",
+                                         "cursor down", "tab",      "a",           "s",
+                                         "l",           "c",        "v",           "g",
+                                         "+",           "-",        "=",           "ctrl + a",
+                                         "spacebar" };
+        const auto* description = dice.of (keys);
+        note (std::string ("key ") + description);
+        bench::windowDriver()->key ((*walker)->object, description);
+    }
+
+    void recallOldState (Dice& dice)
+    {
+        note ("an old state");
+        const auto& state = dice.in (pool);
+        if (dice.oneIn (2))
+            bench::setState (**walker, state);
+        else
+            walker->send ("recallpreset", state);
+    }
+
+    void keepState (Dice& dice)
+    {
+        auto state = bench::stateOf (**walker).value();
+        if (pool.size() < 30)
+            pool.push_back (std::move (state));
+        else
+            pool[static_cast<std::size_t> (dice.below (30))] = std::move (state);
+    }
+
+    // ---- What must hold when a turn has ended
+
+    void agree (const TestBox& box)
+    {
+        const auto& component = componentOf (box);
+        const auto& model = component.getModel();
+        for (const auto& row : halcyra::parameterTable) {
+            const auto value = model.value (row.number);
+            const auto& mirror = halcyra::reverbMirrors[static_cast<std::size_t> (row.number)];
+            const auto* attribute = orvanemax::symbol (mirror.attribute)->s_name;
+            EXPECT_EQ (row.range.stepped (value), value) << attribute << " stands between steps";
+            EXPECT_EQ (numbersOf (bench::attributeOf (*box, attribute).value()), std::vector<float>{ value })
+                << attribute;
+            const auto& left = told[box->name + " " + row.selector + " " + row.key];
+            ASSERT_EQ (left.size(), 2u) << row.name;
+            EXPECT_EQ (numberOf (left.back()), value) << "told: " << row.selector << " " << row.key;
+        }
+        for (HalcyraFilter filter = 0; filter < 4; ++filter) {
+            const std::string name = halcyra::filterNames[static_cast<std::size_t> (filter)];
+            const auto& held = component.getFilter (filter);
+            std::vector<float> values;
+            for (const auto& row : halcyra::shelfTable)
+                values.push_back (held.*row.value);
+            EXPECT_EQ (numbersOf (bench::attributeOf (*box, name).value()), values) << name;
+            EXPECT_EQ (numbersOf (told[box->name + " " + name]), values) << "told: " << name;
+        }
+        sceneAgrees (box);
+        if (component.getNumChildComponents() > 0)
+            windowAgrees (component);
+        EXPECT_EQ (bugs, std::vector<std::string>());
+    }
+
+    static float numberOf (const t_atom& atom) { return static_cast<float> (atom_getfloat (&atom)); }
+
+    static std::vector<float> numbersOf (const bench::Atoms& atoms)
+    {
+        std::vector<float> numbers;
+        for (const auto& atom : atoms)
+            numbers.push_back (numberOf (atom));
+        return numbers;
+    }
+
+    void sceneAgrees (const TestBox& box)
+    {
+        const auto& x = *box.record<t_halcyra_control>();
+        const auto& plane = *x.plane;
+        const auto pointOf = [] (const float* values) { return qel::Point3{ values[0], values[1], values[2] }; };
+        const auto isAngle = [] (float radians, float degrees) {
+            return std::abs (std::remainder (static_cast<double> (radians) -
+                                                 static_cast<double> (degrees) * 3.14159265358979 / 180,
+                                             2 * 3.14159265358979)) < 1e-5;
+        };
+        for (std::size_t i = 0; i < plane.GetNumSources(); ++i) {
+            const auto& source = plane.GetScene().sources[i];
+            EXPECT_EQ (pointOf (x.sourcespositions + 3 * i), source.position) << "source " << i;
+            EXPECT_TRUE (isAngle (source.yaw, static_cast<float> (atom_getfloat (&x.yaw[i])))) << "yaw " << i;
+            EXPECT_TRUE (isAngle (source.aperture, static_cast<float> (atom_getfloat (&x.aperture[i]))))
+                << "aperture " << i;
+            const auto& left = told[box->name + " source " + std::to_string (i + 1)];
+            if (left.size() == 5 && std::string_view (atom_getsym (&left[1])->s_name) == "xyz") {
+                EXPECT_EQ (numbersOf ({ left.begin() + 2, left.end() }),
+                           (std::vector<float>{ source.position.x, source.position.y, source.position.z }))
+                    << "told: source " << i;
+            }
+        }
+        for (std::size_t i = 0; i < plane.GetNumSpeakers(); ++i)
+            EXPECT_EQ (pointOf (x.speakerspositions + 3 * i), plane.GetSpeakerPosition (i)) << "speaker " << i;
+        EXPECT_EQ (pointOf (x.listenerposition), plane.GetListenerPosition());
+        EXPECT_TRUE (isAngle (plane.GetListener().yaw, x.listeneryaw));
+        EXPECT_TRUE (isAngle (plane.GetListener().pitch, x.listenerpitch));
+        EXPECT_TRUE (isAngle (plane.GetListener().roll, x.listenerroll));
+        lumo::PlaneOptions options;
+        plane.GetOptions (options);
+        EXPECT_EQ (x.zoom, options.zoom);
+        EXPECT_EQ (x.showspeakers != 0, options.speakersVisible);
+        EXPECT_EQ (x.showheadphones != 0, options.headphonesVisible);
+        EXPECT_EQ (x.showaperture != 0, options.apertureVisible);
+        EXPECT_EQ (x.radiusconstraint != 0, options.radiusConstraint);
+        EXPECT_EQ (x.circularconstraint != 0, options.circularConstraint);
+        const auto& view = plane.GetSurface().viewTransform;
+        EXPECT_EQ (x.xoffset, view.xOffset);
+        EXPECT_EQ (x.yoffset, view.yOffset);
+        EXPECT_EQ (x.zoffset, view.zOffset);
+    }
+
+    static void showsValue (const juce::Slider& slider, const lumo::ValueLabel& label,
+                            const halcyra::SliderRange& range, float value, const juce::String& text)
+    {
+        EXPECT_EQ (static_cast<float> (slider.getValue()), range.stepped (value)) << "slider " << slider.getName();
+        EXPECT_EQ (label.shownText(), text) << "label of " << slider.getName();
+    }
+
+    void windowAgrees (const HalcyraComponent& component)
+    {
+        const auto& model = component.getModel();
+        auto* tabs = dynamic_cast<juce::TabbedComponent*> (component.getChildComponent (0));
+        auto* page = tabs->getCurrentContentComponent();
+        if (page == nullptr || ! page->isShowing())
+            return;
+        if (tabs->getCurrentTabIndex() == 0) {
+            const auto sliders = partsOf<juce::Slider> (*page);
+            const auto labels = partsOf<lumo::ValueLabel> (*page);
+            ASSERT_EQ (sliders.size(), labels.size());
+            showsValue (*sliders[0], *labels[0], halcyra::roomRange, model.roomSize(),
+                        juce::String (static_cast<int> (model.roomSize())) + " m^3");
+            std::size_t place = 1;
+            for (const auto& where : halcyra::timeStructurePlaces) {
+                const auto& row = *halcyra::parameterRow (where.number);
+                if (row.isSwitch())
+                    continue;
+                const auto value = model.value (row.number);
+                showsValue (*sliders[place], *labels[place], row.range, value,
+                            juce::String (value, row.decimals) + row.unit);
+                ++place;
+            }
+            for (const auto* toggle : partsOf<juce::ToggleButton> (*page))
+                EXPECT_EQ (toggle->getToggleState(),
+                           model.value (toggle->getName() == "air" ? parameter::air : parameter::infinite) != 0);
+        }
+        if (tabs->getCurrentTabIndex() != 1)
+            return;
+        HalcyraFilter filter = 0;
+        for (auto* column : partsOf<lumo::HLShelfComponent> (*page)) {
+            const auto sliders = partsOf<juce::Slider> (*column);
+            const auto labels = partsOf<lumo::ValueLabel> (*column);
+            for (std::size_t i = 0; i < halcyra::shelfTable.size(); ++i) {
+                const auto& row = halcyra::shelfTable[i];
+                const auto value = model.value (cell::ofFilter (filter, i));
+                const auto wide = static_cast<double> (value);
+                showsValue (
+                    *sliders[i], *labels[i], row.range, value,
+                    juce::String (
+                        (row.isFrequency ? qel::frequencyText (wide, true) : qel::gainText (wide, true)).c_str()));
+            }
+            ++filter;
+        }
+    }
+
+    /** The present state is that of the room, whatever stood before. */
+    void expectRoom (float cubicMetres)
+    {
+        const auto& model = componentOf (*walker).getModel();
+        halcyra::ReverbModel fresh (model.numInternals());
+        fresh.setParameter (parameter::tr0, model.value (parameter::tr0), Edit::quiet);
+        fresh.setRoomSize (cubicMetres, Edit::quiet);
+        for (const auto number :
+             { parameter::earlyStart, parameter::earlyEnd, parameter::earlyDistr, parameter::clusterStart,
+               parameter::clusterEnd, parameter::clusterDistr, parameter::reverbStart, parameter::modalDensity })
+            EXPECT_EQ (model.value (number), fresh.value (number))
+                << "parameter " << number << " of " << cubicMetres << " m^3";
+        EXPECT_EQ (model.roomSize(), fresh.roomSize());
+    }
+
+    // ---- Recall
+
+    enum class Reach
+    {
+        reverb,
+        visible
+    };
+
+    struct Road
+    {
+        const char* name;
+        Reach reach;
+        void (OneTruth::*travel) (TestBox& to);
+    };
+
+    void bySetvalueof (TestBox& to) { bench::setState (*to, bench::stateOf (**walker).value()); }
+    void byPreset (TestBox& to)
+    {
+        const auto preset = bench::presetOf (**walker);
+        to.send ("recallpreset", { preset.begin() + 3, preset.end() });
+    }
+    void byDictionary (TestBox& to)
+    {
+        patch.connect (**walker, 1, *to);
+        walker->send ("dumpdict");
+        settle();
+        patch.disconnect (**walker, 1, *to);
+    }
+    void byBang (TestBox& to)
+    {
+        patch.connect (**walker, 0, *to);
+        walker->send ("bang");
+        settle();
+        patch.disconnect (**walker, 0, *to);
+    }
+
+    void recallByAllRoads (Dice& dice, const Sizes& sizes)
+    {
+        constexpr Road roads[] = {
+            { "setvalueof", Reach::visible, &OneTruth::bySetvalueof },
+            { "recallpreset", Reach::visible, &OneTruth::byPreset },
+            { "dictionary", Reach::visible, &OneTruth::byDictionary },
+            { "bang", Reach::reverb, &OneTruth::byBang },
+        };
+        for (const auto& road : roads) {
+            for (int i = 0; i < 8; ++i)
+                receiver->send (randomMessage (dice, sizes));
+            settle();
+            auto fresh = make ("halcyra~.control " + sizes.words());
+            settle();
+            for (auto* to : { &fresh, receiver.get() }) {
+                (this->*road.travel) (*to);
+                settle();
+                arrived (*to, road.reach,
+                         std::string (road.name) + (to == &fresh ? " into a fresh one" : " into a random one"));
+                agree (*to);
+            }
+            fresh.free();
+        }
+        std::vector<bench::Word> words{ { "halcyra~.control" } };
+        for (const auto& name : bench::visibleAttributes (**walker)) {
+            words.push_back ({ "@" + name });
+            const auto atoms = bench::attributeOf (**walker, name).value();
+            for (const auto& atom : atoms)
+                words.push_back (
+                    { atom.a_type == A_SYM ? std::string (atom_getsym (&atom)->s_name) : bench::textOf ({ atom }),
+                      atom.a_type == A_SYM });
+        }
+        TestBox box (*this, patch.make ("at", words));
+        settle();
+        arrived (box, Reach::reverb, "@ in the box");
+        agree (box);
+        box.free();
+        settle();
+    }
+
+    void arrived (TestBox& to, Reach reach, const std::string& road)
+    {
+        EXPECT_EQ (reverbOf (componentOf (to)), reverbOf (componentOf (*walker))) << road;
+        if (reach == Reach::reverb)
+            return;
+        for (const auto& name : bench::visibleAttributes (*to))
+            if (name == "yaw")
+                yawsArrived (to, road);
+            else
+                EXPECT_EQ (to.attribute (name), walker->attribute (name)) << name << " by " << road;
+    }
+
+    /** Two of the modes store no yaw: what was there before they were chosen stays. */
+    void yawsArrived (TestBox& to, const std::string& road)
+    {
+        const auto& sources = componentOf (*walker).getPlane()->GetScene().sources;
+        const auto sent = numbersOf (bench::attributeOf (**walker, "yaw").value());
+        const auto got = numbersOf (bench::attributeOf (*to, "yaw").value());
+        for (std::size_t i = 0; i < sources.size(); ++i) {
+            if (sources[i].yawMode != lumo::Plane::Orientation::follow &&
+                sources[i].yawMode != lumo::Plane::Orientation::listenerConstraint)
+                EXPECT_EQ (got[i], sent[i]) << "yaw " << i << " by " << road;
+        }
+    }
+
+    std::unique_ptr<TestBox> walker, receiver;
+    Told told;
+    std::vector<std::string> bugs;
+    std::vector<bench::Atoms> pool;
+    std::deque<std::string> log;
+    bool pressed = false;
+};
+
+INSTANTIATE_TEST_SUITE_P (DeferMedium, OneTruth, bothDeferModes, deferModeName);
+
+TEST_P (OneTruth, HoldsThroughWhateverComes)
+{
+    unsigned seed = GetParam() == bench::DeferMedium::queue ? 100 : 200;
+    for (const auto& sizes : walkSizes) {
+        walk (sizes, ++seed);
+        if (HasFailure())
+            return;
+    }
+}
