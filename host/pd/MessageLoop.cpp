@@ -44,6 +44,8 @@ void start()
     juce::MessageManager::getInstance();
     Loop::registerLinuxEventLoopListener (follower());
     follower().fdCallbacksChanged();
+    // Reads the fonts now rather than when a window opens while the audio runs.
+    juce::Font::findAllTypefaceNames();
 }
 
 void useThisThread()
