@@ -1,7 +1,12 @@
 """Where the patches for Pure Data differ from those for Max: classes, words, and pages of their own."""
 
+import help_content
+
 # Boxes that are called differently.
-CLASSES = {"line 0. 50": "line 0 50"}
+CLASSES = {"line 0. 50": "line 0 50", "gate 1 1": "spigot 1", "gate 1 0": "spigot 0"}
+
+# Classes whose two inlets stand the other way round.
+SWAPPED = {"spigot"}
 
 # Words of the rows in help_content.py and what stands in their place.
 WORDS = {
@@ -9,6 +14,7 @@ WORDS = {
     "is refused in the Max window and changes nothing": "is refused in the Pd window and changes nothing",
     "posts the version in the Max window": "posts the version in the Pd window",
     ". Takes a float, so write 2000. with its point": "",
+    "cubic metres, with a point: times": "cubic metres: times",
     "use the controls, messages, the inspector, or write them into the box": "use messages, or write them into the box with an @",
     "neither pattr nor preset nor the patcher saves them": "the patch does not save them",
     "1: scene messages wait for the main thread. Use it when they come from a metro in overdrive": "has no effect in Pd, which has one thread",
@@ -68,7 +74,7 @@ NOTES = {
     "columns": [
         [
             ("In this package", [
-                ("say", "examples: first steps, a moving source, snapshots, and hearing the settings."),
+                ("say", "examples: a tutorial in six steps, small patches for one task each (moving sources, snapshots, speaker layouts, OSC, colours), and hearing the settings."),
                 ("say", "halcyra-listen~ makes the settings audible. It is a listening aid and not the reverberator."),
                 ("say", "halcyra~ is the reverberator itself, a separate object that is not part of this package."),
             ]),
@@ -85,6 +91,43 @@ NOTES = {
 
 # Pages that take the place of those of the same tab.
 PAGES = {"state": STATE, "?": NOTES}
+
+OSC = {
+    **help_content.OSC,
+    "columns": [
+        [
+            ("In: for instance /halcyra source 1 aed 30. 0. 1.", [
+                ("object", "in", "netreceive -u -b 7400", "the port to send to"),
+                ("object", "parsed", "oscparse", ""),
+                ("object", "trimmed", "list trim", ""),
+                ("object", "ours", "route halcyra", "takes the address off"),
+            ]),
+            ("Out: every change", [
+                ("object", "list", "list", ""),
+                ("object", "address", "oscformat halcyra", "puts it back"),
+                ("to", "out", "connect 127.0.0.1 7401", "the other program's machine and port: first click this"),
+                ("object", "out", "netsend -u -b", ""),
+            ]),
+            ("Try it", [
+                ("send", "source 1 aed 45 0 1", "leaves by OSC as well"),
+            ]),
+        ],
+    ],
+    "cords": [
+        ("in", 0, "parsed"), ("parsed", 0, "trimmed"), ("trimmed", 0, "ours"), ("ours", 0, "verb"),
+        ("verb", 0, "list"), ("list", 0, "address"), ("address", 0, "out"),
+    ],
+}
+
+# Vanilla Pd has no scripts that could compute layouts or read them.
+LAYOUTS = {
+    **help_content.LAYOUTS,
+    "columns": [[(heading, rows) for heading, rows in column if not any("js " in str(row[2]) for row in rows)] for column in help_content.LAYOUTS["columns"]],
+    "cords": [],
+}
+
+# Examples that take the place of those of the same name.
+EXAMPLES = {"halcyra-osc": OSC, "halcyra-speaker-layouts": LAYOUTS}
 
 META = {
     "NAME": "halcyra~",

@@ -139,6 +139,21 @@ class Page:
             self.cord(above, made)
         return made, y + self.place[made][3]
 
+    def object(self, name, text, x, y):
+        """Another object than ours, below what receives the messages for it; returns it and its upper edge."""
+        above = None
+        if name in self.receivers:
+            above = self.box("obj", f"r $0-{name}", x, y)
+            y += self.place[above][3] + GAP
+        made = self.named[name] = self.box("obj", pd_content.CLASSES.get(text, text), x, y)
+        if above is not None:
+            self.cord(above, made, inlet=self.inlet(made, 0))
+        return made, y
+
+    def inlet(self, box, number):
+        """The inlet of a box that has the number in Max."""
+        return 1 - number if self.items[box].split()[4].rstrip(";") in pd_content.SWAPPED else number
+
     def row(self, row, x, y):
         """Lays a row out; returns the message for our object, or None, and the row's lower edge."""
         kind, *rest = row
@@ -158,9 +173,9 @@ class Page:
             self.cord(made, target)
             beside, y = made, y + GAP + self.place[target][3]
         elif kind == "object":
-            made = self.named[rest[0]] = self.box("obj", rest[1], x + INDENT, y + LINE_HEIGHT + BOX_FRAME_HEIGHT + GAP)
-            self.cord(self.box("obj", f"r $0-{rest[0].split()[0]}", x + INDENT, y), made)
-            remark, beside, y = rest[2], made, self.place[made][1] + self.place[made][3]
+            name, text, remark, *_ = rest
+            made, y = self.object(name, text, x + INDENT, y)
+            beside, y = made, y + self.place[made][3]
         if remark:
             # Beside all boxes of the row, or below them where they leave no room.
             widest = max(px + width for px, py, width, _ in self.place if px < x + COLUMN_WIDTH and px >= x and py >= top)
@@ -198,8 +213,9 @@ class Page:
             bottom = max(bottom, self.column(sections, MARGIN + number * COLUMN_WIDTH, top))
         if "object" in content:
             bottom = self.tail(content, bottom + 18)
-        for source, outlet, destination in content.get("cords", []):
-            self.cord(self.named[source], self.named[destination], outlet)
+        for source, outlet, destination, *inlet in content.get("cords", []):
+            target = self.named[destination]
+            self.cord(self.named[source], target, outlet, self.inlet(target, inlet[0] if inlet else 0))
         self.check_apart()
         return max(x + w for x, _, w, _ in self.place) + MARGIN, bottom + MARGIN
 
@@ -278,7 +294,7 @@ def main():
         sys.exit(f"usage: {sys.argv[0]} FOLDER PATCHBENCH")
     folder, bench = Path(sys.argv[1]), Path(sys.argv[2]).resolve()
     help_pages = [pd_content.PAGES.get(content["tab"]) or adapted(content) for content in help_content.HELP]
-    examples = {name: adapted(content) for name, content in help_content.EXAMPLES.items()}
+    examples = {name: pd_content.EXAMPLES.get(name) or adapted(content) for name, content in help_content.EXAMPLES.items()}
     pd_content.check_all_used()
     attributes = Attributes(bench, attributes_in([*help_pages, *examples.values()]))
 

@@ -13,7 +13,7 @@
 #include <map>
 #include <utility>
 
-MAX_EXPORT void ext_main (void*);
+MAX_EXPORT t_clong ext_main (void*);
 
 namespace pdhost
 {

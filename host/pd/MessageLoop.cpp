@@ -1,8 +1,6 @@
 #include "host/pd/MessageLoop.h"
 #include "max/window/X11Window.h"
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 #include <juce_events/native/juce_linux_EventLoopInternal.h>
 #include <vector>
 
@@ -37,26 +35,6 @@ Follower& follower()
     static auto& one = *new Follower;
     return one;
 }
-
-/** Folders with the fonts that JUCE prefers. It would open every font file of the desktop, in the thread that computes
-    the audio; one of these folders is enough. */
-constexpr const char* fontFolders[] = {
-    "/usr/share/fonts/truetype/dejavu",     "/usr/share/fonts/dejavu-sans-fonts", "/usr/share/fonts/dejavu",
-    "/usr/share/fonts/truetype/liberation", "/usr/share/fonts/liberation-sans",   "/usr/share/fonts/liberation",
-};
-
-void readFewFonts()
-{
-    constexpr const char* variable = "JUCE_FONT_PATH";
-    std::error_code error;
-    const auto* folder = std::find_if (std::begin (fontFolders), std::end (fontFolders),
-                                       [&] (const char* each) { return std::filesystem::is_directory (each, error); });
-    if (std::getenv (variable) != nullptr || folder == std::end (fontFolders))
-        return;
-    ::setenv (variable, *folder, 0);
-    juce::Font::findAllTypefaceNames(); // builds the list, which is kept
-    ::unsetenv (variable);
-}
 }
 
 void setWatch (const Watch& watch) { host = watch; }
@@ -66,7 +44,8 @@ void start()
     juce::MessageManager::getInstance();
     Loop::registerLinuxEventLoopListener (follower());
     follower().fdCallbacksChanged();
-    readFewFonts();
+    // Reads the fonts now rather than when a window opens while the audio runs.
+    juce::Font::findAllTypefaceNames();
 }
 
 void useThisThread()

@@ -7,6 +7,8 @@ Usage: package.py FOLDER PATCHBENCH; FOLDER is the one that package/pd has fille
 import hashlib
 import re
 import shutil
+import socket
+import struct
 import subprocess
 import sys
 import tempfile
@@ -14,7 +16,7 @@ import unittest
 import zipfile
 from pathlib import Path
 
-from pd import CLASS, play
+from pd import CLASS, QUIET, play
 
 FOLDER, BENCH = Path(sys.argv.pop(1)).resolve(), Path(sys.argv.pop(1)).resolve()
 LIBRARY = FOLDER / "halcyra~"
@@ -117,6 +119,38 @@ class Package(unittest.TestCase):
                     mentioned |= {f"{name}.pd" for name in re.findall(r"halcyra-[a-z-]+~", statement)}
         self.assertIn("halcyra-hearing.pd", mentioned)
         self.assertEqual(mentioned - names, set())
+
+    def test_the_osc_example_takes_messages_and_gives_changes(self):
+        text = lambda word: word.encode() + b"\0" * (4 - len(word) % 4)
+        numbers = lambda *values: struct.pack(f">{len(values)}f", *values)
+        message = text("/halcyra") + text(",sfsfff") + text("source") + numbers(1) + text("aed") + numbers(30, 0, 1.5)
+        lines = statements(LIBRARY / "examples/halcyra-osc.pd")
+        boxes = [line for line in lines if BOX.match(line)]
+        dialled = next(number for number, box in enumerate(boxes) if "connect 127" in box)
+        lines += ["#X obj 0 0 loadbang", f"#X connect {len(boxes)} 0 {dialled} 0"]
+        datagrams = lambda: socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
+        with tempfile.TemporaryDirectory() as work, datagrams() as other:
+            other.bind(("127.0.0.1", 0))
+            other.settimeout(0.2)
+            with datagrams() as free:
+                free.bind(("127.0.0.1", 0))
+                ours = free.getsockname()
+            path = Path(work) / "test.pd"
+            content = ";\n".join(lines) + ";\n"
+            path.write_text(content.replace("7400", str(ours[1])).replace("7401", str(other.getsockname()[1])), encoding="utf-8")
+            pd = subprocess.Popen(["puredata", "-nogui", *QUIET, "-path", LIBRARY, path], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            try:
+                for _ in range(100):  # until Pd listens
+                    other.sendto(message, ours)
+                    try:
+                        got = other.recv(1024)
+                        break
+                    except TimeoutError:
+                        got = b""
+            finally:
+                pd.kill()
+                pd.wait()
+        self.assertEqual(got, message)
 
     def test_the_archives_hold_the_folder_and_match_their_sums(self):
         archives = sorted(FOLDER.glob("*.dek"))

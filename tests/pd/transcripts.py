@@ -3,8 +3,7 @@
 
 Usage: transcripts.py PATCHBENCH [NAME ...]
 
-A transcript is played up to the first command that only the bench understands. Commands that Pd cannot say, or
-delivers as something else, are left out on both sides; UNSAYABLE tells why.
+Commands that Pd cannot say, or delivers as something else, are left out on both sides; LEFT_OUT tells why.
 """
 
 import difflib
@@ -19,20 +18,25 @@ from pathlib import Path
 from pd import CLASS, ROOT, Patch, play
 
 BENCH = Path(sys.argv[1]).resolve()
-PLAYED = {"new", "send", "attr", "connect", "wait", "dialog"}
-WINDOW = re.compile(r"send \S+ open\b")  # this Pd has no display
-# Rows of the command as the bench reads it, and why Pd does not play it.
-UNSAYABLE = [
+PLAYED = {"new", "send", "attr", "connect", "disconnect", "wait", "dialog"}
+# How a command begins that is left out, and why.
+LEFT_OUT = [
+    (r"mark\b", "what was printed before is left out in the transcript, and compared here"),
+    (r"(mouse|key|page)\b|send \S+ open\b", "this Pd has no display"),
+    (r"(hold|release|thread)\b", "Pd has one thread, and a message is done when it returns"),
+    (r"(dict|preset|[gs]etvalueof)\b|send \S+ (dumpdict|dictionary)\b", "Pd has no dictionaries and no presets"),
+    (r"(property|assist)\b", "Pd asks for nothing of the kind"),
+    (r"(free|quit)\b", "a patch that plays has no message that deletes a box"),
     (r'.* "[-+.\d][^"]*"|.* ""', "a symbol that looks like a number, or an empty one: Pd has none"),
+    (r"send \S+ bang .", "Pd drops what stands behind bang"),
     (r"send \S+ roomsize [-+]?\d+( |$)", "every number of Pd is a float, and roomsize takes it"),
     (r"send \S+ (rotate|(reverb )?infinite) [-+]?\d*\.", "Pd's whole numbers are longs, with a point or without"),
-    (r"send \S+ (dumpdict|dictionary)\b", "Pd has no dictionaries"),
 ]
 WORD = re.compile(r'"(?:[^"\\]|\\.)*"|\S+')
 NUMBER = re.compile(r"[-+]?(\d+\.?\d*|\.\d+)([eE][-+]?\d+)?")
 OUTLET = re.compile(r"\S+\.[01]")
 LOG = re.compile(r"^Exception occurred in .*\n.*\n\n\n", re.MULTILINE)  # on the error stream; the bench keeps that apart
-SMALLEST = 500  # commands that have to be compared in all, so that a player that skips everything fails
+SMALLEST = 900  # commands that have to be compared in all, so that a player that skips everything fails
 
 
 def number(word):
@@ -80,24 +84,21 @@ def word_in_pd(word):
 
 
 def selected(lines):
-    """The commands that can be played: up to the first that cannot, and without what Pd cannot say."""
-    played, left_out, answer = [], 0, None
+    """The commands that can be played, new boxes first, and how many were left out."""
+    played, answer = [], None
     for line in lines:
         words = WORD.findall(line)
-        if words[0] == "mark":  # what was printed before is left out here too
+        if any(re.match(pattern, line) for pattern, _ in LEFT_OUT):
             continue
-        if words[0] not in PLAYED or WINDOW.match(line) or (words[0] in ("new", "connect") and any(p.split()[0] in ("send", "attr") for p in played)):
-            break
-        if any(re.match(pattern, line) for pattern, _ in UNSAYABLE):
-            left_out += 1
-            continue
+        if words[0] not in PLAYED:
+            raise SystemExit(f"no row tells why this is not played: {line}")
         if words[0] == "dialog":  # where the bench asks, a name is given in Pd
             answer = words[1:]
         elif answer is not None and words[0] == "send":
             line, answer = " ".join([line, *answer]), None
         if words[0] != "dialog" or answer is None:
             played.append(line)
-    return played, left_out
+    return sorted(played, key=lambda line: not line.startswith("new ")), len(lines) - len(played)
 
 
 def patch_of(lines, path):
@@ -110,14 +111,16 @@ def patch_of(lines, path):
             for outlet in (0, 1):
                 printer = patch.obj(f"print {words[1]}.{outlet}")
                 patch.cord(boxes[words[1]], printer, outlet)
-        elif words[0] == "connect":
-            patch.cord(boxes[words[1]], boxes[words[3]], int(words[2]))
-        elif words[0] == "wait":
+            continue
+        if words[0] == "wait":
             time += int(words[1])
+            continue
+        if words[0] in ("connect", "disconnect"):
+            patch.at(time, rf"\; pd-{path.name} {words[0]} {boxes[words[1]]} {words[2]} {boxes[words[3]]} 0")
         else:
             message = ["get" + words[2]] if words[0] == "attr" else map(word_in_pd, words[2:])
             patch.at(time, " ".join(message), boxes[words[1]])
-            time += 1
+        time += 1
     patch.at(time, r"\; pd quit")
     patch.write(path)
 
@@ -132,17 +135,16 @@ def bench(lines, folder):
 def compare(script):
     """What was compared, and how the two differ."""
     lines = [line for line in script.read_text(encoding="utf-8").splitlines() if line.strip()]
-    options = [line for line in lines if line.startswith("# options: ")]
     commands, left_out = selected([line for line in lines if not line.startswith("#")])
     count = sum(line.split()[0] in ("send", "attr") for line in commands)
-    if options or count == 0 or not commands[0].startswith("new "):
+    if count == 0:
         return 0, 0, []
     with tempfile.TemporaryDirectory() as work:
         work = Path(work)
         files = script.with_suffix(".files")
         for side in ("bench", "pd"):
             shutil.copytree(files, work / side) if files.is_dir() else (work / side).mkdir()
-        makers = [line for line in commands if line.split()[0] in ("new", "connect")]
+        makers = [line for line in commands if line.startswith("new ")]
         # While objects are made, Pd has no cords yet: only the console shows something.
         at_first = bench(makers, work / "bench")
         expected = [row for row in at_first if not OUTLET.match(row)] + bench(commands, work / "bench")[len(at_first):]
