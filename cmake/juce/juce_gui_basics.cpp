@@ -22,8 +22,7 @@ Timer& vBlankTimerOf (LinuxComponentPeer& peer);
 template struct VBlankTimer<&LinuxComponentPeer::vBlankManager>;
 
 /** JUCE's peer ticks at the screen's rate for as long as it lives. This one stops when nothing has been painted for a
-    while, and goes on with the next request to repaint. A whole window, as when it opens, is painted in strips, one
-    a tick: where the host computes its audio in the thread that paints, the sound goes on between them. */
+    while, and goes on with the next request to repaint. */
 class RestingPeer : public LinuxComponentPeer, private ComponentPeer::VBlankListener
 {
 public:
@@ -38,22 +37,10 @@ public:
         lastRepaint = Time::getMillisecondCounter();
         if (auto& timer = vBlankTimerOf (*this); ! timer.isTimerRunning() && interval > 0)
             timer.startTimer (interval);
-        if (area.contains (getComponent().getLocalBounds()))
-            stripsToPaint = strips;
-        else
-            LinuxComponentPeer::repaint (area);
-    }
-
-    void performAnyPendingRepaintsNow() override
-    {
-        if (std::exchange (stripsToPaint, 0) > 0)
-            LinuxComponentPeer::repaint (getComponent().getLocalBounds());
-        LinuxComponentPeer::performAnyPendingRepaintsNow();
+        LinuxComponentPeer::repaint (area);
     }
 
 private:
-    static constexpr int strips = 8;
-
     /** In ms; longer than the 3 s after which JUCE drops the image that it paints into. */
     static constexpr uint32 rest = 3500;
 
@@ -61,24 +48,10 @@ private:
     {
         auto& timer = vBlankTimerOf (*this);
         interval = timer.getTimerInterval();
-        if (stripsToPaint > 0)
-            repaintNextStrip();
         if (Time::getMillisecondCounter() - lastRepaint > rest)
             timer.stopTimer();
     }
 
-    /** In turn, so that the lower ones are painted too when the whole is requested again and again. */
-    void repaintNextStrip()
-    {
-        const auto whole = getComponent().getLocalBounds();
-        const auto height = whole.getHeight() / strips + 1;
-        LinuxComponentPeer::repaint (whole.withTop (strip * height).withHeight (height));
-        strip = (strip + 1) % strips;
-        --stripsToPaint;
-    }
-
-    int strip = 0; // the next
-    int stripsToPaint = 0;
     uint32 lastRepaint = Time::getMillisecondCounter();
     int interval = 0;
 };
