@@ -111,11 +111,11 @@ private:
     {
         if (fuzz.patch.names().empty())
             make();
-        constexpr void (Session::*steps[])() = { &Session::sendGood,  &Session::sendGood, &Session::sendGood,
-                                                 &Session::sendAny,   &Session::sendAny,  &Session::settle,
-                                                 &Session::settle,    &Session::point,    &Session::point,
-                                                 &Session::point,     &Session::turnPage, &Session::press,
-                                                 &Session::attribute, &Session::state,    &Session::rare };
+        constexpr void (
+            Session::*steps[])() = { &Session::sendGood,  &Session::sendGood, &Session::sendGood, &Session::sendAny,
+                                     &Session::sendAny,   &Session::settle,   &Session::settle,   &Session::point,
+                                     &Session::point,     &Session::point,    &Session::turnPage, &Session::press,
+                                     &Session::attribute, &Session::state,    &Session::rare,     &Session::paint };
         (this->*input.oneOf (steps))();
     }
 
@@ -127,12 +127,19 @@ private:
 
     bench::Thread thread() { return input.choice (8) == 7 ? bench::Thread::scheduler : bench::Thread::main; }
 
-    /** With what is out of date in the windows drawn, as a window system asks for. */
-    void settle()
+    void settle() { fuzz.patch.settle(); }
+
+    /** A small part of each window, as a window system asks for what was covered. */
+    void paint()
     {
-        fuzz.patch.settle();
-        for (int i = 0; i < juce::ComponentPeer::getNumPeers(); ++i)
-            juce::ComponentPeer::getPeer (i)->performAnyPendingRepaintsNow();
+        constexpr int side = 48;
+        const auto x = 4 * static_cast<int> (input.byte()), y = 2 * static_cast<int> (input.byte());
+        juce::Image part (juce::Image::RGB, side, side, false, juce::SoftwareImageType());
+        for (int i = 0; i < juce::ComponentPeer::getNumPeers(); ++i) {
+            juce::Graphics g (part);
+            g.setOrigin (-x, -y);
+            juce::ComponentPeer::getPeer (i)->getComponent().paintEntireComponent (g, true);
+        }
     }
 
     /** Valid but for what may be replaced, left out or repeated. */
