@@ -74,7 +74,7 @@ void tell (Event::Kind kind, const void* x, const std::string& text)
 void tellClients (void* x, t_symbol* message, void* data)
 {
     const auto* head = headOf (x);
-    if (head == nullptr)
+    if (head == nullptr || head->clients.empty())
         return;
     auto* name = head->registeredName != nullptr ? head->registeredName : gensym (boxNameOf (x).c_str());
     const auto clients = head->clients; // a client may let go while it is told

@@ -33,7 +33,8 @@ void MainQueue::thisIsTheMainThread() { mainThread = std::this_thread::get_id();
 bool MainQueue::onMainThread()
 {
     auto none = std::thread::id();
-    mainThread.compare_exchange_strong (none, std::this_thread::get_id());
+    if (mainThread.load() == none)
+        mainThread.compare_exchange_strong (none, std::this_thread::get_id());
     return mainThread.load() == std::this_thread::get_id();
 }
 

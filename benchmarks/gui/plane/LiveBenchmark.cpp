@@ -146,6 +146,19 @@ void WholeFrame (benchmark::State& state)
         live.Paint();
     }
 }
+/** Without the fans of the apertures, as an object starts. */
+void WholeFrameWithoutFans (benchmark::State& state)
+{
+    const auto count = static_cast<std::size_t> (state.range (0));
+    LivePlane live (count, count);
+    live.plane.SetApertureVisible (false);
+    for (auto _ : state) {
+        live.plane.repaint();
+        live.Paint();
+    }
+}
+BENCHMARK (WholeFrameWithoutFans)->Arg (6)->Arg (64)->Unit (benchmark::kMicrosecond);
+
 BENCHMARK (WholeFrame)->Arg (0)->Arg (6)->Arg (64)->Unit (benchmark::kMicrosecond);
 
 /** The counter tells what one more plane that nobody has looked at takes of the heap. */

@@ -166,7 +166,8 @@ void responseCurveFrame (benchmark::State& state)
         });
 }
 
-/** Against a copy of the page's pixels. */
+/** A whole page, as when its window is uncovered or its tab is chosen, against a copy of its pixels. An edit draws no
+    more than it changes: `benchmarks/run` has that. */
 void pageFrame (benchmark::State& state, juce::Component& page)
 {
     page.setSize (918, 399);

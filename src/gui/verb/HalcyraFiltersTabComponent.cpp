@@ -10,7 +10,6 @@ HalcyraFiltersTabComponent::HalcyraFiltersTabComponent (const juce::String& name
                lumo::HLShelfComponent (halcyra::filterNames[3], model, 3) }
 {
     setOpaque (true);
-    setBufferedToImage (true); // most of the page stands still
     for (auto& shelf : shelves)
         addAndMakeVisible (shelf);
     setSize (920, 400);

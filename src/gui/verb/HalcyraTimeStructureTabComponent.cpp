@@ -73,7 +73,6 @@ HalcyraTimeStructureTabComponent::HalcyraTimeStructureTabComponent (const juce::
       sight (*this, [this] (bool isShowing) { sightChanged (isShowing); })
 {
     setOpaque (true);
-    setBufferedToImage (true);    // most of the page stands still
     setWantsKeyboardFocus (true); // a click would give it to the first switch otherwise, and space turn that
     makeGroups();
     addAndMakeVisible (display);

@@ -19,25 +19,28 @@ class Coverage
 {
 public:
     Coverage (const juce::Path& path, juce::Rectangle<int> area, const juce::AffineTransform& transform)
-        : top (area.getY()), rows (static_cast<std::size_t> (area.getHeight()))
+        : top (area.getY())
     {
+        starts.reserve (static_cast<std::size_t> (area.getHeight()) + 1);
         const juce::EdgeTable edges (area, path, transform);
         edges.iterate (*this);
+        starts.resize (static_cast<std::size_t> (area.getHeight()) + 1, runs.size());
     }
 
-    [[nodiscard]] const std::vector<Run>& row (int y) const { return rows[static_cast<std::size_t> (y - top)]; }
+    [[nodiscard]] const Run* begin (int y) const { return runs.data() + starts[static_cast<std::size_t> (y - top)]; }
+    [[nodiscard]] const Run* end (int y) const { return begin (y + 1); }
 
-    // What the edge table calls.
-    void setEdgeTableYPos (int y) { current = &rows[static_cast<std::size_t> (y - top)]; }
-    void handleEdgeTablePixel (int x, int level) { current->push_back ({ x, x + 1, level }); }
-    void handleEdgeTablePixelFull (int x) { current->push_back ({ x, x + 1, 255 }); }
-    void handleEdgeTableLine (int x, int width, int level) { current->push_back ({ x, x + width, level }); }
-    void handleEdgeTableLineFull (int x, int width) { current->push_back ({ x, x + width, 255 }); }
+    // What the edge table calls, rows that hold nothing left out.
+    void setEdgeTableYPos (int y) { starts.resize (static_cast<std::size_t> (y - top) + 1, runs.size()); }
+    void handleEdgeTablePixel (int x, int level) { runs.push_back ({ x, x + 1, level }); }
+    void handleEdgeTablePixelFull (int x) { runs.push_back ({ x, x + 1, 255 }); }
+    void handleEdgeTableLine (int x, int width, int level) { runs.push_back ({ x, x + width, level }); }
+    void handleEdgeTableLineFull (int x, int width) { runs.push_back ({ x, x + width, 255 }); }
 
 private:
     int top;
-    std::vector<std::vector<Run>> rows;
-    std::vector<Run>* current = nullptr;
+    std::vector<Run> runs;
+    std::vector<std::size_t> starts; // of each row in the runs, and the end of the last
 };
 
 struct Layer
@@ -63,9 +66,8 @@ struct Row
 void writeRow (std::vector<Layer>& layers, const Row& row, int y)
 {
     for (auto& layer : layers) {
-        const auto& runs = layer.coverage.row (y);
-        layer.next = runs.data();
-        layer.end = runs.data() + runs.size();
+        layer.next = layer.coverage.begin (y);
+        layer.end = layer.coverage.end (y);
     }
     for (int x = row.left; x < row.right;) {
         auto pixel = row.at (x);
