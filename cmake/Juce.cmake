@@ -27,9 +27,6 @@ foreach(module IN LISTS juceModules)
     target_compile_definitions(halcyra_juce PUBLIC JUCE_MODULE_AVAILABLE_${module}=1)
 endforeach()
 target_compile_options(halcyra_juce PRIVATE -w)
-# Its loops over pixels are worth being unrolled and vectorised.
-set_source_files_properties("${CMAKE_SOURCE_DIR}/cmake/juce/juce_graphics.cpp" PROPERTIES
-    COMPILE_OPTIONS "$<$<CONFIG:Release>:-O3>")
 if(WIN32)
     set(CMAKE_FIND_LIBRARY_SUFFIXES .a) # not .dll.a
     find_package(PNG REQUIRED)

@@ -138,7 +138,8 @@ void PlaneComponent::SetSourceYaw (std::size_t index, float degrees, bool notify
         return;
     const auto before = PartOf (*source);
     source->SetYaw (degrees);
-    UpdateSourceYaw (index, false);
+    if (source->yawMode != Orientation::translation) // which would derive it anew, and round it
+        UpdateSourceYaw (index, false);
     if (notify)
         Notify ([&, yaw = source->YawDegrees()] (PlaneListener& l) { l.SourceYawChanged (index, yaw); });
     if (const auto* turned = SourceAt (index))

@@ -21,10 +21,10 @@ float Source::Direction() const noexcept { return std::atan2 (position.y, positi
 void Source::SetYaw (float degrees)
 {
     const float radians = Orientation::WrapDegrees (degrees) * qel::radiansPerDegree;
-    if (yawMode == Orientation::yawConstraint)
-        yaw = radians;
-    else if (yawMode == Orientation::translation)
-        yawOffset = radians - Direction() - qel::halfPi;
+    if (yawMode != Orientation::yawConstraint && yawMode != Orientation::translation)
+        return;
+    yaw = radians; // to the letter, also where a move will derive it from the offset
+    yawOffset = RelativeYaw();
 }
 
 std::optional<float> Source::UpdateYaw (const qel::Point3& listener)
