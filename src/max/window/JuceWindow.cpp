@@ -14,6 +14,12 @@ void JuceWindow::Shell::closeButtonPressed()
         window.onCloseButton();
 }
 
+void JuceWindow::Shell::moved()
+{
+    DocumentWindow::moved();
+    window.keepPlace();
+}
+
 void JuceWindow::Shell::focusGained (FocusChangeType)
 {
     // A window system gives the focus to the window as a whole, often long after it was shown.
@@ -27,6 +33,7 @@ JuceWindow::~JuceWindow() = default;
 bool JuceWindow::create (const juce::String& title, juce::Rectangle<int> frame)
 {
     destroy();
+    placeWhenHidden = {};
     shell = makeShell (title);
     shell->setBounds (frame);
     shell->Component::addToDesktop (shell->getDesktopWindowStyleFlags());
@@ -42,15 +49,31 @@ void JuceWindow::show()
 
 void JuceWindow::bringUp()
 {
+    if (! placeWhenHidden.isEmpty())
+        shell->setBounds (placeWhenHidden);
     shell->setVisible (true);
     if (shell->isMinimised())
         shell->setMinimised (false);
     shell->toFront (true);
 }
 
+void JuceWindow::keepPlace()
+{
+    const auto* peer = shell == nullptr ? nullptr : shell->getPeer();
+    if (peer == nullptr || placeWhenHidden.isEmpty() || ! shell->isVisible())
+        return;
+    const juce::BorderSize<int> frame =
+        peer->getFrameSizeIfPresent() ? *peer->getFrameSizeIfPresent() : juce::BorderSize<int>();
+    const juce::Point<int> corner (frame.getLeft(), frame.getTop());
+    if (! corner.isOrigin() && placeWhenHidden.getPosition() - shell->getPosition() == corner)
+        shell->setTopLeftPosition (placeWhenHidden.getPosition());
+}
+
 void JuceWindow::hide()
 {
     isWanted = false;
+    if (shell->isVisible())
+        placeWhenHidden = shell->getBounds();
     shell->setVisible (false);
 }
 

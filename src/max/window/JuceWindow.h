@@ -31,6 +31,7 @@ protected:
         Shell (JuceWindow& window, const juce::String& title);
 
         void closeButtonPressed() override;
+        void moved() override;
         void focusGained (FocusChangeType cause) override;
 
     private:
@@ -41,7 +42,12 @@ protected:
 
 private:
     void bringUp();
+    /** Puts a window that is shown again back to where it was, if it has crept by its frame. */
+    void keepPlace();
 
     std::unique_ptr<Shell> shell;
+    /** A window manager reports the frame's place for a window that it has let go, and JUCE would take that for the
+        content's: the window would creep by its frame. Empty for one that was never hidden. */
+    juce::Rectangle<int> placeWhenHidden;
     bool isWanted = false;
 };

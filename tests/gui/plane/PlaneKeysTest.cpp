@@ -38,8 +38,8 @@ INSTANTIATE_TEST_SUITE_P (
         KeyRow{ 'a', 0, { "options" } }, KeyRow{ 's', 0, { "options" } }, KeyRow{ 'l', 0, { "options" } },
         KeyRow{ 'c', 0, { "options" } }, KeyRow{ 'v', 0, { "options" } }, KeyRow{ 'g', 0, { "options" } },
         KeyRow{ 'a', Keys::ctrlModifier, { "selection 1111" } },
-        KeyRow{ juce::KeyPress::tabKey, 0, { "selection 1000" } }, KeyRow{ juce::KeyPress::rightKey, 0, {} },
-        KeyRow{ juce::KeyPress::upKey, 0, {} }));
+        KeyRow{ juce::KeyPress::tabKey, 0, { "selection 1000" } }, KeyRow{ juce::KeyPress::rightKey, 0, { "options" } },
+        KeyRow{ juce::KeyPress::upKey, 0, { "options" } }));
 
 TEST_F (PlaneOnStage, KeysOutsideTheTableTravelOn)
 {
