@@ -315,5 +315,8 @@ ROWS = [
      "a window that goes late takes another's place"),
 ]
 
+# The rows that were planted and seen caught: CI plays five of them. Add a row's number once you have seen it caught.
+CAUGHT = [0, 1, 8, 11, 12, 13, 14, 21, 26, 27, 29, 32, 68, 108]
+
 # Rows that no test catches, with the reason; CI does not play them.
 SURVIVORS = {}
