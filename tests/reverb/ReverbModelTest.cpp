@@ -159,8 +159,10 @@ TEST (ReverbModel, SingleTimesStopAtTheirNeighboursAndFiveInOneTurnAreARecall)
     model.set (parameter::clusterStart, 205);
     EXPECT_EQ (model.parameters().clusterStart, 205) << "the last wish counts";
     model.setRoomSize (2000, Edit::message);
+    const float earlyEnd = model.parameters().earlyEnd;
     model.set (parameter::earlyStart, 119);
-    EXPECT_LT (model.parameters().earlyStart, 50) << "a room size begins anew";
+    EXPECT_EQ (model.parameters().earlyEnd, earlyEnd) << "a room size begins anew";
+    EXPECT_EQ (model.parameters().earlyStart, earlyEnd);
 }
 
 /** Any set of edits that a patcher or a hand can make. */
