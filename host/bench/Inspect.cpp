@@ -72,6 +72,12 @@ std::optional<Atoms> propertyOf (const Box& box, const std::string& attribute, c
     return valueOf (found, property);
 }
 
+bool isList (const Box& box, const std::string& attribute)
+{
+    const auto* found = findAttribute (box.object, gensym (attribute.c_str()));
+    return found != nullptr && found->countOffset != 0;
+}
+
 bool setAttribute (const Box& box, const std::string& attribute, const Atoms& atoms)
 {
     auto copy = atoms;

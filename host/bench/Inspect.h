@@ -9,6 +9,9 @@ namespace bench
 std::optional<Atoms> attributeOf (const Box& box, const std::string& attribute);
 std::optional<Atoms> propertyOf (const Box& box, const std::string& attribute, const std::string& property);
 
+/** Whether the number of an attribute's values is the object's to say, as with one value for each of its sources. */
+bool isList (const Box& box, const std::string& attribute);
+
 /** Sets an attribute as C code would: filter, setter, notification. */
 bool setAttribute (const Box& box, const std::string& attribute, const Atoms& atoms);
 

@@ -25,6 +25,8 @@ struct Box::Inside
     std::vector<std::pair<std::string, bench::Atoms>> fresh; // the state right after creation
     std::string folder;
     bool lacksDisplay = false; // and that has been logged
+
+    void take (const NamedValues& saved, bench::Atoms& present) const;
 };
 
 /** One bench for all objects of the process. Never destroyed: Pd exits in the middle of whatever runs. */
@@ -237,6 +239,24 @@ std::string unusedName()
 }
 }
 
+/** Puts saved values in the place of present ones. A list saved with another number of sources or speakers is taken as
+    far as it goes; any other attribute needs all of its values. */
+void Box::Inside::take (const NamedValues& saved, bench::Atoms& present) const
+{
+    auto atoms = atomsOf (saved.values, false);
+    const bool fits = atoms.size() == present.size();
+    const bool isTaken = fits || bench::isList (*box, saved.name);
+    if (! fits)
+        listener->row (isTaken ? Listener::Row::warning : Listener::Row::error,
+                       "saved " + saved.name + ": " + std::to_string (present.size()) + " values were expected, " +
+                           std::to_string (atoms.size()) + " were found");
+    if (! isTaken)
+        return;
+    if (isSymbolic (*box, saved.name))
+        numbersToWords (atoms);
+    std::copy_n (atoms.begin(), std::min (atoms.size(), present.size()), present.begin());
+}
+
 std::unique_ptr<Box> Box::make (Listener& listener, const Values& words)
 {
     const Entry entry;
@@ -313,18 +333,10 @@ void Box::restore (const std::vector<NamedValues>& changes)
     for (const auto& change : changes) {
         const auto found =
             std::find_if (state.begin(), state.end(), [&] (const auto& each) { return each.first == change.name; });
-        auto atoms = atomsOf (change.values, false);
         if (found == state.end())
             inside->listener->row (Listener::Row::error, "saved: there is no attribute " + change.name);
-        else if (atoms.size() != found->second.size())
-            inside->listener->row (Listener::Row::error,
-                                   "saved " + change.name + ": " + std::to_string (found->second.size()) +
-                                       " values were expected, " + std::to_string (atoms.size()) + " were found");
-        else {
-            if (isSymbolic (*inside->box, change.name))
-                numbersToWords (atoms);
-            found->second = std::move (atoms);
-        }
+        else
+            inside->take (change, found->second);
     }
     for (const auto& [name, atoms] : state)
         bench::putEntry (dictionary, name, atoms);

@@ -82,6 +82,21 @@ class SavedState(PdTest):
         self.assertIn("right: gain -6", rows)
         self.assertIn("right: tr0 3", rows)
 
+    def test_a_state_of_another_size_is_taken_as_far_as_it_goes(self):
+        kept = {2: ["yaw 10 20", "name a b", "sourcespositions 1 2 0 3 4 0"],
+                3: ["yaw 10 20 30", "name a b c", "sourcespositions 1 2 0 3 4 0 5 6 0"],
+                4: ["yaw 10 20 30 0", "name a b c 4", "sourcespositions 1 2 0 3 4 0 5 6 0 -1 8.74228e-08 0"]}
+        for count, expected in kept.items():
+            with self.subTest(sources=count):
+                patch = Patch()
+                control = self.control(patch, f"@numsources {count}")
+                patch.saved(control, *(f"saved {line}" for line in kept[3]), "saved")
+                patch.at(5, r"getyaw \, getname \, getsourcespositions \, getgain", control)
+                rows = self.printed(patch)
+                warned = [row for row in rows if "values were expected" in row]
+                self.assertEqual(len(warned), 0 if count == 3 else 3, rows)
+                self.assertEqual([row.removeprefix("right: ") for row in rows if row.startswith("right:")], [*expected, "gain 0"])
+
     def test_lines_behind_an_object_that_cannot_be_made_reach_no_other(self):
         patch = Patch()
         control = self.control(patch)

@@ -162,6 +162,10 @@ class Package(unittest.TestCase):
                 self.assertTrue(all(name.startswith("halcyra~/") for name in archive.namelist()))
                 if "Linux" in path.name:
                     self.assertEqual({Path(n).name for n in archive.namelist() if not n.endswith("/")}, {p.name for p in LIBRARY.rglob("*") if p.is_file()})
+                else:  # whatever the binary holds can be built from it
+                    names = "\n".join(archive.namelist())
+                    for needed in ("halcyra/README.md", "juce/juce_gui_basics/juce_gui_basics.h", "libraries/libpng1.6_", "libraries/libjpeg-turbo_", "libraries/zlib_"):
+                        self.assertIn(f"halcyra~/{needed}", names)
         objects = [row.split("\t")[0] for row in Path(f"{archives[0]}.txt").read_text().splitlines()]
         self.assertEqual(objects, [CLASS, "halcyra-listen~"])
 
