@@ -19,7 +19,7 @@ template <typename Value>
 HOST_READ Value valueAt (const void* field)
 {
     Value value;
-    std::memcpy (&value, field, sizeof value);
+    std::memcpy (&value, field, sizeof (Value)); // NOLINT(bugprone-sizeof-expression): pointers are values too
     return value;
 }
 

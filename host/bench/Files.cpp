@@ -148,7 +148,7 @@ std::int16_t wholePath (std::int16_t path, const char* file, char* name, bool mu
 
 void addDialogAnswer (std::optional<std::string> path) { state().answers.push_back (std::move (path)); }
 void forgetDialogAnswers() { state().answers.clear(); }
-void setBaseFolder (std::string path) { state().base = fs::u8path (path); }
+void setBaseFolder (const std::string& path) { state().base = fs::u8path (path); }
 
 }
 

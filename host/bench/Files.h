@@ -10,6 +10,6 @@ void addDialogAnswer (std::optional<std::string> path);
 void forgetDialogAnswers();
 
 /** Relative names refer to this folder; without one, to the process's. */
-void setBaseFolder (std::string path);
+void setBaseFolder (const std::string& path);
 
 }

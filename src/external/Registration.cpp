@@ -205,7 +205,7 @@ void registerControlClass()
     using namespace halcyra;
     orvanemax::buildSymbols();
     startJuceInHost();
-    auto* c = class_new (className, hostFunction<halcyra_control_new>(), hostDestructor<halcyra_control_free>(),
+    auto* c = class_new (className, hostConstructor<halcyra_control_new>(), hostDestructor<halcyra_control_free>(),
                          static_cast<t_clong> (sizeof (t_halcyra_control)), nullptr, A_GIMME, 0);
     c->c_flags |= CLASS_FLAG_NEWDICTIONARY;
     orvanemax::addDocumentationAttributes (

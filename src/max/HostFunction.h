@@ -31,7 +31,7 @@ struct HostEntry<function>
 
 /** The same for what makes an object, null when it throws. */
 template <void* (*function) (t_symbol*, t_clong, t_atom*)>
-struct HostEntry<function>
+struct HostConstructor
 {
     static void* call (t_symbol* name, t_clong argc, t_atom* argv) noexcept
     {
@@ -61,7 +61,8 @@ struct HostDestructor<function>
     }
 };
 
-/** A function as it is handed to the host: there is no way to one but hostFunction(), and so none without a guard. An
+/** A function as it is handed to the host: there is no way to one but hostFunction() and its
+    kin, and so none without a guard. An
     empty one leaves the work to the host. */
 class HostFunction
 {
@@ -72,6 +73,8 @@ public:
 private:
     template <auto guarded>
     friend HostFunction hostFunction() noexcept;
+    template <void* (*guarded) (t_symbol*, t_clong, t_atom*)>
+    friend HostFunction hostConstructor() noexcept;
     template <auto guarded>
     friend HostFunction hostDestructor() noexcept;
     explicit HostFunction (method f) noexcept : function (f) {}
@@ -83,6 +86,12 @@ template <auto function>
 [[nodiscard]] HostFunction hostFunction() noexcept
 {
     return HostFunction (max_method (HostEntry<function>::call));
+}
+
+template <void* (*function) (t_symbol*, t_clong, t_atom*)>
+[[nodiscard]] HostFunction hostConstructor() noexcept
+{
+    return HostFunction (max_method (HostConstructor<function>::call));
 }
 
 template <auto function>
