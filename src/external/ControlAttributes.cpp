@@ -178,7 +178,7 @@ void setAttribute (t_halcyra_control* x, t_symbol* name, t_clong argc, t_atom* a
 
 }
 
-ControlAttributeTable controlAttributes() noexcept { return { table, std::size (table) }; }
+orvanemax::Rows<ControlAttribute> controlAttributes() noexcept { return table; }
 
 void fillControlDefaults (t_halcyra_control* x)
 {

@@ -1,6 +1,7 @@
 #pragma once
 #include "external/HalcyraControl.h"
 #include "max/AttributeRow.h"
+#include "max/Rows.h"
 
 /** The attributes of the object's sizes, of the reverberator and of the window. */
 namespace halcyra
@@ -12,17 +13,8 @@ struct ControlAttribute
     const char* category;
 };
 
-struct ControlAttributeTable
-{
-    const ControlAttribute* first;
-    std::size_t count;
-
-    [[nodiscard]] const ControlAttribute* begin() const noexcept { return first; }
-    [[nodiscard]] const ControlAttribute* end() const noexcept { return first + count; }
-};
-
 /** All of them, in order of registration. */
-[[nodiscard]] ControlAttributeTable controlAttributes() noexcept;
+[[nodiscard]] orvanemax::Rows<ControlAttribute> controlAttributes() noexcept;
 
 /** What must be readable before the first default has passed its setter: the sizes and the title. */
 void fillControlDefaults (t_halcyra_control* x);

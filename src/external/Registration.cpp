@@ -161,7 +161,7 @@ std::vector<MessageRow> ownMessages()
 void addAllMessages (t_class* c)
 {
     for (const auto& rows : { serviceMessages(), ownMessages() })
-        addMessages (c, rows.data(), rows.size());
+        addMessages (c, { rows.data(), rows.size() });
 }
 
 void addAllAttributes (t_class* c)
@@ -215,7 +215,7 @@ void registerControlClass()
     addAllMessages (c);
     addPorts (c);
     addAllAttributes (c);
-    setLateAttributes (lateAttributesOfControl, std::size (lateAttributesOfControl));
+    setLateAttributes (lateAttributesOfControl);
     class_register (CLASS_BOX, c);
     registeredClass = c;
 }

@@ -54,8 +54,9 @@ namespace halcyra
     object. Main thread. */
 void touchAttribute (t_halcyra_control* x, t_symbol* name);
 
-/** Each does nothing for an object that the call under way has freed. They bring mirrors to what the plane holds and touches the attribute if that differs. An angle that was sent, in
-    degrees, is kept to the letter where it is what the plane took, so that a saved state gives the same again. */
+/** Each brings a mirror to what the plane holds and touches its attribute if that differs; it does nothing for an
+    object that the call under way has freed. An angle that was sent, in degrees, is kept to the letter where it is what
+    the plane took, so that a saved state gives the same again. */
 void mirrorSourcePosition (t_halcyra_control* x, std::size_t source);
 void mirrorSourceYaw (t_halcyra_control* x, std::size_t source);
 void mirrorSourceYaw (t_halcyra_control* x, std::size_t source, float sentDegrees);

@@ -46,8 +46,20 @@ void setApertureColour (Plane& plane, float r, float g, float b, float a)
         plane.SetSourceApertureColour (i, shade);
 }
 
+/** The attribute of a property that each source has: its numbers are atoms of the record's own. */
+ViewerAttribute ofEachSource (std::string_view name)
+{
+    const auto& row = scene::withAttribute (scene::sourceProperties(), name).attribute;
+    return { row, eachSource, std::string_view (row.type) != "symbol" };
+}
+
+ViewerAttribute ofListener (std::string_view name)
+{
+    return { scene::withAttribute (scene::listenerProperties(), name).attribute, listenerAngle };
+}
+
 // clang-format off
-constexpr ViewerAttribute table[] = {
+const ViewerAttribute table[] = {
     { rows::onOff (HALCYRA_FIELD (showfps), "0", "show fps (for debug)"), frameOption },
     { rows::onOff (HALCYRA_FIELD (useopengl), "0", "use openGL rendering"), frameOption },
     { rows::symbolic (HALCYRA_FIELD (format), "aed", "output coordinate format").among ("aed xyz xy ae ade az ad ambrel3 wfs"), format },
@@ -99,18 +111,18 @@ constexpr ViewerAttribute table[] = {
     { rows::integer (HALCYRA_FIELD (dashedgrid), "0", "use dashed grid").within (0, 1), onOff<&Plane::SetGridDashed> },
     { rows::integer (HALCYRA_FIELD (gridlines), "5", "number of grid lines").within (0, 100), count<&Plane::SetGridNumLines> },
     { rows::number (HALCYRA_FIELD (gridspacing), "1", "grid spacing").within (0.1, 20), number<&Plane::SetGridSpacing> },
-    { rows::number (HALCYRA_FIELD (listeneryaw), "0", "listener yaw").in ("deg"), listenerAngle },
-    { rows::number (HALCYRA_FIELD (listenerpitch), "0", "listener pitch").in ("deg"), listenerAngle },
-    { rows::number (HALCYRA_FIELD (listenerroll), "0", "listener roll").in ("deg"), listenerAngle },
-    { rows::symbolic (HALCYRA_FIELD (name), nullptr, "source name").list (maxSources, calcoffset (t_halcyra_control, numsources)), wordPerSource<scene::setSourceName> },
-    { rows::number (HALCYRA_FIELD (sourcecolor), nullptr, "source color").list (maxColours, calcoffset (t_halcyra_control, sourcecolorsize)), sourceColour, true },
-    { rows::number (HALCYRA_FIELD (yaw), "0", "source yaw").within (-180, 180).list (maxSources, calcoffset (t_halcyra_control, numsources)).in ("deg"), perSource<scene::setSourceYaw>, true },
-    { rows::number (HALCYRA_FIELD (aperture), "80", "sources aperture").within (10, 180).list (maxSources, calcoffset (t_halcyra_control, numsources)).in ("deg"), perSource<scene::setSourceAperture>, true },
-    { rows::number (HALCYRA_FIELD (radius), "1", "sources radius").within (0.2, 30).list (maxSources, calcoffset (t_halcyra_control, numsources)).in ("m").notReset(), perSource<scene::setSourceRadius>, true },
+    ofListener ("listeneryaw"),
+    ofListener ("listenerpitch"),
+    ofListener ("listenerroll"),
+    ofEachSource ("name"),
+    ofEachSource ("sourcecolor"),
+    ofEachSource ("yaw"),
+    ofEachSource ("aperture"),
+    ofEachSource ("radius"),
     { rows::number (HALCYRA_FIELD (speakerslevels), "-60", "speakers level").within (-60, 6).list (maxSources, calcoffset (t_halcyra_control, numspeakers)).in ("dB"), speakersLevels, true },
     { rows::number (HALCYRA_FIELD (sourceslevels), "-60", "sources level").within (-60, 6).list (maxSources, calcoffset (t_halcyra_control, numsources)).in ("dB"), sourcesLevels, true },
     { rows::number64 (HALCYRA_FIELD (backgroundcolor), "0.7 0.7 0.7 1.0", "color of backgroundcolor").styled ("rgba").array (4), colour<setBackgroundColour> },
-    { rows::symbolic (HALCYRA_FIELD (orientationmode), "yawconstraint", "orientation mode").list (maxSources, calcoffset (t_halcyra_control, numsources)), orientationModes },
+    ofEachSource ("orientationmode"),
     { rows::number (HALCYRA_FIELD (shoeboxcorners), "0. 0. 0. 1. -1. 0.", "shoebox top left and bottom right corners").array (6), shoeboxCorners },
     { rows::number64 (HALCYRA_FIELD (gridcolor), "1 1 1 1", "grid color").styled ("rgba").array (4), colour<setGridColour> },
     { rows::number64 (HALCYRA_FIELD (aperturecolor), "1 1 1 0.6196078", "aperture color").styled ("rgba").array (4), colour<setApertureColour> },
@@ -173,15 +185,15 @@ void fillSymbols (t_halcyra_control* x, const AttributeRow& row)
 
 void fillAtoms (t_halcyra_control* x, const AttributeRow& row)
 {
-    constexpr double newSourcesColour[4] = { static_cast<double> (0.49019608f), 1, 0, 1 };
     auto* atoms = atomsOf (x, row);
     for (t_clong i = 0; atoms != nullptr && i < row.capacity; ++i)
-        atom_setfloat (&atoms[i], row.defaultText == nullptr ? newSourcesColour[i % 4] : std::atof (row.defaultText));
+        atom_setfloat (&atoms[i], row.defaultText == nullptr ? static_cast<double> (scene::newSourceColour[i % 4])
+                                                             : std::atof (row.defaultText));
 }
 
 }
 
-ViewerAttributeTable viewerAttributes() noexcept { return { table, std::size (table) }; }
+orvanemax::Rows<ViewerAttribute> viewerAttributes() noexcept { return table; }
 
 void fillViewerDefaults (t_halcyra_control* x)
 {

@@ -2,6 +2,7 @@
 #include "external/HalcyraControl.h"
 #include "max/Atoms.h"
 #include "max/AttributeRow.h"
+#include "max/Rows.h"
 
 /** The attributes of the scene and its view. They set the plane, so their setter runs on the main thread.
 
@@ -19,17 +20,8 @@ struct ViewerAttribute
     bool isPerSource = false; // its values are atoms of the record's own
 };
 
-struct ViewerAttributeTable
-{
-    const ViewerAttribute* first;
-    std::size_t count;
-
-    [[nodiscard]] const ViewerAttribute* begin() const noexcept { return first; }
-    [[nodiscard]] const ViewerAttribute* end() const noexcept { return first + count; }
-};
-
 /** All of them, in order of registration. */
-[[nodiscard]] ViewerAttributeTable viewerAttributes() noexcept;
+[[nodiscard]] orvanemax::Rows<ViewerAttribute> viewerAttributes() noexcept;
 
 /** Fills every mirror that must be readable before the first default has passed its setter. */
 void fillViewerDefaults (t_halcyra_control* x);

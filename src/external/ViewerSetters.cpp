@@ -109,15 +109,27 @@ bool gridMode (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
     return true;
 }
 
-/** One word for each source; a list with a word that names no mode is refused as a whole. */
-bool orientationModes (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
+/** A list that is too short is ignored, one with a word that the property does not know refused; of the values of
+    a source, those that do not fit are skipped. */
+bool eachSource (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
+    const auto& property = scene::withAttribute (scene::sourceProperties(), row.name);
     for (const auto& atom : atoms)
-        if (atom_gettype (&atom) == A_SYM && ! scene::isOrientationMode (atom_getsym (&atom))) {
+        if (property.isGood != nullptr && atom_gettype (&atom) == A_SYM && ! property.isGood (atom_getsym (&atom))) {
             refuse (x, row, atoms);
             return false;
         }
-    return wordPerSource<scene::setSourceOrientationMode> (x, row, atoms);
+    const auto width = std::string_view (property.values).size();
+    const auto sources = static_cast<std::size_t> (x->numsources);
+    if (atoms.size() < width * sources)
+        return true;
+    for (std::size_t i = 0; ! objectIsGone() && i < sources; ++i) {
+        const auto values = atoms.from (width * i);
+        if (values.fit (property.values))
+            scene::update (x, property, static_cast<t_atom_long> (i), { static_cast<t_clong> (width), values.begin() },
+                           true);
+    }
+    return true;
 }
 
 bool showViewer (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
@@ -156,7 +168,7 @@ bool sourcesPositions (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
         return true;
     copyNumbers (atoms, x->sourcespositions, x->sourcespositionssize);
     for (t_atom_long i = 0; ! objectIsGone() && i < x->numsources; ++i)
-        scene::setSourcePosition (x, i, scene::sourceInMirror (x, i), true);
+        scene::moveSource (x, i, scene::sourceInMirror (x, i), true);
     return true;
 }
 
@@ -165,44 +177,22 @@ bool speakersPositions (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
     if (atoms.empty() || ! atoms.areNumbers())
         return true;
     copyNumbers (atoms, x->speakerspositions, x->speakerspositionssize);
-    scene::sendSpeakers (x, true);
+    scene::moveSpeakers (x, scene::speakersInMirror (x), true);
     return true;
 }
 
 bool listenerPosition (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
 {
-    if (atoms.fit ("nnn")) {
-        copyNumbers (atoms, x->listenerposition, 3);
-        scene::sendListenerPosition (x, true);
-    }
+    if (atoms.fit ("nnn"))
+        scene::moveListener (x, { atoms.number (0), atoms.number (1), atoms.number (2) }, true);
     return true;
 }
 
 bool listenerAngle (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
-    if (! atoms.fit ("n"))
-        return true;
-    auto& angle = field<float> (x, row);
-    angle = atoms.number (0);
-    if (&angle == &x->listeneryaw)
-        scene::sendListenerYaw (x, true);
-    else if (&angle == &x->listenerpitch)
-        scene::sendListenerPitch (x, true);
-    else
-        scene::sendListenerRoll (x, true);
-    return true;
-}
-
-bool sourceColour (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
-{
-    if (atoms.size() < static_cast<std::size_t> (4 * x->numsources))
-        return true;
-    for (t_atom_long i = 0; ! objectIsGone() && i < x->numsources; ++i) {
-        const auto values = atoms.from (static_cast<std::size_t> (4 * i));
-        if (values.fit ("nnnn"))
-            scene::setSourceColour (
-                x, i, { values.number (0), values.number (1), values.number (2), values.number (3) }, true);
-    }
+    const auto& property = scene::withAttribute (scene::listenerProperties(), row.name);
+    if (atoms.fit (property.values))
+        scene::update (x, property, 0, { 1, atoms.begin() }, true);
     return true;
 }
 

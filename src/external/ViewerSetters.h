@@ -92,33 +92,13 @@ bool colour (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
     return true;
 }
 
-/** A number of each source, by the way of all scene updates; a list that is too short is ignored. */
-template <void (*set) (t_halcyra_control* x, t_atom_long source, float value, bool notify)>
-bool perSource (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
-{
-    if (atoms.size() >= static_cast<std::size_t> (x->numsources))
-        for (t_atom_long i = 0; ! orvanemax::objectIsGone() && i < x->numsources; ++i)
-            if (orvanemax::isNumber (atoms[static_cast<std::size_t> (i)]))
-                set (x, i, atoms.number (static_cast<std::size_t> (i)), true);
-    return true;
-}
-
-/** A word of each source; what is no symbol is skipped. */
-template <void (*set) (t_halcyra_control* x, t_atom_long source, t_symbol* word, bool notify)>
-bool wordPerSource (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
-{
-    if (atoms.size() >= static_cast<std::size_t> (x->numsources))
-        for (t_atom_long i = 0; ! orvanemax::objectIsGone() && i < x->numsources; ++i)
-            if (atoms.from (static_cast<std::size_t> (i)).fit ("s"))
-                set (x, i, atoms.symbol (static_cast<std::size_t> (i)), true);
-    return true;
-}
+/** What each source has of its own, by the way of all scene updates; the row is one of the scene's properties. */
+bool eachSource (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 
 // Each of a kind.
 bool keep (t_halcyra_control* x, const AttributeRow& row, Atoms atoms); // a switch that no plane knows
 bool radiusConstraint (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool gridMode (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
-bool orientationModes (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool showViewer (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool zoomLock (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool frameOption (t_halcyra_control* x, const AttributeRow& row, Atoms atoms); // showfps, useopengl
@@ -127,7 +107,6 @@ bool sourcesPositions (t_halcyra_control* x, const AttributeRow& row, Atoms atom
 bool speakersPositions (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool listenerPosition (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool listenerAngle (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
-bool sourceColour (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool sourcesLevels (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool speakersLevels (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool shoeboxCorners (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);

@@ -102,14 +102,14 @@ void document (t_class* c, const MessageRow& row)
 
 }
 
-void addMessages (t_class* c, const MessageRow* first, std::size_t count)
+void addMessages (t_class* c, Rows<MessageRow> rows)
 {
-    std::for_each (first, first + count, [c] (const MessageRow& row) {
+    for (const auto& row : rows) {
         if (class_addmethod (c, row.function, row.name, row.pattern, 0) != MAX_ERR_NONE)
             object_post (nullptr, "error when adding method %s", row.name);
         else if (row.pattern != A_CANT || row.help != nullptr)
             document (c, row);
-    });
+    }
 }
 
 void addDocumentationAttributes (t_class* c, const char* className, const char* version,

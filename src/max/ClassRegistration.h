@@ -2,6 +2,7 @@
 #include "max/Atoms.h"
 #include "max/AttributeRow.h"
 #include "max/HostFunction.h"
+#include "max/Rows.h"
 
 #include <initializer_list>
 
@@ -29,7 +30,7 @@ struct MessageRow
 
 /** Registers messages in order, with their documentation. A message that fails is posted, and the rest goes on.
     The documentation lies in the dictionary `methods`, a property of the attribute `classdescription`. */
-void addMessages (t_class* c, const MessageRow* first, std::size_t count);
+void addMessages (t_class* c, Rows<MessageRow> rows);
 
 /** The four attributes that name the class: digest, description, see-also list and version, kept as their labels. Comes
     before addMessages. */

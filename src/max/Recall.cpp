@@ -11,8 +11,7 @@ namespace orvanemax
 namespace
 {
 
-const LateAttribute* lateAttributes = nullptr;
-std::size_t numLateAttributes = 0;
+Rows<LateAttribute> lateAttributes;
 
 std::vector<t_atom> present (void* object, t_symbol* name)
 {
@@ -29,24 +28,20 @@ bool equal (const std::vector<t_atom>& a, const std::vector<t_atom>& b)
 
 }
 
-void setLateAttributes (const LateAttribute* first, std::size_t count) noexcept
-{
-    lateAttributes = first;
-    numLateAttributes = count;
-}
+void setLateAttributes (Rows<LateAttribute> rows) noexcept { lateAttributes = rows; }
 
 Recall::Recall (void* owner, const std::vector<t_symbol*>& names) : object (owner)
 {
     const auto comes = [&] (const char* name) {
         return name != nullptr && std::find (names.begin(), names.end(), gensym (name)) != names.end();
     };
-    for (const auto* row = lateAttributes; row != lateAttributes + numLateAttributes; ++row)
-        late.push_back ({ gensym (row->name), present (object, gensym (row->name)), false });
-    for (const auto* row = lateAttributes; row != lateAttributes + numLateAttributes; ++row)
-        if (! objectIsGone() && row->lifted && comes (row->refuses)) {
+    for (const auto& row : lateAttributes)
+        late.push_back ({ gensym (row.name), present (object, gensym (row.name)), false });
+    for (const auto& row : lateAttributes)
+        if (! objectIsGone() && row.lifted && comes (row.refuses)) {
             t_atom open{};
-            atom_setlong (&open, *row->lifted);
-            object_attr_setvalueof (object, gensym (row->name), 1, &open);
+            atom_setlong (&open, *row.lifted);
+            object_attr_setvalueof (object, gensym (row.name), 1, &open);
         }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 #include "max/Atoms.h"
+#include "max/Rows.h"
 
 #include <optional>
 #include <vector>
@@ -16,7 +17,7 @@ struct LateAttribute
 };
 
 /** Names the class's late attributes, in the order in which they are set. At registration; the rows must last. */
-void setLateAttributes (const LateAttribute* first, std::size_t count) noexcept;
+void setLateAttributes (Rows<LateAttribute> rows) noexcept;
 
 /** Sets many attributes of an object as one: what stands in the way of one is lifted first, and set last to its own
     recalled value or, if none comes, to the one that stood before. Main thread. */

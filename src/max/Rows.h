@@ -1,0 +1,28 @@
+#pragma once
+#include <cstddef>
+
+namespace orvanemax
+{
+
+/** A table of rows that lives as long as the process: behaviour that comes in rows is written in one, and walked by
+    whoever registers, dispatches, documents or tests it. */
+template <typename Row>
+class Rows
+{
+public:
+    template <std::size_t size>
+    constexpr Rows (const Row (&table)[size]) noexcept : first (table), count (size)
+    {}
+    constexpr Rows (const Row* firstRow, std::size_t numberOfRows) noexcept : first (firstRow), count (numberOfRows) {}
+    constexpr Rows() noexcept = default;
+
+    [[nodiscard]] constexpr const Row* begin() const noexcept { return first; }
+    [[nodiscard]] constexpr const Row* end() const noexcept { return first + count; }
+    [[nodiscard]] constexpr std::size_t size() const noexcept { return count; }
+
+private:
+    const Row* first = nullptr;
+    std::size_t count = 0;
+};
+
+}
