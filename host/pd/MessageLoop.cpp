@@ -1,5 +1,5 @@
 #include "host/pd/MessageLoop.h"
-#include "max/window/X11Window.h"
+#include "host/desktop/X11Window.h"
 #include <algorithm>
 #include <juce_events/native/juce_linux_EventLoopInternal.h>
 #include <vector>

@@ -115,9 +115,9 @@ ROWS = [
     ("src/max/Recall.cpp", "comes (row.refuses)", "! comes (row.refuses)", "what refuses a recalled value is not lifted"),
     ("src/max/Recall.cpp", "row.isSet || ! equal", "row.isSet && ! equal", "what was lifted for a recall is not set back"),
     ("src/max/Recall.cpp", "(row == late.end())\n        return", "(true)\n        return", "late attributes are set in the order in which they come"),
-    ("src/max/window/JuceWindow.cpp", "if (shell->isMinimised())\n        shell->setMinimised (false);", "",
+    ("host/desktop/JuceWindow.cpp", "if (shell->isMinimised())\n        shell->setMinimised (false);", "",
      "open leaves a minimised window down"),
-    ("src/max/window/OffscreenPeer.cpp", "last->handleFocusLoss();\n    handleFocusGain();", "handleFocusGain();",
+    ("host/desktop/OffscreenPeer.cpp", "last->handleFocusLoss();\n    handleFocusGain();", "handleFocusGain();",
      "two windows have the keyboard"),
 
     # src/external: messages, attributes, the scene

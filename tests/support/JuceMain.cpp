@@ -1,5 +1,5 @@
 #include "host/bench/window/GuiPump.h"
-#include "max/window/OffscreenDesktop.h"
+#include "host/desktop/OffscreenDesktop.h"
 
 #include <gmock/gmock.h>
 #include <juce_gui_basics/juce_gui_basics.h>

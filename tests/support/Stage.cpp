@@ -1,6 +1,6 @@
 #include "support/Stage.h"
 
-#include "max/window/OffscreenPeer.h"
+#include "host/desktop/OffscreenPeer.h"
 
 #include <gtest/gtest.h>
 

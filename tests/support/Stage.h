@@ -2,7 +2,7 @@
 
 #include "host/bench/window/GuiPump.h"
 #include "host/bench/window/PeerInput.h"
-#include "max/window/OffscreenWindow.h"
+#include "host/desktop/OffscreenWindow.h"
 
 #include <juce_gui_basics/juce_gui_basics.h>
 

@@ -1,6 +1,6 @@
 #include "gui/plane/PlaneComponent.h"
 #include "host/bench/window/PeerInput.h"
-#include "max/window/OffscreenWindow.h"
+#include "host/desktop/OffscreenWindow.h"
 
 #include <benchmark/benchmark.h>
 

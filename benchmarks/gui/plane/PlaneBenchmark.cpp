@@ -1,5 +1,5 @@
 #include "CairoScene.h"
-#include "max/window/OffscreenDesktop.h"
+#include "host/desktop/OffscreenDesktop.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
 #include "gui/verb/HalcyraFiltersTabComponent.h"
 #include "gui/verb/HalcyraTimeStructureTabComponent.h"
-#include "max/window/OffscreenDesktop.h"
+#include "host/desktop/OffscreenDesktop.h"
 
 #include <benchmark/benchmark.h>
 

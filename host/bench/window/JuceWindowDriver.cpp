@@ -1,8 +1,8 @@
 #include "host/bench/window/JuceWindowDriver.h"
 
 #include "host/bench/window/GuiPump.h"
-#include "max/window/OffscreenDesktop.h"
-#include "max/window/OffscreenWindow.h"
+#include "host/desktop/OffscreenDesktop.h"
+#include "host/desktop/OffscreenWindow.h"
 
 namespace
 {

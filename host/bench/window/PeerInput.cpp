@@ -1,6 +1,6 @@
 #include "host/bench/window/PeerInput.h"
 
-#include "max/window/OffscreenDesktop.h"
+#include "host/desktop/OffscreenDesktop.h"
 
 namespace
 {

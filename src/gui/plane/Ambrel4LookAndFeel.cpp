@@ -171,7 +171,8 @@ juce::Component* menuParent (const juce::PopupMenu::Options& options)
 {
     const auto* const target = options.getTargetComponent();
     auto* const top = target != nullptr ? target->getTopLevelComponent() : nullptr;
-    return top != nullptr && top->getProperties()["menusOpenInside"] ? top : options.getParentComponent();
+    const auto* const peer = top != nullptr ? top->getPeer() : nullptr;
+    return peer != nullptr && peer->getNativeHandle() == nullptr ? top : options.getParentComponent();
 }
 
 }

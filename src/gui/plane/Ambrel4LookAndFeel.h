@@ -34,8 +34,7 @@ void drawShadedShape (juce::Graphics& g, const juce::Path& shape, juce::Colour b
 /** A round slider thumb. */
 void drawThumb (juce::Graphics& g, juce::Point<float> centre, float radius, juce::Slider& slider);
 
-/** Where a menu opens: on the desktop (null), but inside a top-level component whose property "menusOpenInside" is
-    set, since a window in memory has no desktop. */
+/** Where a menu opens: on the desktop (null), or inside the window where that has no handle and so no desktop. */
 [[nodiscard]] juce::Component* menuParent (const juce::PopupMenu::Options& options);
 
 /** Text of sliders and labels has this height. */

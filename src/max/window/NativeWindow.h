@@ -52,9 +52,10 @@ std::unique_ptr<NativeWindow> makeNativeWindow (const void* owner, juce::Compone
 /** Windows made from now on come from this factory; an empty one brings back the platform's own. */
 void setNativeWindowFactory (NativeWindowFactory factory);
 
-/** The window of this platform: a window of Windows itself, elsewhere one of X11. */
+/** The window of this platform: of Windows itself, elsewhere what the host defines. */
 std::unique_ptr<NativeWindow> makePlatformWindow();
 
 /** Brings JUCE up on the calling thread, which becomes its message thread, unless another external of the
-    process has done so. The host's own message pump serves it from then on. */
+    process has done so. The host's own message pump serves it from then on. Elsewhere than on Windows the host defines
+    it. */
 void startJuceInHost();

@@ -1,5 +1,5 @@
 #define JUCE_GUI_BASICS_INCLUDE_XHEADERS 1
-#include "max/window/X11Window.h"
+#include "host/desktop/X11Window.h"
 
 #include <JucePrivateParts.h>
 

@@ -13,7 +13,4 @@ void start();
 /** Where the pointer of this desktop stands, in pixels of the screen. */
 void setPointer (juce::Point<int> position);
 
-/** The property of a top-level component whose menus open inside it, since it has no display to open them on. */
-extern const juce::Identifier menusOpenInside;
-
 }

@@ -1,5 +1,5 @@
 #define JUCE_GUI_BASICS_INCLUDE_XHEADERS 1
-#include "max/window/OffscreenDesktop.h"
+#include "host/desktop/OffscreenDesktop.h"
 
 #include <JucePrivateParts.h>
 
@@ -40,8 +40,6 @@ void addScreen()
 }
 
 }
-
-const juce::Identifier menusOpenInside ("menusOpenInside");
 
 void start()
 {

@@ -1,4 +1,4 @@
-#include "max/window/OffscreenPeer.h"
+#include "host/desktop/OffscreenPeer.h"
 
 OffscreenPeer* OffscreenPeer::focusedPeer = nullptr;
 

@@ -1,7 +1,6 @@
-#include "max/window/OffscreenWindow.h"
+#include "host/desktop/OffscreenWindow.h"
 
-#include "max/window/OffscreenDesktop.h"
-#include "max/window/OffscreenPeer.h"
+#include "host/desktop/OffscreenPeer.h"
 
 std::unique_ptr<JuceWindow::Shell> OffscreenWindow::makeShell (const juce::String& title)
 {
@@ -14,7 +13,5 @@ std::unique_ptr<JuceWindow::Shell> OffscreenWindow::makeShell (const juce::Strin
         }
     };
 
-    auto made = std::make_unique<ShellInMemory> (*this, title);
-    made->getProperties().set (OffscreenDesktop::menusOpenInside, true);
-    return made;
+    return std::make_unique<ShellInMemory> (*this, title);
 }

@@ -1,4 +1,4 @@
-#include "max/window/OffscreenWindow.h"
+#include "host/desktop/OffscreenWindow.h"
 
 #include "support/Stage.h"
 

@@ -1,4 +1,4 @@
-#include "max/window/JuceWindow.h"
+#include "host/desktop/JuceWindow.h"
 
 JuceWindow::Shell::Shell (JuceWindow& windowToServe, const juce::String& title)
     : juce::DocumentWindow (title, juce::Colours::lightgrey, minimiseButton | closeButton, false),

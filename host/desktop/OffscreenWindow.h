@@ -1,6 +1,6 @@
 #pragma once
 
-#include "max/window/JuceWindow.h"
+#include "host/desktop/JuceWindow.h"
 
 /** A window held in memory: no display, but the same component, events and pixels.
     OffscreenDesktop::start() comes first. Menus open inside the window. */

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "max/window/JuceWindow.h"
+#include "host/desktop/JuceWindow.h"
 
 /** A window of the X11 display, with or without a window manager. */
 class X11Window : public JuceWindow
