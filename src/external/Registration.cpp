@@ -58,7 +58,7 @@ void dictionaryMessage (void* x, t_symbol* name)
 void rotateMessage (void* x, t_symbol* selector, t_clong argc, t_atom* argv)
 {
     if (Atoms (argc, argv).fit ("innn"))
-        queuedEntry<rotate> (x, selector, argc, argv);
+        queuedEntry<rotateSources> (x, selector, argc, argv);
     else
         tellError (x, "invalid rotate message");
 }
@@ -123,16 +123,16 @@ std::vector<MessageRow> ownMessages()
           A_GIMME,
           nullptr,
           { { "first", "symbol" }, { "second", "symbol" }, { "amount", "float" } } },
-        { "listener", onMain<listener>(), A_GIMME, nullptr, { values } },
+        { "listener", onMain<changeListener>(), A_GIMME, nullptr, { values } },
         { "rotate", hostFunction<rotateMessage>(), A_GIMME, nullptr, { index, { "yaw pitch roll", "list of float" } } },
-        { "areas", queued<area>(), A_GIMME, nullptr, { index, values } },
-        { "area", queued<area>(), A_GIMME, nullptr, { index, values } },
-        { "anchor", queued<anchor>(), A_GIMME, nullptr, { index, values } },
+        { "areas", queued<changeArea>(), A_GIMME, nullptr, { index, values } },
+        { "area", queued<changeArea>(), A_GIMME, nullptr, { index, values } },
+        { "anchor", queued<changeAnchor>(), A_GIMME, nullptr, { index, values } },
         { "adjustzoom", queued<adjustZoom>(), none },
         { "roomsize", hostFunction<halcyra_control_roomsize>(), A_GIMME, nullptr, { { "size", "float" } } },
         { "bang", hostFunction<halcyra_control_bang>(), none },
         { "reset", hostFunction<halcyra_control_reset>(), none },
-        { "source", onMain<source>(), A_GIMME, nullptr, { index, { "property or coordinates", "symbol" }, values } },
+        { "source", onMain<changeSource>(), A_GIMME, nullptr, { index, { "property or coordinates", "symbol" }, values } },
         { "direct", hostFunction<halcyra_control_direct>(), A_GIMME, nullptr, { values } },
         { "room", hostFunction<halcyra_control_room>(), A_GIMME, nullptr, { values } },
         { "early", hostFunction<halcyra_control_early>(), A_GIMME, nullptr, { values } },
@@ -142,11 +142,11 @@ std::vector<MessageRow> ownMessages()
           A_GIMME,
           nullptr,
           { { "parameter", "symbol" }, { "value", "float" } } },
-        { "loudspeakers", onMain<speakers>(), A_GIMME, nullptr, { values } },
-        { "speakers", onMain<speakers>(), A_GIMME, nullptr, { values } },
-        { "loudspeaker", onMain<speaker>(), A_GIMME },
+        { "loudspeakers", onMain<changeSpeakers>(), A_GIMME, nullptr, { values } },
+        { "speakers", onMain<changeSpeakers>(), A_GIMME, nullptr, { values } },
+        { "loudspeaker", onMain<changeSpeaker>(), A_GIMME },
         { "speaker",
-          onMain<speaker>(),
+          onMain<changeSpeaker>(),
           A_GIMME,
           nullptr,
           { { "speaker index", "int" },

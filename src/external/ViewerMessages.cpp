@@ -36,7 +36,7 @@ t_atom_long indexOf (t_halcyra_control* x, Atoms message, t_atom_long count, con
 
 }
 
-void source (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
+void changeSource (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
 {
     auto* x = control (object);
     guarded (x, [=] {
@@ -53,7 +53,7 @@ void source (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
     });
 }
 
-void speaker (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
+void changeSpeaker (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
 {
     auto* x = control (object);
     guarded (x, [=] {
@@ -70,7 +70,7 @@ void speaker (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
     });
 }
 
-void speakers (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
+void changeSpeakers (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
 {
     auto* x = control (object);
     guarded (x, [=] {
@@ -84,7 +84,7 @@ void speakers (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
     });
 }
 
-void listener (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
+void changeListener (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
 {
     auto* x = control (object);
     guarded (x, [=] {
@@ -99,7 +99,7 @@ void listener (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
     });
 }
 
-void area (void* object, t_symbol*, t_clong argc, t_atom* argv)
+void changeArea (void* object, t_symbol*, t_clong argc, t_atom* argv)
 {
     auto* x = control (object);
     guarded (x, [=] {
@@ -116,7 +116,7 @@ void area (void* object, t_symbol*, t_clong argc, t_atom* argv)
     });
 }
 
-void anchor (void* object, t_symbol*, t_clong argc, t_atom* argv)
+void changeAnchor (void* object, t_symbol*, t_clong argc, t_atom* argv)
 {
     auto* x = control (object);
     guarded (x, [=] {
@@ -143,7 +143,7 @@ void adjustZoom (void* object)
     });
 }
 
-void rotate (void* object, t_symbol*, t_clong argc, t_atom* argv)
+void rotateSources (void* object, t_symbol*, t_clong argc, t_atom* argv)
 {
     auto* x = control (object);
     guarded (x, [=] {

@@ -5,22 +5,22 @@
 namespace halcyra
 {
 
-/** `source INDEX KEY ...`: a key of the table in ViewerMessages.cpp, or a position. */
-void source (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
+/** `source INDEX KEY ...`: a key of SceneProperties, or a position. */
+void changeSource (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
 /** `speaker INDEX ...`, `loudspeaker INDEX ...` */
-void speaker (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
+void changeSpeaker (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
 /** `speakers ...`, `loudspeakers ...`: all positions. */
-void speakers (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
+void changeSpeakers (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
 /** `listener yaw N`, `listener rpy N N N`, or a position. */
-void listener (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
+void changeListener (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
 
 // By the queue.
 /** `areas INDEX ...`, `area INDEX ...`: a key, or the outline. */
-void area (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
+void changeArea (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
 /** `anchor INDEX name NAME`, or a position. */
-void anchor (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
+void changeAnchor (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
 void adjustZoom (void* x);
 /** `rotate INDEX YAW PITCH ROLL`, 0 for the whole scene. */
-void rotate (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
+void rotateSources (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
 
 }
