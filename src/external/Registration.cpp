@@ -34,10 +34,12 @@ constexpr auto* className = "halcyra~.control";
 t_class* registeredClass = nullptr;
 
 /** What a recall sets last: constraints and locks, lifted for what they would bend or refuse, and the ways that changes
-    of the scene take. Hiding the headphones frees the speakers, so their switch comes behind them. */
+    of the scene take. Hiding the headphones frees the speakers, so their switch comes behind them. The margin limits the
+    zoom only when the zoom is set, which may have been before; lifted it is the least. */
 constexpr LateAttribute lateAttributesOfControl[] = {
     { "radiusconstraint", 0, "sourcespositions" },
     { "zoomlock", 0, "zoom" },
+    { "globalproportion", 0, "zoom" },
     { "showheadphones", 0, "showspeakers" },
     { "speakerseditable", {} },
     { "windowmoveable", 1, "windowtopleft" },

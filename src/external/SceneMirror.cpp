@@ -41,10 +41,11 @@ bool storeFloatIfOther (t_atom* array, std::size_t index, float value) noexcept
 {
     const auto wide = static_cast<double> (value);
     const std::lock_guard<std::mutex> lock (perSourceStores());
-    if (array == nullptr || (atom_gettype (&array[index]) == A_FLOAT && atom_getfloat (&array[index]) == wide))
+    if (array == nullptr)
         return false;
-    atom_setfloat (&array[index], wide);
-    return true;
+    const bool isOther = atom_gettype (&array[index]) != A_FLOAT || atom_getfloat (&array[index]) != wide;
+    atom_setfloat (&array[index], wide); // 0 for -0 too, though they are equal
+    return isOther;
 }
 
 float presentDegrees (const t_atom* array, std::size_t index) noexcept

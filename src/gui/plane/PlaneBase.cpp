@@ -5,6 +5,8 @@
 #include "gui/plane/objects/Limits.h"
 #include "gui/plane/view/Finite.h"
 
+#include <utility>
+
 namespace lumo
 {
 
@@ -160,9 +162,8 @@ void PlaneBase::SetZoom (float zoom, bool repaintNow)
 
 void PlaneBase::SetOffset (float& stored, float pixels)
 {
-    if (! AreFinite (pixels) || stored == pixels)
+    if (! AreFinite (pixels) || std::exchange (stored, pixels) == pixels) // 0 takes the place of -0, and -0 of 0
         return;
-    stored = pixels;
     UpdateScreenPositions();
     MarkStaticLayerDirty();
     repaint();
