@@ -3,7 +3,6 @@
 #include "external/DeferredMessages.h"
 #include "external/ReverbParameters.h"
 #include "max/Atoms.h"
-#include "max/Guarded.h"
 #include "max/MainThread.h"
 #include "max/MaxAttribute.h"
 #include "max/MaxMspJuceWindowManager.h"
@@ -130,21 +129,19 @@ void setTopLeft (t_halcyra_control* x, Atoms atoms)
 /** On the main thread; the name says which attribute of the window. */
 void setWindowOption (t_halcyra_control* x, t_symbol* name, short argc, t_atom* argv)
 {
-    guarded (x, [=] {
-        const Atoms atoms (argc, argv);
-        if (name == symbols().windowtitle && atoms.fit ("s")) {
-            x->windowtitle = atoms.symbol (0);
-            x->window->setTitle (x->windowtitle->s_name);
-        } else if (name == symbols().windowtopleft) {
-            setTopLeft (x, atoms);
-        } else if (name == symbols().windowmoveable && atoms.fit ("n")) {
-            x->windowmoveable = atoms.number (0) != 0 ? 1 : 0;
-            x->window->setMoveable (x->windowmoveable != 0);
-        } else {
-            return;
-        }
-        notifyModified (x);
-    });
+    const Atoms atoms (argc, argv);
+    if (name == symbols().windowtitle && atoms.fit ("s")) {
+        x->windowtitle = atoms.symbol (0);
+        x->window->setTitle (x->windowtitle->s_name);
+    } else if (name == symbols().windowtopleft) {
+        setTopLeft (x, atoms);
+    } else if (name == symbols().windowmoveable && atoms.fit ("n")) {
+        x->windowmoveable = atoms.number (0) != 0 ? 1 : 0;
+        x->window->setMoveable (x->windowmoveable != 0);
+    } else {
+        return;
+    }
+    notifyModified (x);
 }
 
 bool isWindowOption (t_symbol* name) noexcept
@@ -191,9 +188,7 @@ void fillControlDefaults (t_halcyra_control* x)
 
 t_max_err halcyra_control_set (t_halcyra_control* x, void* attribute, t_clong argc, t_atom* argv)
 {
-    orvanemax::guarded (x, [=] {
-        if (argc > 0 && argv != nullptr)
-            halcyra::setAttribute (x, MaxAttribute (static_cast<t_object*> (attribute)).name(), argc, argv);
-    });
+    if (argc > 0 && argv != nullptr)
+        halcyra::setAttribute (x, MaxAttribute (static_cast<t_object*> (attribute)).name(), argc, argv);
     return MAX_ERR_NONE;
 }

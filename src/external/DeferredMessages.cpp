@@ -4,14 +4,12 @@
 #include "external/ReverbParameters.h"
 #include "gui/verb/HalcyraComponent.h"
 #include "max/Atoms.h"
-#include "max/Guarded.h"
 #include "max/MainThread.h"
 #include "max/Modified.h"
 
 #include <algorithm>
 
 using orvanemax::Atoms;
-using orvanemax::guarded;
 using orvanemax::invalidMessage;
 
 namespace halcyra
@@ -48,59 +46,45 @@ bool isOneValue (Atoms atoms) noexcept
 
 void setNumber (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv)
 {
-    guarded (x, [=] {
-        const Atoms atoms (argc, argv);
-        const auto& mirror = *mirrorOf (selector);
-        if (! isOneValue (atoms))
-            return invalidMessage (x, mirror.complaint, atoms);
-        x->component->setReverbParameter (mirror.number, atoms.number (0));
-    });
+    const Atoms atoms (argc, argv);
+    const auto& mirror = *mirrorOf (selector);
+    if (! isOneValue (atoms))
+        return invalidMessage (x, mirror.complaint, atoms);
+    x->component->setReverbParameter (mirror.number, atoms.number (0));
 }
 
 void setSwitch (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv)
 {
-    guarded (x, [=] {
-        const Atoms atoms (argc, argv);
-        const auto& mirror = *mirrorOf (selector);
-        if (! atoms.fit ("l"))
-            return invalidMessage (x, mirror.complaint, atoms);
-        x->component->setReverbParameter (mirror.number, atoms.integer (0) != 0 ? 1.0f : 0.0f);
-    });
+    const Atoms atoms (argc, argv);
+    const auto& mirror = *mirrorOf (selector);
+    if (! atoms.fit ("l"))
+        return invalidMessage (x, mirror.complaint, atoms);
+    x->component->setReverbParameter (mirror.number, atoms.integer (0) != 0 ? 1.0f : 0.0f);
 }
 
 void setRoomSize (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
 {
-    guarded (x, [=] {
-        const Atoms atoms (argc, argv);
-        if (! isOneValue (atoms))
-            return invalidMessage (x, "invalid message : room size", atoms);
-        x->component->setRoomSize (atoms.number (0), juce::sendNotification);
-    });
+    const Atoms atoms (argc, argv);
+    if (! isOneValue (atoms))
+        return invalidMessage (x, "invalid message : room size", atoms);
+    x->component->setRoomSize (atoms.number (0), juce::sendNotification);
 }
 
 /** A list that is no filter changes nothing and says nothing: messages were tested before, and attributes are not. */
 void setFilter (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv)
 {
-    guarded (x, [=] {
-        const auto number = filterNumber (selector);
-        const auto& mirror = filterMirrors[static_cast<std::size_t> (number)];
-        auto filter = x->component->getFilter (number); // fields that the message does not name stay
-        parseFilter (filter, Atoms (argc, argv));
-        x->component->setFilter (number, filter, true);
-        if (mirror.tellsOfMessages)
-            orvanemax::notifyModified (x);
-    });
+    const auto number = filterNumber (selector);
+    const auto& mirror = filterMirrors[static_cast<std::size_t> (number)];
+    auto filter = x->component->getFilter (number); // fields that the message does not name stay
+    parseFilter (filter, Atoms (argc, argv));
+    x->component->setFilter (number, filter, true);
+    if (mirror.tellsOfMessages)
+        orvanemax::notifyModified (x);
 }
 
-void resetAll (t_halcyra_control* x, t_symbol*, short, t_atom*)
-{
-    guarded (x, [=] { x->component->resetAll(); });
-}
+void resetAll (t_halcyra_control* x, t_symbol*, short, t_atom*) { x->component->resetAll(); }
 
-void sendAll (t_halcyra_control* x, t_symbol*, short, t_atom*)
-{
-    guarded (x, [=] { x->component->sendAllParameters(); });
-}
+void sendAll (t_halcyra_control* x, t_symbol*, short, t_atom*) { x->component->sendAllParameters(); }
 
 /** What is neither a parameter nor a filter. */
 struct DeferredMessage

@@ -155,12 +155,8 @@ void halcyra_control_assist (t_halcyra_control*, void*, t_clong io, t_clong inde
 
 void halcyra_control_open (void* object)
 {
-    auto* x = static_cast<t_halcyra_control*> (object);
-    guarded (x, [x] { x->window->open (x->display != 0); });
+    const auto* x = static_cast<t_halcyra_control*> (object);
+    x->window->open (x->display != 0);
 }
 
-void halcyra_control_wclose (void* object)
-{
-    auto* x = static_cast<t_halcyra_control*> (object);
-    guarded (x, [x] { x->window->close(); });
-}
+void halcyra_control_wclose (void* object) { static_cast<t_halcyra_control*> (object)->window->close(); }

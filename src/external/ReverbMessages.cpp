@@ -3,7 +3,6 @@
 #include "external/DeferredMessages.h"
 #include "external/FilterMessage.h"
 #include "external/ReverbParameters.h"
-#include "max/Guarded.h"
 
 using orvanemax::Atoms;
 using orvanemax::symbols;
@@ -41,11 +40,9 @@ bool forwardFilter (t_halcyra_control* x, t_symbol* selector, Atoms atoms)
 
 void filterMessage (t_halcyra_control* x, const FilterMirror& filter, bool hasKeys, Atoms atoms)
 {
-    orvanemax::guarded (x, [&] {
-        auto* selector = orvanemax::symbol (filter.selector);
-        if (! (hasKeys && forwardKeyed (x, selector, atoms)) && ! forwardFilter (x, selector, atoms))
-            orvanemax::invalidMessage (x, filter.complaint, atoms);
-    });
+    auto* selector = orvanemax::symbol (filter.selector);
+    if (! (hasKeys && forwardKeyed (x, selector, atoms)) && ! forwardFilter (x, selector, atoms))
+        orvanemax::invalidMessage (x, filter.complaint, atoms);
 }
 
 }
@@ -75,22 +72,18 @@ void halcyra_control_cluster (t_halcyra_control* x, t_symbol*, t_clong argc, t_a
 
 void halcyra_control_reverb (t_halcyra_control* x, t_symbol*, t_clong argc, t_atom* argv)
 {
-    orvanemax::guarded (x, [=] {
-        const Atoms atoms (argc, argv);
-        if (! forwardKeyed (x, symbols().reverb, atoms))
-            orvanemax::invalidMessage (x, "invalid message : reverb", atoms);
-    });
+    const Atoms atoms (argc, argv);
+    if (! forwardKeyed (x, symbols().reverb, atoms))
+        orvanemax::invalidMessage (x, "invalid message : reverb", atoms);
 }
 
 void halcyra_control_roomsize (t_halcyra_control* x, t_symbol*, t_clong argc, t_atom* argv)
 {
-    orvanemax::guarded (x, [=] {
-        const Atoms atoms (argc, argv);
-        if (! atoms.fit ("f"))
-            return orvanemax::invalidMessage (x, "invalid message : roomsize", atoms);
-        // All of them: the handler refuses more than one, in words of its own.
-        halcyra_control_defer_msg (x, symbols().roomsize, static_cast<t_clong> (atoms.size()), atoms.begin());
-    });
+    const Atoms atoms (argc, argv);
+    if (! atoms.fit ("f"))
+        return orvanemax::invalidMessage (x, "invalid message : roomsize", atoms);
+    // All of them: the handler refuses more than one, in words of its own.
+    halcyra_control_defer_msg (x, symbols().roomsize, static_cast<t_clong> (atoms.size()), atoms.begin());
 }
 
 void halcyra_control_bang (t_halcyra_control* x) { halcyra_control_defer_msg (x, symbols().bang, 0, nullptr); }

@@ -4,7 +4,6 @@
 #include "gui/plane/PlaneComponent.h"
 #include "max/Atoms.h"
 #include "max/FileDialogs.h"
-#include "max/Guarded.h"
 #include "max/OrvanemaxSymbols.h"
 
 namespace halcyra
@@ -13,7 +12,6 @@ namespace
 {
 
 using orvanemax::Atoms;
-using orvanemax::guarded;
 using orvanemax::invalidMessage;
 
 constexpr t_fourcc textType = 0x54455854;
@@ -69,19 +67,17 @@ constexpr FileTask writeTask{
 
 void runFileTask (t_halcyra_control* x, const FileTask& task, Atoms atoms)
 {
-    guarded (x, [&] {
-        if (! atoms.empty() && ! atoms.fitExactly ("s"))
-            return invalidMessage (x, task.complaint, atoms);
-        if (! atoms.empty() && atoms.symbol (0) == orvanemax::symbols().none)
-            return;
-        const qel::File file (atoms.empty() ? qel::String (task.ask()) : qel::String (atoms.symbol (0)->s_name));
-        if (file.empty())
-            return;
-        if (task.run (x->plane->GetSnapshots(), file))
-            orvanemax::tellPost (x, "file " + file.path().str() + task.done);
-        else
-            orvanemax::tellError (x, task.failed + file.path().str());
-    });
+    if (! atoms.empty() && ! atoms.fitExactly ("s"))
+        return invalidMessage (x, task.complaint, atoms);
+    if (! atoms.empty() && atoms.symbol (0) == orvanemax::symbols().none)
+        return;
+    const qel::File file (atoms.empty() ? qel::String (task.ask()) : qel::String (atoms.symbol (0)->s_name));
+    if (file.empty())
+        return;
+    if (task.run (x->plane->GetSnapshots(), file))
+        orvanemax::tellPost (x, "file " + file.path().str() + task.done);
+    else
+        orvanemax::tellError (x, task.failed + file.path().str());
 }
 
 }
@@ -89,49 +85,41 @@ void runFileTask (t_halcyra_control* x, const FileTask& task, Atoms atoms)
 void storeSnapshot (void* object, t_symbol*, t_clong argc, t_atom* argv)
 {
     auto* x = control (object);
-    guarded (x, [=] {
-        const Atoms atoms (argc, argv);
-        if (! isName (atoms))
-            return invalidMessage (x, "invalid message : store", atoms);
-        x->plane->StoreSnapshot (nameOf (atoms[0]));
-    });
+    const Atoms atoms (argc, argv);
+    if (! isName (atoms))
+        return invalidMessage (x, "invalid message : store", atoms);
+    x->plane->StoreSnapshot (nameOf (atoms[0]));
 }
 
 void recallSnapshot (void* object, t_symbol*, t_clong argc, t_atom* argv)
 {
     auto* x = control (object);
-    guarded (x, [=] {
-        const Atoms atoms (argc, argv);
-        if (! isName (atoms))
-            return invalidMessage (x, "invalid message : recall", atoms);
-        x->plane->RecallSnapshot (nameOf (atoms[0]));
-    });
+    const Atoms atoms (argc, argv);
+    if (! isName (atoms))
+        return invalidMessage (x, "invalid message : recall", atoms);
+    x->plane->RecallSnapshot (nameOf (atoms[0]));
 }
 
 void clearSnapshot (void* object, t_symbol*, t_clong argc, t_atom* argv)
 {
     auto* x = control (object);
-    guarded (x, [=] {
-        const Atoms atoms (argc, argv);
-        if (atoms.empty())
-            x->plane->RemoveAllSnapshots();
-        else if (isName (atoms))
-            x->plane->RemoveSnapshot (nameOf (atoms[0]));
-        else
-            invalidMessage (x, "invalid message : clearsnapshot", atoms);
-    });
+    const Atoms atoms (argc, argv);
+    if (atoms.empty())
+        x->plane->RemoveAllSnapshots();
+    else if (isName (atoms))
+        x->plane->RemoveSnapshot (nameOf (atoms[0]));
+    else
+        invalidMessage (x, "invalid message : clearsnapshot", atoms);
 }
 
 void interpolateSnapshots (void* object, t_symbol*, t_clong argc, t_atom* argv)
 {
     auto* x = control (object);
-    guarded (x, [=] {
-        const Atoms atoms (argc, argv);
-        if (atoms.size() != 3 || ! isSnapshotReference (atoms[0]) || ! isSnapshotReference (atoms[1]) ||
-            ! orvanemax::isNumber (atoms[2]))
-            return invalidMessage (x, "invalid message : xsnapshot", atoms);
-        x->plane->RecallSnapshots (nameOf (atoms[0]), nameOf (atoms[1]), atoms.number (2));
-    });
+    const Atoms atoms (argc, argv);
+    if (atoms.size() != 3 || ! isSnapshotReference (atoms[0]) || ! isSnapshotReference (atoms[1]) ||
+        ! orvanemax::isNumber (atoms[2]))
+        return invalidMessage (x, "invalid message : xsnapshot", atoms);
+    x->plane->RecallSnapshots (nameOf (atoms[0]), nameOf (atoms[1]), atoms.number (2));
 }
 
 void readSnapshot (void* x, t_symbol*, t_clong argc, t_atom* argv)

@@ -6,7 +6,6 @@
 #include "external/ViewerOptions.h"
 #include "external/ViewerSetters.h"
 #include "geometry/OrvaneDspSpherical.h"
-#include "max/Guarded.h"
 #include "max/MainThread.h"
 #include "max/MaxAttribute.h"
 #include "max/Modified.h"
@@ -155,17 +154,15 @@ const ViewerAttribute* attributeNamed (t_symbol* name)
 /** On the main thread; the name says which attribute. */
 void setByName (t_halcyra_control* x, t_symbol* name, short argc, t_atom* argv)
 {
-    orvanemax::guarded (x, [=] {
-        const auto* attribute = attributeNamed (name);
-        if (attribute == nullptr)
-            return orvanemax::tellError (x, std::string ("unknown attribute ") + name->s_name);
-        const bool notifies = attribute->set (x, attribute->row, orvanemax::Atoms (argc, argv));
-        if (orvanemax::objectIsGone())
-            return;
-        mirrorViewerOptions (x); // the plane may have refused, or changed more
-        if (notifies)
-            orvanemax::notifyModified (x);
-    });
+    const auto* attribute = attributeNamed (name);
+    if (attribute == nullptr)
+        return orvanemax::tellError (x, std::string ("unknown attribute ") + name->s_name);
+    const bool notifies = attribute->set (x, attribute->row, orvanemax::Atoms (argc, argv));
+    if (orvanemax::objectIsGone())
+        return;
+    mirrorViewerOptions (x); // the plane may have refused, or changed more
+    if (notifies)
+        orvanemax::notifyModified (x);
 }
 
 /** The atoms of a per-source attribute, in the record's own array; null in an object that could not get its memory. */
