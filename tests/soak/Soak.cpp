@@ -99,19 +99,20 @@ public:
         echoes = 0;
     }
 
-    /** An act: the stream of messages, in each beat of which something else happens as well. */
+    /** An act: the stream of messages, in each beat of which something else happens as well. What came too late is made
+        up for by the beats that follow. */
     void act()
     {
-        auto next = Clock::now();
-        for (int i = 0; i < beatsAnAct; ++i, next += beat) {
+        for (int i = 0; i < beatsAnAct; ++i) {
             patch.postToScheduler ([this] { fromScheduler.send (patch, *steady); });
             fromMain.send (patch, *steady);
             patch.pump();
             happen (i);
             patch.pump();
-            if (Clock::now() > next + beat)
+            next += beat;
+            if (Clock::now() > next)
                 ++lateBeats;
-            std::this_thread::sleep_until (next + beat);
+            std::this_thread::sleep_until (next);
         }
         patch.runOnScheduler ([] {});
         patch.settle();
@@ -220,6 +221,7 @@ private:
     const ScratchFolder folder;
     Stream fromMain{ "direct", 1 }, fromScheduler{ "room", 2 };
     bench::Box *steady = nullptr, *guest = nullptr;
+    Clock::time_point next = Clock::now();
 };
 
 }
