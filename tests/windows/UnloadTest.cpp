@@ -10,7 +10,7 @@ int main (int, char** argv)
     const auto file = std::filesystem::absolute (argv[0]).parent_path() / "halcyra~.control.mxe64";
     const auto module = LoadLibraryW (file.c_str());
     const auto entry = module != nullptr ? GetProcAddress (module, "ext_main") : nullptr;
-    if (entry == nullptr)
+    if (entry == nullptr || GetProcAddress (module, "main") != entry) // hosts look for either
         return 2;
     bench::Bench bench;
     bench.load (reinterpret_cast<bench::Entry> (reinterpret_cast<void (*)()> (entry)));
