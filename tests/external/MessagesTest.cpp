@@ -174,6 +174,69 @@ TEST_P (MessagesIn, KeysOfASourceReachItsAttributes)
     EXPECT_EQ (box.attribute ("orientationmode"), "yawconstraint follow");
 }
 
+TEST_P (MessagesIn, ListsHoldAsManyValuesAsThereAreObjectsOfTheirKind)
+{
+    struct List
+    {
+        const char* attribute;
+        bool isOfSpeakers;
+        int valuesEach;
+        std::string (*value) (int index);
+    };
+    const List lists[] = {
+        { "sourcespositions", false, 3, [] (int i) { return std::to_string (i - 7) + "."; } },
+        { "speakerspositions", true, 3, [] (int i) { return std::to_string (i - 7) + "."; } },
+        { "sourcecolor", false, 4, [] (int i) { return bench::textOf (0.015625f * static_cast<float> (i)); } },
+        { "yaw", false, 1, [] (int i) { return std::to_string (10 + i) + "."; } },
+        { "aperture", false, 1, [] (int i) { return std::to_string (20 + i) + "."; } },
+        { "radius", false, 1, [] (int i) { return std::to_string (2 + i) + "."; } },
+        { "name", false, 1, [] (int i) { return "word" + std::to_string (i); } },
+        { "orientationmode", false, 1, [] (int i) { return std::string (i % 2 == 0 ? "translation" : "follow"); } },
+        { "sourceslevels", false, 1, [] (int i) { return std::to_string (i - 40) + "."; } },
+        { "speakerslevels", true, 1, [] (int i) { return std::to_string (i - 40) + "."; } },
+    };
+    for (const int sources : { 2, 5 }) {
+        const int speakers = 7 - sources;
+        for (const auto& list : lists)
+            for (const int tooMany : { 0, 12 }) {
+                auto box =
+                    settled ("@numsources " + std::to_string (sources) + " @numspeakers " + std::to_string (speakers));
+                const int count = list.valuesEach * (list.isOfSpeakers ? speakers : sources);
+                std::string kept, more;
+                for (int i = 0; i < count + tooMany; ++i)
+                    (i < count ? kept : more) += " " + list.value (i);
+                box.send (list.attribute + kept + more);
+                settle();
+                EXPECT_EQ (" " + box.attribute (list.attribute), kept)
+                    << list.attribute << " of " << count << " + " << tooMany;
+                box.free();
+            }
+    }
+}
+
+TEST_P (MessagesIn, AnIndexIsLimitedByTheCountOfItsKind)
+{
+    struct Index
+    {
+        const char* selector;
+        int count;
+        const char* rest;
+    };
+    const Index indices[] = {
+        { "source", 2, "xyz 1 2 0" },  { "source", 2, "name solo" },      { "source", 2, "yaw 5" },
+        { "speaker", 3, "xyz 1 2 0" }, { "loudspeaker", 3, "name solo" }, { "areas", 4, "xy 0 0 1 0 1 1" },
+        { "area", 4, "name stage" },   { "anchor", 5, "xyz 0 0 1" },      { "anchor", 5, "name corner" },
+    };
+    auto box = settled ("@numsources 2 @numspeakers 3 @numareas 4 @numanchors 5");
+    for (const auto& index : indices) {
+        const auto message = [&] (int number) {
+            return std::string (index.selector) + " " + std::to_string (number) + " " + index.rest;
+        };
+        EXPECT_EQ (saying (box, message (index.count)), Messages()) << message (index.count);
+        EXPECT_EQ (saying (box, message (index.count + 1)).size(), 1u) << message (index.count + 1);
+    }
+}
+
 TEST_P (MessagesIn, NumbersThatAreNoneNeverEnterTheState)
 {
     const auto list = [] (std::initializer_list<double> values) {

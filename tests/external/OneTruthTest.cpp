@@ -276,9 +276,10 @@ protected:
         patch.setListener ([this] (const bench::Event& event) {
             if (! event.onMainThread)
                 return;
-            if (event.kind == bench::Event::Kind::out && event.outlet == 0)
+            if (event.kind == bench::Event::Kind::out && event.outlet == 0) {
                 told[event.box + keyOf (event)] = event.atoms;
-            else if (event.kind == bench::Event::Kind::bug)
+                isStoredAlready (event);
+            } else if (event.kind == bench::Event::Kind::bug)
                 bugs.push_back (event.text);
         });
     }
@@ -518,6 +519,42 @@ protected:
             pool[static_cast<std::size_t> (dice.below (30))] = std::move (state);
     }
 
+    // ---- What must hold at any time
+
+    /** Whoever is told something and asks for it gets what he was told. */
+    void isStoredAlready (const bench::Event& event)
+    {
+        const auto* box = patch.find (event.box);
+        if (box == nullptr || event.atoms.empty())
+            return;
+        const auto stored = [&] (const char* name) { return numbersOf (bench::attributeOf (*box, name).value()); };
+        const auto isWord = event.atoms.front().a_type == A_SYM;
+        const auto isCartesian = [&] (const t_atom& atom) {
+            return atom.a_type == A_SYM && std::string_view (atom_getsym (&atom)->s_name) == "xyz";
+        };
+        if (event.text == "source" && event.atoms.size() == 5 && isCartesian (event.atoms[1])) {
+            const auto all = stored ("sourcespositions");
+            const auto first = all.begin() + 3 * (atom_getlong (&event.atoms.front()) - 1);
+            EXPECT_EQ (std::vector<float> (first, first + 3),
+                       numbersOf ({ event.atoms.begin() + 2, event.atoms.end() }))
+                << "when told: " << bench::lineOf (event);
+        } else if (event.text == "speakers" && isCartesian (event.atoms.front())) {
+            EXPECT_EQ (stored ("speakerspositions"), numbersOf ({ event.atoms.begin() + 1, event.atoms.end() }))
+                << "when told: " << bench::lineOf (event);
+        } else if (! isWord && event.atoms.size() == 6) {
+            EXPECT_EQ (stored (event.text.c_str()), numbersOf (event.atoms)) << "when told: " << bench::lineOf (event);
+        } else if (isWord && event.atoms.size() == 2) {
+            const auto* key = atom_getsym (&event.atoms.front())->s_name;
+            for (const auto& row : halcyra::parameterTable)
+                if (event.text == row.selector && std::string_view (row.key) == key) {
+                    const auto& mirror = halcyra::reverbMirrors[static_cast<std::size_t> (row.number)];
+                    EXPECT_EQ (stored (orvanemax::symbol (mirror.attribute)->s_name).front(),
+                               numberOf (event.atoms.back()))
+                        << "when told: " << bench::lineOf (event);
+                }
+        }
+    }
+
     // ---- What must hold when a turn has ended
 
     void agree (const TestBox& box)
@@ -576,6 +613,11 @@ protected:
             EXPECT_TRUE (isAngle (source.yaw, static_cast<float> (atom_getfloat (&x.yaw[i])))) << "yaw " << i;
             EXPECT_TRUE (isAngle (source.aperture, static_cast<float> (atom_getfloat (&x.aperture[i]))))
                 << "aperture " << i;
+            EXPECT_EQ (source.radius, numberOf (x.radius[i])) << "radius " << i;
+            EXPECT_EQ (source.level, numberOf (x.sourceslevels[i])) << "level " << i;
+            EXPECT_EQ (lumo::Plane::Orientation::NameOf (source.yawMode), x.orientationmode[i]->s_name) << i;
+            const auto colour = numbersOf ({ x.sourcecolor + 4 * i, x.sourcecolor + 4 * i + 4 });
+            EXPECT_EQ (source.Colour(), juce::Colour::fromFloatRGBA (colour[0], colour[1], colour[2], colour[3])) << i;
             const auto& left = told[box->name + " source " + std::to_string (i + 1)];
             if (left.size() == 5 && std::string_view (atom_getsym (&left[1])->s_name) == "xyz") {
                 EXPECT_EQ (numbersOf ({ left.begin() + 2, left.end() }),
@@ -592,6 +634,8 @@ protected:
         lumo::PlaneOptions options;
         plane.GetOptions (options);
         EXPECT_EQ (x.zoom, options.zoom);
+        EXPECT_EQ (std::string (x.viewpoint->s_name), options.topView ? "top" : "front");
+        EXPECT_EQ (lumo::Plane::Grid::NameOf (options.gridMode), x.gridmode->s_name);
         EXPECT_EQ (x.showspeakers != 0, options.speakersVisible);
         EXPECT_EQ (x.showheadphones != 0, options.headphonesVisible);
         EXPECT_EQ (x.showaperture != 0, options.apertureVisible);

@@ -125,7 +125,8 @@ ROWS = [
      "clearsnapshot overtakes the store before it"),
     ("src/external/Registration.cpp", "{ \"adjustzoom\", queued<adjustZoom>(), none }", "{ \"adjustzoom\", onMain<adjustZoom>(), none }",
      "adjustzoom overtakes the positions before it"),
-    ("src/external/Registration.cpp", "a->order < b->order", "a->order > b->order", "the order of the attributes"),
+    ("src/external/Registration.cpp", "if (attribute.row.order != 0)", "if (attribute.row.order == 1)",
+     "attributes lose their order"),
     ("src/external/CoordinateMessages.cpp", "const auto azimuth = -atoms.number (0);", "const auto azimuth = atoms.number (0);",
      "a partial message of the third form turns the other way"),
     ("src/external/CoordinateMessages.cpp", "if (atoms.size() > points.size() * count)\n        tellWarning",
@@ -315,6 +316,32 @@ ROWS = [
     ("host/bench/window/PeerInput.cpp", "heldButton = {};\n", "", "the button stays down after its release"),
     ("host/bench/window/JuceWindowDriver.cpp", "entry->second.component == component)", "true)",
      "a window that goes late takes another's place"),
+
+    # what speaks before what is stored; angles; what belongs to another; the hand on what may not be edited
+    ("src/external/MaxHalcyraListener.cpp", "    mirrorSpeakers (x);\n    qel::Point3Array positions;",
+     "    const struct Late {\n        t_halcyra_control* x;\n        ~Late() { mirrorSpeakers (x); }\n    } late{ x };\n"
+     "    qel::Point3Array positions;", "the speakers are told before they are stored"),
+    ("src/external/MaxHalcyraListener.cpp", "    mirrorSourcePosition (x, static_cast<std::size_t> (sourceIndex));\n",
+     "    const struct Late {\n        t_halcyra_control* x;\n        std::size_t i;\n"
+     "        ~Late() { mirrorSourcePosition (x, i); }\n    } late{ x, static_cast<std::size_t> (sourceIndex) };\n",
+     "a source that the hand moves is told before it is stored"),
+    ("src/external/ViewerAttributes.cpp", "SetBackgroundImageAngle (degrees * qel::radiansPerDegree)",
+     "SetBackgroundImageAngle (degrees)", "the background's angle in degrees"),
+    ("src/external/ViewerAttributes.cpp", "number<&Plane::SetAllSourcesProportion>",
+     "number<&Plane::SetAllSpeakersProportion>", "the sources' size goes to the speakers"),
+    ("src/external/ViewerAttributes.cpp", "onOff<&Plane::SetAnchorsLabelVisible>", "onOff<&Plane::SetAnchorsVisible>",
+     "the anchors' labels switch the anchors"),
+    ("src/external/Registration.cpp", "    { \"globalproportion\", 0, \"zoom\" },\n", "",
+     "a zoom below the margin does not come back"),
+    ("src/external/Registration.cpp", "queuedEntry<rotate> (x, selector, argc, argv);",
+     "mainThreadEntry<rotate> (x, selector, argc, argv);", "a rotation overtakes the recall before it"),
+    ("src/gui/plane/interaction/PlaneComponentMouse.cpp",
+     "if (auto* speaker = SelectedSpeaker(); speaker != nullptr && speaker->editable)\n        SetSpeakerPosition",
+     "if (auto* speaker = SelectedSpeaker(); speaker != nullptr)\n        SetSpeakerPosition",
+     "a speaker that was chosen before moves though it is not editable"),
+    ("src/gui/plane/interaction/PlaneComponentMouse.cpp",
+     "! surface.options.listenerSelected || ! listener.editable || ! altAlone",
+     "! surface.options.listenerSelected || ! altAlone", "the wheel turns a listener that is not editable"),
 ]
 
 # The rows that were planted and seen caught: CI plays five of them. Add a row's number once you have seen it caught.

@@ -140,6 +140,74 @@ TEST_F (PlaneOnStage, ASpeakerBeatsTheListenerAndTheListenerASource)
     EXPECT_THAT (heard.Take ("listener"), ElementsAre ("listener -0.50 0.00 0.00"));
 }
 
+TEST_F (PlaneOnStage, TheHandLeavesAloneWhatMayNotBeEdited)
+{
+    struct Guarded
+    {
+        const char* name;
+        qel::Point3 place;
+        void (*guard) (PlaneComponent&);
+        bool isShownStill; // else it can only have been chosen before
+    };
+    const qel::Point3 ofListener{ 0.4f, -0.4f, 0 }, ofSpeaker{ -0.4f, -0.4f, 0 }, ofSource{ 0, 1, 0 };
+    const Guarded rows[] = {
+        { "sources", ofSource,
+          [] (PlaneComponent& p) {
+              p.SetSourcesEditable (false, false);
+              p.SetSpeakersEditable (false, false); // which turn where no source may
+          },
+          true },
+        { "source", ofSource, [] (PlaneComponent& p) { p.SetSourceVisible (0, false, false); }, false },
+        { "speakers", ofSpeaker, [] (PlaneComponent& p) { p.SetSpeakersEditable (false, false); }, true },
+        { "speakers under headphones", ofSpeaker, [] (PlaneComponent& p) { p.SetHeadphonesVisible (true); }, true },
+        { "hidden speakers", ofSpeaker, [] (PlaneComponent& p) { p.SetSpeakersVisible (false); }, false },
+        { "hidden speaker", ofSpeaker, [] (PlaneComponent& p) { p.SetSpeakerVisible (0, false, false); }, false },
+        { "listener", ofListener, [] (PlaneComponent& p) { p.SetListenerEditable (false); }, true },
+        { "hidden listener", ofListener, [] (PlaneComponent& p) { p.SetListenerVisible (false); }, false },
+    };
+    plane.SetNumSpeakers (1, false);
+    for (const auto& row : rows)
+        for (const bool isChosenBefore : { false, true }) {
+            if (isChosenBefore && ! row.isShownStill)
+                continue;
+            plane.SetSourcesEditable (true, false);
+            plane.SetSourceVisible (0, true, false);
+            plane.SetHeadphonesVisible (false);
+            plane.SetSpeakersVisible (true);
+            plane.SetSpeakerVisible (0, true, false);
+            plane.SetSpeakersEditable (true, false);
+            plane.SetListenerVisible (true);
+            plane.SetListenerEditable (true);
+            plane.SetSourcePosition (0, ofSource, false);
+            plane.SetSpeakerPosition (0, ofSpeaker, false);
+            plane.SetListenerPosition (ofListener, false);
+            stage.click (emptyGround);
+            if (isChosenBefore)
+                stage.click (At (row.place));
+            row.guard (plane);
+            static_cast<void> (heard.Take());
+            for (const int keys : { 0, int (Keys::ctrlModifier), int (Keys::altModifier), int (Keys::shiftModifier) })
+                stage.wheel (At (row.place), 0.5f, keys);
+            plane.SetZoom (1, false);
+            for (const bool turns : { false, true }) {
+                plane.SetCircularConstraint (turns);
+                stage.press (At (row.place));
+                stage.drag (At (row.place).translated (9, 9));
+                stage.drag (At (row.place).translated (9, 29));
+                stage.release (At (row.place).translated (9, 29));
+            }
+            plane.SetCircularConstraint (false);
+            const auto said = heard.Take();
+            for (const auto& line : said)
+                EXPECT_THAT (line.substr (0, line.find (' ')),
+                             testing::AnyOf ("button", "pointer", "selection", "speakerselection", "options"))
+                    << row.name << (isChosenBefore ? ", chosen before" : "");
+            EXPECT_EQ (plane.GetSourcePosition (0), ofSource) << row.name;
+            EXPECT_EQ (plane.GetSpeakerPosition (0), ofSpeaker) << row.name;
+            EXPECT_EQ (plane.GetListenerPosition(), ofListener) << row.name;
+        }
+}
+
 TEST_F (PlaneOnStage, ADoubleClickIsTold)
 {
     stage.doubleClick (Source (2));

@@ -1,0 +1,124 @@
+#include "ControlTest.h"
+
+#include "gui/plane/PlaneComponent.h"
+
+#include <cmath>
+
+CONTROL_TESTS (Scene);
+
+namespace
+{
+
+using Plane = lumo::PlaneComponent;
+
+constexpr double pi = 3.14159265358979;
+
+struct Reach
+{
+    const char* message; // an attribute, and a value that is not its default
+    double expected;
+    double (*held) (const Plane& plane);
+};
+
+double channels (juce::Colour colour) { return colour.getARGB(); }
+
+const Reach reaches[] = {
+    { "zoom 2", 2, [] (const Plane& p) -> double { return p.GetSurface().viewTransform.zoom; } },
+    { "xoffset 3", 3, [] (const Plane& p) -> double { return p.GetSurface().viewTransform.xOffset; } },
+    { "yoffset 4", 4, [] (const Plane& p) -> double { return p.GetSurface().viewTransform.yOffset; } },
+    { "zoffset 5", 5, [] (const Plane& p) -> double { return p.GetSurface().viewTransform.zOffset; } },
+    { "viewpoint front", 0, [] (const Plane& p) -> double { return p.GetSurface().viewTransform.topView; } },
+    { "sourceproportion 0.25", 0.25, [] (const Plane& p) -> double { return p.GetScene().sources[1].Proportion(); } },
+    { "speakersproportion 0.5", 0.5, [] (const Plane& p) -> double { return p.GetScene().speakers[2].proportion; } },
+    { "listenerproportion 0.75", 0.75, [] (const Plane& p) -> double { return p.GetListener().proportion; } },
+    { "globalproportion 0.125", 0.125,
+      [] (const Plane& p) -> double { return p.GetSurface().viewTransform.markerProportion; } },
+    { "backgroundimagescale 5", 0.05, [] (const Plane& p) -> double { return p.GetSurface().backgroundImage.scale; } },
+    { "backgroundimagexoffset 6", 6, [] (const Plane& p) -> double { return p.GetSurface().backgroundImage.xOffset; } },
+    { "backgroundimageyoffset 7", 7, [] (const Plane& p) -> double { return p.GetSurface().backgroundImage.yOffset; } },
+    { "backgroundimageangle 90", pi / 2,
+      [] (const Plane& p) -> double { return p.GetSurface().backgroundImage.angle; } },
+    { "backgroundimageopacity 0.5", 0.5,
+      [] (const Plane& p) -> double { return p.GetSurface().backgroundImage.opacity; } },
+    { "backgroundimagequality high", 2,
+      [] (const Plane& p) -> double { return p.GetSurface().backgroundImage.quality; } },
+    { "showbackgroundimage 0", 0, [] (const Plane& p) -> double { return p.GetSurface().backgroundImage.visible; } },
+    { "gridmode square", 2, [] (const Plane& p) -> double { return p.GetSurface().grid.mode; } },
+    { "gridspacing 2", 2, [] (const Plane& p) -> double { return p.GetSurface().grid.spacing; } },
+    { "gridlines 7", 7, [] (const Plane& p) -> double { return p.GetSurface().grid.numLines; } },
+    { "numangulardivisions 12", 12, [] (const Plane& p) -> double { return p.GetSurface().grid.numAngularDivisions; } },
+    { "dashedgrid 1", 1, [] (const Plane& p) -> double { return p.GetSurface().grid.dashed; } },
+    { "showangulardivisions 0", 0,
+      [] (const Plane& p) -> double { return p.GetSurface().grid.angularDivisionsVisible; } },
+    { "gridcolor 1 0 0 1", 0xFFFF0000, [] (const Plane& p) { return channels (p.GetSurface().grid.colour); } },
+    { "backgroundcolor 0 1 0 1", 0xFF00FF00,
+      [] (const Plane& p) { return channels (p.GetSurface().background.colour); } },
+    { "aperturecolor 0 0 1 1", 0xFF0000FF,
+      [] (const Plane& p) { return channels (p.GetScene().sources[1].apertureColour); } },
+    { "sourcecolor 1 1 1 1 1 0 0 1", 0xFFFF0000,
+      [] (const Plane& p) { return channels (p.GetScene().sources[1].Colour()); } },
+    { "listeneryaw 90", pi / 2, [] (const Plane& p) -> double { return p.GetListener().yaw; } },
+    { "listenerpitch 45", pi / 4, [] (const Plane& p) -> double { return p.GetListener().pitch; } },
+    { "listenerroll 30", pi / 6, [] (const Plane& p) -> double { return p.GetListener().roll; } },
+    { "yaw 0 45", pi / 4, [] (const Plane& p) -> double { return p.GetScene().sources[1].yaw; } },
+    { "aperture 80 45", pi / 4, [] (const Plane& p) -> double { return p.GetScene().sources[1].aperture; } },
+    { "radius 1 3", 3, [] (const Plane& p) -> double { return p.GetScene().sources[1].radius; } },
+    { "sourceslevels -60 -12", -12, [] (const Plane& p) -> double { return p.GetScene().sources[1].level; } },
+    { "speakerslevels -60 -60 -9", -9, [] (const Plane& p) -> double { return p.GetScene().speakers[2].level; } },
+    { "showsources 0", 0, [] (const Plane& p) -> double { return p.GetScene().sources[1].visible; } },
+    { "showsourceslabel 0", 0, [] (const Plane& p) -> double { return p.GetScene().sources[1].labelVisible; } },
+    { "sourceseditable 0", 0, [] (const Plane& p) -> double { return p.GetScene().sources[1].Editable(); } },
+    { "showspeakerslabel 0", 0, [] (const Plane& p) -> double { return p.GetScene().speakers[1].nameVisible; } },
+    { "speakerseditable 1", 1, [] (const Plane& p) -> double { return p.GetScene().speakers[1].editable; } },
+    { "showspeakers 0", 0, [] (const Plane& p) -> double { return p.GetSurface().options.speakersVisible; } },
+    { "listenereditable 1", 1, [] (const Plane& p) -> double { return p.GetListener().editable; } },
+    { "showlistener 0", 0, [] (const Plane& p) -> double { return p.GetListener().visible; } },
+    { "circularconstraint 1", 1, [] (const Plane& p) -> double { return p.GetSurface().options.circularConstraint; } },
+    { "radiusconstraint 1", 1, [] (const Plane& p) -> double { return p.GetSurface().options.radiusConstraint; } },
+    { "showradius 1", 1, [] (const Plane& p) -> double { return p.GetSurface().options.radiusVisible; } },
+    { "showshoebox 1", 1, [] (const Plane& p) -> double { return p.GetSurface().shoebox.visible; } },
+    { "showaperture 1", 1, [] (const Plane& p) -> double { return p.GetSurface().options.apertureVisible; } },
+    { "showspeakershull 1", 1, [] (const Plane& p) -> double { return p.GetSurface().options.hullVisible; } },
+    { "showspeakersradius 1", 1,
+      [] (const Plane& p) -> double { return p.GetSurface().options.speakersRadiusVisible; } },
+    { "showspeakersprojection 1", 1,
+      [] (const Plane& p) -> double { return p.GetSurface().options.speakersProjectionVisible; } },
+    { "showspeakerstriangulation 1", 1,
+      [] (const Plane& p) -> double { return p.GetSurface().options.triangulationVisible; } },
+    { "showanchors 1", 1, [] (const Plane& p) -> double { return p.GetSurface().anchors.anchorsVisible; } },
+    { "showanchorslabel 1", 1, [] (const Plane& p) -> double { return p.GetSurface().anchors.anchorsLabelVisible; } },
+    { "showareas 1", 1, [] (const Plane& p) -> double { return p.GetSurface().options.areasVisible; } },
+    { "areasmonitoring 1", 1, [] (const Plane& p) -> double { return p.GetSurface().options.areasMonitoring; } },
+    { "showlegend 0", 0, [] (const Plane& p) -> double { return p.GetSurface().legend.visible; } },
+    { "showspeakerslevels 1", 1,
+      [] (const Plane& p) -> double { return p.GetSurface().options.speakersLevelsVisible; } },
+    { "showsourceslevels 1", 1, [] (const Plane& p) -> double { return p.GetSurface().options.sourcesLevelsVisible; } },
+    { "zoomlock 1", 1, [] (const Plane& p) -> double { return p.GetSurface().options.zoomLocked; } },
+    { "rightclicklock 1", 1, [] (const Plane& p) -> double { return p.GetSurface().options.rightClickLocked; } },
+    { "showviewer 0", 0, [] (const Plane& p) -> double { return p.GetSurface().viewerVisible; } },
+    { "showheadphones 1", 1, [] (const Plane& p) -> double { return p.GetListener().headphonesVisible; } },
+};
+
+}
+
+TEST_P (Scene, HoldsWhatAnAttributeSaysAndElseWhatItHeld)
+{
+    auto box = settled ("@numsources 2 @numspeakers 3");
+    const auto& plane = *box.record<t_halcyra_control>()->plane;
+    const auto start = bench::stateOf (*box).value();
+    for (const auto& reach : reaches) {
+        std::vector<double> before;
+        for (const auto& other : reaches)
+            before.push_back (other.held (plane));
+        box.send (reach.message);
+        settle();
+        for (std::size_t i = 0; i < std::size (reaches); ++i) {
+            const bool isIt = &reaches[i] == &reach;
+            EXPECT_NEAR (reaches[i].held (plane), isIt ? reach.expected : before[i], 1e-6)
+                << reaches[i].message << ", behind " << reach.message;
+            EXPECT_FALSE (isIt && std::abs (before[i] - reach.expected) < 0.01) << reach.message << " is the default";
+        }
+        bench::setState (*box, start);
+        settle();
+    }
+}
