@@ -96,6 +96,8 @@ TEST_P (Turn, EndsAsItsMessagesOneByOneWould)
         settle();
         auto state = stateOf (box);
         for (const auto* name : { "a", "b" }) { // what the snapshots hold
+            box.send ("sourcespositions 9 9 9 8 8 8");
+            settle();
             box.send (std::string ("recall ") + name);
             settle();
             state += " " + box.attribute ("sourcespositions");

@@ -1,5 +1,6 @@
 #include "PlanePicture.h"
 #include "PlaneRecorder.h"
+#include "geometry/OrvaneDspSpherical.h"
 #include "gui/plane/painting/Drawing.h"
 
 #include <gmock/gmock.h>
@@ -189,6 +190,30 @@ struct MeterRow
     float decibels;
     juce::uint32 lowest; // the colour near the foot of the meter, 0 for the dark box
 };
+
+TEST (PlanePainting, AFanOpensTowardsTheMiddleTurnedClockwiseByItsYaw)
+{
+    PlaneComponent plane (1, 0, 300);
+    plane.SetApertureVisible (true);
+    plane.SetSourceApertureColour (0, juce::Colours::red);
+    plane.SetSourceProportion (0, 0.2f);
+    plane.SetSourceAperture (0, 30, false);
+    for (const qel::Point3& position : { qel::Point3{ 0.4f, -0.2f, 0 }, { -0.1f, 0.4f, 0 } })
+        for (const float degrees : { 0.0f, 90.0f, 180.0f, -90.0f }) {
+            plane.SetSourcePosition (0, position, false);
+            plane.SetSourceYaw (0, degrees, false);
+            const auto at = plane.GetScene().sources[0].screenPosition;
+            const auto middle = plane.GetSurface().viewTransform.ToScreen ({});
+            const auto picture = Picture (plane);
+            for (const float turned : { 0.0f, 90.0f, 180.0f, -90.0f }) { // near the edge of the fan
+                const auto ahead = (middle - at) * (54 / at.getDistanceFrom (middle));
+                const auto place =
+                    (at + ahead.rotatedAboutOrigin (qel::radiansPerDegree * (degrees + turned))).roundToInt();
+                EXPECT_EQ (picture.getPixelAt (place.x, place.y) == juce::Colours::red, turned == 0)
+                    << "at " << position.x << " " << position.y << ", yaw " << degrees << ", turned by " << turned;
+            }
+        }
+}
 
 TEST (PlanePainting, MetersAreDarkUpToTheirLevel)
 {
