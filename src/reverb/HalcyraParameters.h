@@ -124,6 +124,7 @@ struct ParameterRow
     const char* defaultText; // its default, as the attribute's documentation gives it
     int decimals;            // of the text that shows the value
     const char* unit;        // the end of that text, its leading blank included
+    const char* spoken;      // what a screen reader calls the control
 
     [[nodiscard]] constexpr bool isSwitch() const noexcept { return flag != nullptr; }
     [[nodiscard]] constexpr double defaultValue() const noexcept { return decimal (defaultText); }
@@ -133,26 +134,26 @@ struct ParameterRow
 // clang-format off
 /** All reverb parameters, in the order of their numbers. */
 inline constexpr std::array<ParameterRow, parameter::count> parameterTable { {
-    { parameter::gain,         &HalcyraTimeStructure::gain,         nullptr, "reverb",  "gain",  "gain",  "Reverb Gain",    { -30, 30, 0.01 },   0,     "0",      2, " dB" },
-    { parameter::tr0,          &HalcyraTimeStructure::tr0,          nullptr, "reverb",  "tr0",   "tr0",   "Global",         { 0.1, 30, 0.01 },   5,     "1.995",  2, " s" },
-    { parameter::trl,          &HalcyraTimeStructure::trl,          nullptr, "reverb",  "trl",   "trl",   "Low",            { 0.1, 10, 0.01 },   2,     "1",      2, "" },
-    { parameter::trm,          &HalcyraTimeStructure::trm,          nullptr, "reverb",  "trm",   "trm",   "Med",            { 0.1, 10, 0.01 },   2,     "1",      2, "" },
-    { parameter::trh,          &HalcyraTimeStructure::trh,          nullptr, "reverb",  "trh",   "trh",   "High",           { 0.1, 1, 0.01 },    0,     "0.5",    2, "" },
-    { parameter::fl,           &HalcyraTimeStructure::fl,           nullptr, "reverb",  "fl",    "fl",    "Low",            { 20, 20000, 1 },    4000,  "250",    1, " Hz" },
-    { parameter::fh,           &HalcyraTimeStructure::fh,           nullptr, "reverb",  "fh",    "fh",    "High",           { 20, 20000, 1 },    4000,  "8000",   1, " Hz" },
-    { parameter::earlyStart,   &HalcyraTimeStructure::earlyStart,   nullptr, "early",   "start", "rev",   "Early min",      { 1, 120, 0.01 },    0,     "22.22",  2, " ms" },
-    { parameter::earlyEnd,     &HalcyraTimeStructure::earlyEnd,     nullptr, "early",   "end",   "rev",   "Early max",      { 1, 120, 0.01 },    0,     "39.71",  2, " ms" },
-    { parameter::earlyDistr,   &HalcyraTimeStructure::earlyDistr,   nullptr, "early",   "distr", "rev",   "Early distr",    { 0.1, 0.9, 0.01 },  0,     "0.5",    2, "" },
-    { parameter::earlyShape,   &HalcyraTimeStructure::earlyShape,   nullptr, "early",   "shape", "rev",   "Early shape",    { 0, 1, 0.01 },      0,     "0.5",    2, "" },
-    { parameter::earlyWidth,   &HalcyraTimeStructure::earlyWidth,   nullptr, "early",   "width", "rev",   "Early width",    { 10, 180, 0.1 },    0,     "30",     2, " deg" },
-    { parameter::clusterStart, &HalcyraTimeStructure::clusterStart, nullptr, "cluster", "start", "rev",   "Cluster min",    { 1, 300, 0.01 },    0,     "42.47",  2, " ms" },
-    { parameter::clusterEnd,   &HalcyraTimeStructure::clusterEnd,   nullptr, "cluster", "end",   "rev",   "Cluster max",    { 1, 300, 0.01 },    0,     "105.64", 2, " ms" },
-    { parameter::clusterDistr, &HalcyraTimeStructure::clusterDistr, nullptr, "cluster", "distr", "rev",   "Cluster distr",  { 0.1, 0.9, 0.01 },  0,     "0.5",    2, "" },
-    { parameter::reverbStart,  &HalcyraTimeStructure::reverbStart,  nullptr, "reverb",  "start", "rev",   "Reverb start",   { 1, 500, 0.01 },    0,     "95.37",  2, " ms" },
-    { parameter::modalDensity, &HalcyraTimeStructure::modalDensity, nullptr, "reverb",  "modaldensity", "rev", "Modal density", { 0.2, 4, 0.01 }, 0,   "0.86",   2, "" },
-    { parameter::air,          nullptr, &HalcyraTimeStructure::air,          "reverb",  "air",   "air",   "Air Absorption", { 0, 1, 1 },         0,     "1",      0, "" },
-    { parameter::infinite,     nullptr, &HalcyraTimeStructure::infinite,     "reverb",  "infinite", "infinite", "Infinite",  { 0, 1, 1 },         0,     "0",      0, "" },
-    { parameter::airFrequency, &HalcyraTimeStructure::airFrequency, nullptr, "reverb",  "airfreq", "airfreq", "Air frequency", { 20, 20000, 1 },  10000, "10000",  1, " Hz" },
+    { parameter::gain,         &HalcyraTimeStructure::gain,         nullptr, "reverb",  "gain",  "gain",  "Reverb Gain",    { -30, 30, 0.01 },   0,     "0",      2, " dB", "Reverb gain" },
+    { parameter::tr0,          &HalcyraTimeStructure::tr0,          nullptr, "reverb",  "tr0",   "tr0",   "Global",         { 0.1, 30, 0.01 },   5,     "1.995",  2, " s", "Decay time" },
+    { parameter::trl,          &HalcyraTimeStructure::trl,          nullptr, "reverb",  "trl",   "trl",   "Low",            { 0.1, 10, 0.01 },   2,     "1",      2, "", "Decay time ratio, low" },
+    { parameter::trm,          &HalcyraTimeStructure::trm,          nullptr, "reverb",  "trm",   "trm",   "Med",            { 0.1, 10, 0.01 },   2,     "1",      2, "", "Decay time ratio, middle" },
+    { parameter::trh,          &HalcyraTimeStructure::trh,          nullptr, "reverb",  "trh",   "trh",   "High",           { 0.1, 1, 0.01 },    0,     "0.5",    2, "", "Decay time ratio, high" },
+    { parameter::fl,           &HalcyraTimeStructure::fl,           nullptr, "reverb",  "fl",    "fl",    "Low",            { 20, 20000, 1 },    4000,  "250",    1, " Hz", "Decay crossover, low" },
+    { parameter::fh,           &HalcyraTimeStructure::fh,           nullptr, "reverb",  "fh",    "fh",    "High",           { 20, 20000, 1 },    4000,  "8000",   1, " Hz", "Decay crossover, high" },
+    { parameter::earlyStart,   &HalcyraTimeStructure::earlyStart,   nullptr, "early",   "start", "rev",   "Early min",      { 1, 120, 0.01 },    0,     "22.22",  2, " ms", "Early start" },
+    { parameter::earlyEnd,     &HalcyraTimeStructure::earlyEnd,     nullptr, "early",   "end",   "rev",   "Early max",      { 1, 120, 0.01 },    0,     "39.71",  2, " ms", "Early end" },
+    { parameter::earlyDistr,   &HalcyraTimeStructure::earlyDistr,   nullptr, "early",   "distr", "rev",   "Early distr",    { 0.1, 0.9, 0.01 },  0,     "0.5",    2, "", "Early distribution" },
+    { parameter::earlyShape,   &HalcyraTimeStructure::earlyShape,   nullptr, "early",   "shape", "rev",   "Early shape",    { 0, 1, 0.01 },      0,     "0.5",    2, "", "Early shape" },
+    { parameter::earlyWidth,   &HalcyraTimeStructure::earlyWidth,   nullptr, "early",   "width", "rev",   "Early width",    { 10, 180, 0.1 },    0,     "30",     2, " deg", "Early width" },
+    { parameter::clusterStart, &HalcyraTimeStructure::clusterStart, nullptr, "cluster", "start", "rev",   "Cluster min",    { 1, 300, 0.01 },    0,     "42.47",  2, " ms", "Cluster start" },
+    { parameter::clusterEnd,   &HalcyraTimeStructure::clusterEnd,   nullptr, "cluster", "end",   "rev",   "Cluster max",    { 1, 300, 0.01 },    0,     "105.64", 2, " ms", "Cluster end" },
+    { parameter::clusterDistr, &HalcyraTimeStructure::clusterDistr, nullptr, "cluster", "distr", "rev",   "Cluster distr",  { 0.1, 0.9, 0.01 },  0,     "0.5",    2, "", "Cluster distribution" },
+    { parameter::reverbStart,  &HalcyraTimeStructure::reverbStart,  nullptr, "reverb",  "start", "rev",   "Reverb start",   { 1, 500, 0.01 },    0,     "95.37",  2, " ms", "Reverb start" },
+    { parameter::modalDensity, &HalcyraTimeStructure::modalDensity, nullptr, "reverb",  "modaldensity", "rev", "Modal density", { 0.2, 4, 0.01 }, 0,   "0.86",   2, "", "Modal density" },
+    { parameter::air,          nullptr, &HalcyraTimeStructure::air,          "reverb",  "air",   "air",   "Air Absorption", { 0, 1, 1 },         0,     "1",      0, "", "Air absorption" },
+    { parameter::infinite,     nullptr, &HalcyraTimeStructure::infinite,     "reverb",  "infinite", "infinite", "Infinite",  { 0, 1, 1 },         0,     "0",      0, "", "Infinite reverb" },
+    { parameter::airFrequency, &HalcyraTimeStructure::airFrequency, nullptr, "reverb",  "airfreq", "airfreq", "Air frequency", { 20, 20000, 1 },  10000, "10000",  1, " Hz", "Air absorption frequency" },
 } };
 // clang-format on
 
@@ -193,18 +194,19 @@ struct ShelfRow
     double midPoint;         // the value in the middle of the slider; 0 for a linear one
     const char* defaultText; // its default, where a double click sends the slider too
     bool isFrequency;        // else a gain
+    const char* spoken;      // what a screen reader calls the field
 
     [[nodiscard]] constexpr double defaultValue() const noexcept { return decimal (defaultText); }
 };
 
 /** All fields of a filter, in their order. The slider of G0 is narrower than the filter: it then stands at its end. */
 inline constexpr std::array<ShelfRow, 6> shelfTable{ {
-    { &HLShelfParameters::G0, "G0", "global", -200, 30, { -60, 10, 0.05 }, 0, "0", false },
-    { &HLShelfParameters::Gl, "Gl", "low", -30, 30, { -30, 30, 0.05 }, 0, "0", false },
-    { &HLShelfParameters::Gm, "Gm", "med", -30, 30, { -30, 30, 0.05 }, 0, "0", false },
-    { &HLShelfParameters::Gh, "Gh", "high", -30, 30, { -30, 30, 0.05 }, 0, "0", false },
-    { &HLShelfParameters::fl, "fl", "low", 20, 20000, { 20, 20000, 1 }, 4000, "250", true },
-    { &HLShelfParameters::fh, "fh", "high", 20, 20000, { 20, 20000, 1 }, 4000, "4000", true },
+    { &HLShelfParameters::G0, "G0", "global", -200, 30, { -60, 10, 0.05 }, 0, "0", false, "global gain" },
+    { &HLShelfParameters::Gl, "Gl", "low", -30, 30, { -30, 30, 0.05 }, 0, "0", false, "low gain" },
+    { &HLShelfParameters::Gm, "Gm", "med", -30, 30, { -30, 30, 0.05 }, 0, "0", false, "middle gain" },
+    { &HLShelfParameters::Gh, "Gh", "high", -30, 30, { -30, 30, 0.05 }, 0, "0", false, "high gain" },
+    { &HLShelfParameters::fl, "fl", "low", 20, 20000, { 20, 20000, 1 }, 4000, "250", true, "low crossover" },
+    { &HLShelfParameters::fh, "fh", "high", 20, 20000, { 20, 20000, 1 }, 4000, "4000", true, "high crossover" },
 } };
 
 namespace detail

@@ -59,6 +59,8 @@ public:
         /** The parameter's value leaves now. */
         virtual void parameterTold (HalcyraReverbParameter) {}
         virtual void filterTold (HalcyraFilter) {}
+        /** The edits of the hand before and after this are gestures of their own. */
+        virtual void gestureBounded() {}
     };
 
     /** Internal channels bear on what a room size derives. */
@@ -108,6 +110,12 @@ public:
     /** While a hand holds a control, nobody else changes its value but its neighbours' limits. */
     void hold (ReverbCell cell) noexcept { held = cell; }
     void release() noexcept { held = cell::none; }
+
+    /** Keeps what the hand has done so far apart from what it does next, as each key press is one step to undo. */
+    void boundGesture()
+    {
+        listeners.call ([] (Listener& l) { l.gestureBounded(); });
+    }
 
     /** Called at a turn's first change. */
     std::function<void()> wakeTurnEnd;

@@ -18,6 +18,9 @@ using namespace Plane;
 PlaneComponent::PlaneComponent (std::size_t numSources, std::size_t numSpeakers, int size) : PlaneBase ("Plane")
 {
     setWantsKeyboardFocus (true);
+    setTitle ("Scene");
+    setHelpText ("Tab selects the next source, alt and a cursor key move it, shift and tab or ctrl and tab leave.");
+    setFocusContainerType (FocusContainerType::focusContainer); // of what stands on it
     const int side = juce::jlimit (100, 1600, size);
     setSize (side, side);
 
@@ -275,6 +278,11 @@ void PlaneComponent::SelectNextSource()
     DeselectSpeakerAndListener();
     NotifySelectionChanged();
     repaint();
+}
+
+std::unique_ptr<juce::AccessibilityHandler> PlaneComponent::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::list);
 }
 
 void PlaneComponent::SetCircularConstraint (bool on, bool repaintNow)

@@ -130,6 +130,14 @@ public:
     [[nodiscard]] int GetSelectedSpeaker() const noexcept { return scene.selectedSpeaker; }
     void SelectAllSources();
     void SelectNextSource();
+    /** The next one that can be clicked; with the last one selected, none. */
+    void SelectNextSpeaker();
+    // One object and nothing else, as by a click; what cannot be clicked is left alone.
+    void SelectSourceAlone (std::size_t index);
+    void SelectSpeakerAlone (std::size_t index);
+    void SelectListenerAlone();
+    /** Moves what is selected as a drag by that step does: with the circular constraint it turns by as much. */
+    void MoveSelection (const qel::Point3& step);
     /** A drag turns about the origin. */
     void SetCircularConstraint (bool on, bool repaintNow = true);
     /** A move keeps a source's distance. */
@@ -222,6 +230,8 @@ private:
     void DeselectAllSources();
     void DeselectSpeakerAndListener();
 
+    template <typename Select>
+    void SelectAlone (Select&& select);
     void SelectUnder (juce::Point<float> pixels, bool toggle);
     void PressSource (Plane::Source& source, bool toggle);
     void SelectSpeaker (int index);
@@ -236,6 +246,8 @@ private:
     void ForSelectedSources (Act&& act);
     template <typename Move>
     void MoveSelectedSources (Move&& move);
+
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 
     Plane::Scene scene;
     Plane::Pointer pointer;

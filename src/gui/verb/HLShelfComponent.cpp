@@ -21,6 +21,11 @@ static_assert (std::size (fieldPlaces) == halcyra::shelfTable.size());
 
 const juce::Colour groupTextColour{ 0xFF545454 };
 
+juce::String spokenFilter (const juce::String& name)
+{
+    return name.substring (0, 1).toUpperCase() + name.substring (1) + " filter";
+}
+
 juce::String gainText (float dB) { return juce::String (qel::gainText (static_cast<double> (dB), true).c_str()); }
 juce::String frequencyText (float hz)
 {
@@ -30,7 +35,7 @@ juce::String frequencyText (float hz)
 }
 
 HLShelfComponent::Field::Field (const halcyra::ShelfRow& row)
-    : slider (row.name), label ({}, row.label), value (row.isFrequency ? frequencyText : gainText)
+    : slider (row.name, value), label ({}, row.label), value (row.isFrequency ? frequencyText : gainText)
 {
     editors::styleSlider (slider, juce::Slider::LinearVertical, 100);
     slider.setColour (juce::Slider::trackColourId, juce::Colour (0x7FFFFFFF));
@@ -63,9 +68,12 @@ HLShelfComponent::HLShelfComponent (const juce::String& name, halcyra::ReverbMod
       sight (*this, [this] (bool isInSight) { sightChanged (isInSight); })
 {
     setOpaque (true);
+    setTitle (spokenFilter (name));
+    setFocusContainerType (FocusContainerType::focusContainer);
     title.setColour (juce::GroupComponent::textColourId, juce::Colours::black);
     title.setName ("new group");
     title.setText (name);
+    title.setAccessible (false);
     addAndMakeVisible (title);
     makeGroup (frequencies, "freqs", juce::Colour (0x30000000));
     makeGroup (gains, "gains", juce::Colour (0x2A000000));
@@ -74,6 +82,7 @@ HLShelfComponent::HLShelfComponent (const juce::String& name, halcyra::ReverbMod
         makeField (row);
     fields.front()->slider.setColour (juce::Slider::backgroundColourId, juce::Colour (0x00DB0000));
     reset.setButtonText ("reset");
+    reset.setTitle ("Reset the " + name + " filter");
     reset.addListener (this);
     addAndMakeVisible (reset);
     setSize (230, 386);
@@ -88,6 +97,7 @@ HLShelfComponent::~HLShelfComponent() { model.removeListener (this); }
 
 void HLShelfComponent::makeGroup (juce::GroupComponent& group, const juce::String& text, juce::Colour outline)
 {
+    group.setAccessible (false);
     group.setName (text);
     group.setText (text);
     group.setTextLabelPosition (juce::Justification::centred);
@@ -104,7 +114,10 @@ void HLShelfComponent::makeField (const halcyra::ShelfRow& row)
     field.slider.setBounds (place.slider, 204, 30, 110);
     field.label.setBounds (place.label, 180, 30, 24);
     field.value.setBounds (place.value, 316, 32, 24);
+    field.slider.setTitle (spokenFilter (getName()) + ", " + row.spoken);
+    field.slider.setHelpText ("message: " + getName() + " " + row.name);
     field.slider.addListener (this);
+    field.slider.onGestureBoundary = [this] { model.boundGesture(); };
     addAndMakeVisible (field.slider);
     addAndMakeVisible (field.label);
     addAndMakeVisible (field.value);
@@ -160,7 +173,11 @@ void HLShelfComponent::sliderDragStarted (juce::Slider* slider)
     model.hold (halcyra::cell::ofFilter (number, fieldOf (slider)));
 }
 
-void HLShelfComponent::buttonClicked (juce::Button*) { model.resetFilter (number, halcyra::Edit::hand); }
+void HLShelfComponent::buttonClicked (juce::Button*)
+{
+    model.boundGesture(); // a key has pressed it, or the mouse, which has bounded it already
+    model.resetFilter (number, halcyra::Edit::hand);
+}
 
 bool HLShelfComponent::keyPressed (const juce::KeyPress& key)
 {

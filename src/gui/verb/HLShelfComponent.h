@@ -1,7 +1,7 @@
 #pragma once
 #include "gui/verb/HLShelfFrequencyResponseComponent.h"
+#include "gui/verb/NumberSlider.h"
 #include "gui/verb/SightWatcher.h"
-#include "gui/verb/ValueLabel.h"
 
 #include <array>
 #include <memory>
@@ -34,10 +34,15 @@ public:
     }
 
 private:
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
+    }
+
     struct Field
     {
         explicit Field (const halcyra::ShelfRow& row);
-        juce::Slider slider;
+        NumberSlider slider;
         juce::Label label;
         ValueLabel value;
     };

@@ -51,6 +51,9 @@ HLShelfFrequencyResponseComponent::HLShelfFrequencyResponseComponent (const juce
     : Component (name), model (modelToShow), number (filterToShow)
 {
     setOpaque (true); // the grid covers all of it
+    setTitle ("Frequency response");
+    setHelpText ("Drawn from the sliders below, which move it too.");
+    grid.setAccessible (false);
     addAndMakeVisible (grid);
     setSize (200, 100);
     setRepaintsOnMouseActivity (true);
@@ -228,6 +231,11 @@ void HLShelfFrequencyResponseComponent::paintOverChildren (juce::Graphics& g)
     if (hovered)
         paintHandles (g);
     Component::paintOverChildren (g);
+}
+
+std::unique_ptr<juce::AccessibilityHandler> HLShelfFrequencyResponseComponent::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::image);
 }
 
 void HLShelfFrequencyResponseComponent::bringUpToDate()

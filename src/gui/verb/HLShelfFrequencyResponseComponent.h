@@ -85,6 +85,7 @@ private:
     [[nodiscard]] int handleRadius() const noexcept;
     [[nodiscard]] int handleAt (juce::Point<double> position) const noexcept;
     [[nodiscard]] juce::Path curve() const;
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
     void bringUpToDate();
     void paintCurve (juce::Graphics& g) const;
     void paintHandles (juce::Graphics& g) const;

@@ -1,5 +1,5 @@
 #pragma once
-#include "gui/plane/PlaneComponent.h"
+#include "gui/plane/SceneElements.h"
 
 #include <memory>
 
@@ -16,7 +16,13 @@ public:
     void paint (juce::Graphics& g) override;
 
 private:
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
+    }
+
     std::unique_ptr<lumo::PlaneComponent> plane;
+    lumo::SceneElements elements;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HalcyraAmbrelTabComponent)
 };

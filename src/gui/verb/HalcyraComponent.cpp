@@ -1,8 +1,10 @@
 #include "gui/verb/HalcyraComponent.h"
 
+#include "gui/verb/FocusRing.h"
 #include "gui/verb/HalcyraAmbrelTabComponent.h"
 #include "gui/verb/HalcyraFiltersTabComponent.h"
 #include "gui/verb/HalcyraTimeStructureTabComponent.h"
+#include "gui/verb/PageTabs.h"
 #include "gui/verb/TooltipWindow.h"
 
 #include <algorithm>
@@ -51,17 +53,16 @@ struct HalcyraComponent::Pages
     Pages (HalcyraComponent& owner, std::unique_ptr<UndoablePlane> plane)
     {
         tabs.setTabBarDepth (30);
-        const auto add = [&] (const char* title, std::unique_ptr<juce::Component> page) {
-            tabs.addTab (title, tabColour, page.release(), true);
-        };
-        add ("Time Structure",
-             std::make_unique<HalcyraTimeStructureTabComponent> ("HalcyraTimeStructure", owner.model));
-        add ("filters", std::make_unique<HalcyraFiltersTabComponent> ("HalcyraFilters", owner.model));
-        add ("Ambrel", std::make_unique<HalcyraAmbrelTabComponent> (std::move (plane)));
+        tabs.addPage ("Time Structure", tabColour,
+                      std::make_unique<HalcyraTimeStructureTabComponent> ("HalcyraTimeStructure", owner.model));
+        tabs.addPage ("filters", tabColour,
+                      std::make_unique<HalcyraFiltersTabComponent> ("HalcyraFilters", owner.model));
+        tabs.addPage ("Ambrel", tabColour, std::make_unique<HalcyraAmbrelTabComponent> (std::move (plane)));
     }
 
     juce::SharedResourcePointer<widgets::TooltipWindow> tooltipWindow;
-    juce::TabbedComponent tabs{ juce::TabbedButtonBar::TabsAtTop };
+    PageTabs tabs;
+    FocusRing focusRing;
 };
 
 HalcyraComponent::HalcyraComponent (std::uint32_t sources, std::uint32_t speakers, std::uint32_t internals)
@@ -70,7 +71,8 @@ HalcyraComponent::HalcyraComponent (std::uint32_t sources, std::uint32_t speaker
       numinternals (internals),
       model (static_cast<int> (internals)),
       planeWithoutPage (std::make_unique<UndoablePlane> (
-          sources, speakers, 400, [this] (const Poses& before, const Poses& after) { sceneMoved (before, after); })),
+          sources, speakers, 400, [this] (const Poses& before, const Poses& after) { sceneMoved (before, after); },
+          [this] { history.closeRun(); })),
       plane (planeWithoutPage.get())
 {
     using Page = HalcyraAmbrelTabComponent;
@@ -79,6 +81,8 @@ HalcyraComponent::HalcyraComponent (std::uint32_t sources, std::uint32_t speaker
     plane->AddListener (this);
     model.addListener (this);
     setOpaque (true);
+    setTitle ("halcyra~.control");
+    setFocusContainerType (FocusContainerType::focusContainer);
     setSize (930, 440);
     setWantsKeyboardFocus (true);
 }
@@ -96,6 +100,7 @@ void HalcyraComponent::makePages()
     pages = std::make_unique<Pages> (*this, std::move (planeWithoutPage));
     pages->tabs.setBounds (5, 6, 920, 430);
     addAndMakeVisible (pages->tabs);
+    addChildComponent (pages->focusRing);
     sendLookAndFeelChange();       // the children were laid out before they had this one
     addMouseListener (this, true); // the end of every press is the end of a gesture
     addMouseListener (pages->tooltipWindow, true);
@@ -204,7 +209,11 @@ void HalcyraComponent::sceneMoved (const Poses& before, const Poses& after)
 }
 
 // These are heard after whatever was pressed.
-void HalcyraComponent::mouseDown (const juce::MouseEvent&) { history.closeRun(); }
+void HalcyraComponent::mouseDown (const juce::MouseEvent&)
+{
+    history.closeRun();
+    pages->focusRing.surround (nullptr);
+}
 
 void HalcyraComponent::mouseUp (const juce::MouseEvent& event)
 {
@@ -257,9 +266,61 @@ bool HalcyraComponent::keyPressed (const juce::KeyPress& key)
             (this->*row.act)();
             return true;
         }
+    if (key.isKeyCode (juce::KeyPress::tabKey)) {
+        moveFocus (! key.getModifiers().isShiftDown());
+        return true;
+    }
     if (key == closeKey)
         listeners.call ([] (Listener& l) { l.HalcyraCloseRequested(); });
     return false; // the key travels on to the parent
+}
+
+// ---- The keyboard
+
+namespace
+{
+
+/** Where the tab key stops: at what wants the keyboard for itself, not for the controls within, as a page does. */
+std::vector<juce::Component*> stopsIn (juce::Component& window)
+{
+    const auto wanting = juce::KeyboardFocusTraverser().getAllComponents (&window);
+    std::vector<juce::Component*> stops;
+    std::copy_if (wanting.begin(), wanting.end(), std::back_inserter (stops), [&] (const juce::Component* candidate) {
+        return std::none_of (wanting.begin(), wanting.end(),
+                             [&] (const juce::Component* other) { return candidate->isParentOf (other); });
+    });
+    return stops;
+}
+
+}
+
+/** From the last control to the first one and back; from a page that has the keyboard itself into the page. */
+void HalcyraComponent::moveFocus (bool forwards)
+{
+    const auto stops = stopsIn (*this);
+    if (stops.empty())
+        return;
+    const auto* const focused = getCurrentlyFocusedComponent();
+    const auto count = stops.size();
+    auto next = static_cast<std::size_t> (std::find_if (stops.begin(), stops.end(),
+                                                        [&] (const juce::Component* stop) {
+                                                            return stop == focused || focused == nullptr ||
+                                                                   focused->isParentOf (stop);
+                                                        }) -
+                                          stops.begin());
+    if (next == count)
+        next = 0;
+    else if (! forwards)
+        next = (next + count - 1) % count;
+    else if (stops[next] == focused)
+        next = (next + 1) % count;
+    stops[next]->grabKeyboardFocus();
+    pages->focusRing.surround (getCurrentlyFocusedComponent());
+}
+
+std::unique_ptr<juce::AccessibilityHandler> HalcyraComponent::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
 }
 
 // ---- Drawing

@@ -130,6 +130,7 @@ private:
     void reverbChanged (const halcyra::ReverbModel::Change& change) override;
     void parameterTold (HalcyraReverbParameter number) override;
     void filterTold (HalcyraFilter number) override;
+    void gestureBounded() override { history.closeRun(); }
     void SourcePositionChanged (std::size_t index, const qel::Point3& position) override;
     void SpeakersPositionsChanged (const qel::Point3Array& positions) override;
     void OptionsChanged (lumo::PlaneBase& source) override;
@@ -137,6 +138,8 @@ private:
     void sceneMoved (const lumo::poses::Poses& before, const lumo::poses::Poses& after);
     void apply (const halcyra::EditHistory::Step* step, float halcyra::EditHistory::Value::*side);
     void makePages();
+    void moveFocus (bool forwards);
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 
     const std::uint32_t numsources, numspeakers, numinternals;
     SelfWakingModel model;

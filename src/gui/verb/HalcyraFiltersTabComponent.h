@@ -16,6 +16,11 @@ public:
     void paint (juce::Graphics& g) override;
 
 private:
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
+    }
+
     std::array<lumo::HLShelfComponent, 4> shelves;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HalcyraFiltersTabComponent)

@@ -75,12 +75,13 @@ HalcyraTimeStructureTabComponent::HalcyraTimeStructureTabComponent (const juce::
     setOpaque (true);
     setWantsKeyboardFocus (true); // a click would give it to the first switch otherwise, and space turn that
     makeGroups();
-    addAndMakeVisible (display);
+    addStop (display);
     makeRoomSize();
     makeControls();
     reset.setButtonText ("Reset");
+    reset.setTitle ("Reset the time structure");
     reset.addListener (this);
-    addAndMakeVisible (reset);
+    addStop (reset);
     setSize (920, 400);
     stale.set();
     showStale();
@@ -95,6 +96,7 @@ void HalcyraTimeStructureTabComponent::makeGroups()
         auto& group = *groups.emplace_back (std::make_unique<juce::GroupComponent> (row.name, row.text));
         group.setColour (juce::GroupComponent::textColourId, juce::Colours::black);
         group.setBounds (row.box.rectangle());
+        group.setAccessible (false); // the names of the controls say where they belong
         addAndMakeVisible (group);
     }
 }
@@ -108,12 +110,15 @@ void HalcyraTimeStructureTabComponent::makeControls()
             toggle->setTooltip (row.name);
             toggle->setButtonText ({});
             toggle->setBounds (where.control.rectangle());
+            toggle->setTitle (row.spoken);
             toggle->addListener (this);
-            addAndMakeVisible (toggle);
+            addStop (*toggle);
             continue;
         }
         auto& number = numbers[static_cast<std::size_t> (row.number)];
         number = std::make_unique<NumberControl> (row.name, textOf (row));
+        number->slider.setTitle (row.spoken);
+        number->slider.setHelpText (juce::String ("message: ") + row.selector + " " + row.key);
         const bool isWide = row.number <= parameter::fh || row.number == parameter::airFrequency;
         place (*number, where.control.rectangle(), where.value.rectangle(), isWide ? 80 : 60);
         setRange (number->slider, row.range, row.midPoint, row.doubleClick());
@@ -127,6 +132,8 @@ void HalcyraTimeStructureTabComponent::makeControls()
 void HalcyraTimeStructureTabComponent::makeRoomSize()
 {
     makeLabel ("Room size", "RoomSizeLabel", halcyra::roomLabelBox.rectangle(), 12, true);
+    roomSize.slider.setTitle ("Room size");
+    roomSize.slider.setHelpText ("Derives the times of all stages from a volume.");
     place (roomSize, halcyra::roomSliderBox.rectangle(), halcyra::roomValueBox.rectangle(), 60);
     setRange (roomSize.slider, halcyra::roomRange, 0, static_cast<double> (halcyra::defaultRoomSize));
 }
@@ -149,12 +156,20 @@ void HalcyraTimeStructureTabComponent::place (NumberControl& control, juce::Rect
     editors::styleSlider (control.slider, juce::Slider::LinearHorizontal, textBoxWidth);
     control.slider.setBounds (sliderBox);
     control.slider.addListener (this);
-    addAndMakeVisible (control.slider);
+    control.slider.onGestureBoundary = [this] { model.boundGesture(); };
+    addStop (control.slider);
 
     lumo::styleLabel (control.value, 12, juce::Justification::centredLeft);
     control.value.setBorderSize ({ 1, 5, 1, 0 });
     control.value.setBounds (valueBox);
     addAndMakeVisible (control.value);
+}
+
+/** The tab key stops at the controls in the order in which they are created. */
+void HalcyraTimeStructureTabComponent::addStop (juce::Component& control)
+{
+    control.setExplicitFocusOrder (++numStops);
+    addAndMakeVisible (control);
 }
 
 juce::ToggleButton* HalcyraTimeStructureTabComponent::toggleOf (HalcyraReverbParameter number) noexcept
@@ -194,6 +209,7 @@ void HalcyraTimeStructureTabComponent::sliderValueChanged (juce::Slider* slider)
 
 void HalcyraTimeStructureTabComponent::buttonClicked (juce::Button* button)
 {
+    model.boundGesture(); // a key has pressed it, or the mouse, which has bounded it already
     if (button == &reset)
         return model.resetParameters (Edit::hand);
     model.setParameter (button == &air ? parameter::air : parameter::infinite, button->getToggleState() ? 1.0f : 0.0f,

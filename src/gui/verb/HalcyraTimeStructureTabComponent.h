@@ -2,9 +2,9 @@
 #include "common/OrvaneDspListeners.h"
 #include "gui/verb/HalcyraTimeStructureListener.h"
 #include "gui/verb/ImpulseResponseComponent.h"
+#include "gui/verb/NumberSlider.h"
 #include "gui/verb/SelfWakingModel.h"
 #include "gui/verb/SightWatcher.h"
-#include "gui/verb/ValueLabel.h"
 
 #include <array>
 #include <bitset>
@@ -38,13 +38,18 @@ public:
     void setDefaults() { setTimeStructure ({}, 1); }
 
 private:
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
+    {
+        return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
+    }
+
     /** One number: its slider, and what shows its value. */
     struct NumberControl
     {
         NumberControl (const juce::String& sliderName, lumo::ValueLabel::Format format)
-            : slider (sliderName), value (std::move (format))
+            : slider (sliderName, value), value (std::move (format))
         {}
-        juce::Slider slider;
+        lumo::NumberSlider slider;
         lumo::ValueLabel value;
     };
 
@@ -63,6 +68,7 @@ private:
                     bool onRight);
     void place (NumberControl& control, juce::Rectangle<int> sliderBox, juce::Rectangle<int> valueBox,
                 int textBoxWidth);
+    void addStop (juce::Component& control);
     void sightChanged (bool isShowing);
     void showStale();
     void show (halcyra::ReverbCell cell);
@@ -82,6 +88,7 @@ private:
     NumberControl roomSize;
     juce::ToggleButton air{ "air" }, infinite{ "infinite" };
     juce::TextButton reset{ "ResetButton" };
+    int numStops = 0; // of the tab key
     std::bitset<halcyra::cell::firstFilter> stale;
     SightWatcher sight;
 

@@ -59,6 +59,9 @@ ImpulseResponseComponent::ImpulseResponseComponent (std::uint32_t numinternals)
       gains (early.getDelays().size())
 {
     setOpaque (true);
+    setTitle ("Impulse response");
+    setHelpText ("Shows so many milliseconds: the cursor keys zoom.");
+    setWantsKeyboardFocus (true);
     setSize (500, 200);
 }
 
@@ -244,6 +247,53 @@ void ImpulseResponseComponent::mouseWheelMove (const juce::MouseEvent&, const ju
 {
     if (std::isfinite (wheel.deltaY))
         store (zoom, ImpulseResponseScale::zoomed (zoom, wheel.deltaY), decay | ticks);
+}
+
+bool ImpulseResponseComponent::keyPressed (const juce::KeyPress& key)
+{
+    const bool in = key == juce::KeyPress::upKey || key == juce::KeyPress::rightKey;
+    const bool out = key == juce::KeyPress::downKey || key == juce::KeyPress::leftKey;
+    if (in || out)
+        store (zoom, ImpulseResponseScale::zoomed (zoom, in ? 1.0f : -1.0f), decay | ticks);
+    return in || out;
+}
+
+/** The span of the time axis in ms, for a screen reader. */
+class ImpulseResponseComponent::ShownTime : public juce::AccessibilityValueInterface
+{
+public:
+    explicit ShownTime (ImpulseResponseComponent& displayToSpeakFor) : display (displayToSpeakFor) {}
+
+    bool isReadOnly() const override { return false; }
+    double getCurrentValue() const override { return static_cast<double> (display.scale().span()); }
+    juce::String getCurrentValueAsString() const override
+    {
+        return juce::String (juce::roundToInt (getCurrentValue())) + " ms";
+    }
+    void setValueAsString (const juce::String& ms) override { setValue (ms.getDoubleValue()); }
+    void setValue (double ms) override
+    {
+        const auto range = getRange();
+        const auto span = static_cast<float> (juce::jlimit (range.getMinimumValue(), range.getMaximumValue(), ms));
+        display.store (display.zoom, ImpulseResponseScale{ 0, 0, 1 }.span() / span, decay | ticks);
+    }
+    AccessibleValueRange getRange() const override
+    {
+        const auto spanAt = [] (float zoomed) {
+            return static_cast<double> (ImpulseResponseScale{ 0, 0, zoomed }.span());
+        };
+        return { { spanAt (ImpulseResponseScale::greatestZoom), spanAt (ImpulseResponseScale::leastZoom) }, 1 };
+    }
+
+private:
+    ImpulseResponseComponent& display;
+};
+
+std::unique_ptr<juce::AccessibilityHandler> ImpulseResponseComponent::createAccessibilityHandler()
+{
+    return std::make_unique<juce::AccessibilityHandler> (
+        *this, juce::AccessibilityRole::slider, juce::AccessibilityActions{},
+        juce::AccessibilityHandler::Interfaces{ std::make_unique<ShownTime> (*this) });
 }
 
 }

@@ -40,6 +40,8 @@ public:
     void paint (juce::Graphics& g) override;
     void resized() override;
     void mouseWheelMove (const juce::MouseEvent& e, const juce::MouseWheelDetails& wheel) override;
+    /** A cursor key zooms as one turn of the wheel does. */
+    bool keyPressed (const juce::KeyPress& key) override;
 
 private:
     /** What a value that changed makes stale. */
@@ -52,7 +54,10 @@ private:
         ticks = 16
     };
 
+    class ShownTime;
+
     void store (float& field, float value, unsigned makesStale);
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
     [[nodiscard]] ImpulseResponseScale scale() const noexcept;
     void bringUpToDate (float pixelScale);
     /** At so many pixels of the screen a pixel. */

@@ -12,8 +12,12 @@ public:
     /** Where things stood before and after one event; the two are of one length, and differ. */
     using Moved = std::function<void (const lumo::poses::Poses& before, const lumo::poses::Poses& after)>;
 
-    UndoablePlane (std::size_t numSources, std::size_t numSpeakers, int size, Moved tellMoved)
-        : PlaneComponent (numSources, numSpeakers, size), moved (std::move (tellMoved))
+    /** The second is called before and after each key: a key is a gesture of its own. */
+    UndoablePlane (std::size_t numSources, std::size_t numSpeakers, int size, Moved tellMoved,
+                   std::function<void()> boundGesture)
+        : PlaneComponent (numSources, numSpeakers, size),
+          moved (std::move (tellMoved)),
+          bound (std::move (boundGesture))
     {}
 
     void mouseDrag (const juce::MouseEvent& event) override
@@ -27,7 +31,9 @@ public:
     bool keyPressed (const juce::KeyPress& key) override
     {
         bool taken = false;
+        bound();
         watch ([&] { taken = PlaneComponent::keyPressed (key); });
+        bound();
         return taken;
     }
 
@@ -43,6 +49,7 @@ private:
     }
 
     Moved moved;
+    std::function<void()> bound;
     lumo::poses::Poses before, after;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (UndoablePlane)

@@ -40,6 +40,7 @@ void styleLabel (juce::Label& label, float fontHeight, juce::Justification justi
     label.setColour (juce::TextEditor::backgroundColourId, juce::Colour (0x00000000));
     label.setPaintingIsUnclipped (true);
     label.setInterceptsMouseClicks (false, false);
+    label.setAccessible (false); // the control beside it has its name and its value
 }
 
 }

@@ -13,12 +13,18 @@ bool IsNear (juce::Point<float> pixels, juce::Point<float> object, const ViewTra
 
 }
 
+bool IsClickable (const Source& source) { return source.visible && source.Editable(); }
+
+bool IsClickable (const Speaker& speaker, const Surface& surface)
+{
+    return surface.options.speakersVisible && speaker.visible && speaker.editable;
+}
+
 int SourceUnder (juce::Point<float> pixels, const Surface& surface, const Scene& scene)
 {
     for (auto i = scene.sources.size(); i-- > 0;) {
         const auto& source = scene.sources[i];
-        if (source.visible && source.Editable() &&
-            IsNear (pixels, source.screenPosition, surface.viewTransform, source.Proportion()))
+        if (IsClickable (source) && IsNear (pixels, source.screenPosition, surface.viewTransform, source.Proportion()))
             return static_cast<int> (i);
     }
     return Scene::none;
@@ -26,11 +32,9 @@ int SourceUnder (juce::Point<float> pixels, const Surface& surface, const Scene&
 
 int SpeakerUnder (juce::Point<float> pixels, const Surface& surface, const Scene& scene)
 {
-    if (! surface.options.speakersVisible)
-        return Scene::none;
     for (std::size_t i = 0; i < scene.speakers.size(); ++i) {
         const auto& speaker = scene.speakers[i];
-        if (speaker.visible && speaker.editable &&
+        if (IsClickable (speaker, surface) &&
             IsNear (pixels, speaker.screenPosition, surface.viewTransform, speaker.proportion))
             return static_cast<int> (i);
     }

@@ -4,6 +4,7 @@
 #include "gui/plane/interaction/PlaneMenu.h"
 #include "gui/plane/objects/Positions.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace lumo
@@ -64,6 +65,50 @@ void PlaneComponent::mouseDown (const juce::MouseEvent& event)
     BeginLassoOrDrag();
     NotifySelectionChanged();
     repaint();
+}
+
+// ---- Selection without the mouse
+
+template <typename Select>
+void PlaneComponent::SelectAlone (Select&& select)
+{
+    const int speakerBefore = scene.selectedSpeaker;
+    DeselectAllSources();
+    surface.options.listenerSelected = false;
+    SelectSpeaker (Scene::none);
+    select();
+    NotifySpeakerSelection (speakerBefore);
+    NotifySelectionChanged();
+    repaint();
+}
+
+void PlaneComponent::SelectSourceAlone (std::size_t index)
+{
+    if (auto* source = SourceAt (index); source != nullptr && IsClickable (*source))
+        SelectAlone ([&] { source->selected = true; });
+}
+
+void PlaneComponent::SelectSpeakerAlone (std::size_t index)
+{
+    if (const auto* speaker = SpeakerAt (index); speaker != nullptr && IsClickable (*speaker, surface))
+        SelectAlone ([&] { SelectSpeaker (static_cast<int> (index)); });
+}
+
+void PlaneComponent::SelectListenerAlone()
+{
+    if (surface.listener.editable && surface.listener.visible)
+        SelectAlone ([this] { surface.options.listenerSelected = true; });
+}
+
+void PlaneComponent::SelectNextSpeaker()
+{
+    const auto first = scene.speakers.begin() + (scene.selectedSpeaker + 1);
+    const auto next = std::find_if (first, scene.speakers.end(),
+                                    [this] (const Speaker& speaker) { return IsClickable (speaker, surface); });
+    if (next != scene.speakers.end())
+        SelectSpeakerAlone (static_cast<std::size_t> (next - scene.speakers.begin()));
+    else if (scene.selectedSpeaker != Scene::none)
+        SelectAlone ([] {});
 }
 
 /** A speaker beats the listener, and the listener a source. */
@@ -223,6 +268,20 @@ void PlaneComponent::MoveDragged (const qel::Point3& step, const juce::ModifierK
         SetListenerPosition (surface.listener.position + step, true);
     else if (! mods.isShiftDown() && ! mods.isAltDown())
         MoveSelectedSources ([&] (const qel::Point3& p) { return p + step; });
+}
+
+void PlaneComponent::MoveSelection (const qel::Point3& step)
+{
+    if (! surface.options.circularConstraint)
+        MoveDragged (step, {});
+    else if (const auto* speaker = SelectedSpeaker(); speaker != nullptr && speaker->editable)
+        TurnDragged (speaker->position, speaker->position + step);
+    else if (const auto first = std::find_if (scene.sources.begin(), scene.sources.end(),
+                                              [] (const Source& source) { return source.selected; });
+             first != scene.sources.end() && scene.AnySourceEditable())
+        TurnDragged (first->position, first->position + step);
+    if (! SettersRepaint())
+        repaint();
 }
 
 Speaker* PlaneComponent::SelectedSpeaker() { return SpeakerAt (static_cast<std::size_t> (scene.selectedSpeaker)); }

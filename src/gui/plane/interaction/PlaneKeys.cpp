@@ -1,5 +1,7 @@
 #include "gui/plane/interaction/PlaneKeys.h"
 
+#include "gui/plane/interaction/PlaneMenu.h"
+
 #include <array>
 #include <cmath>
 
@@ -40,6 +42,23 @@ void NextGrid (PlaneComponent& plane)
 void SelectAll (PlaneComponent& plane) { plane.SelectAllSources(); }
 void SelectNext (PlaneComponent& plane) { plane.SelectNextSource(); }
 
+void NextSpeaker (PlaneComponent& plane) { plane.SelectNextSpeaker(); }
+void SelectListener (PlaneComponent& plane) { plane.SelectListenerAlone(); }
+void OpenMenu (PlaneComponent& plane)
+{
+    if (! plane.GetSurface().options.rightClickLocked)
+        Plane::ShowPlaneMenu (plane);
+}
+
+/** Moves the selection by so many tenths of a metre to the right, up, and along the axis that the view hides. */
+template <int right, int up, int hidden>
+void Move (PlaneComponent& plane)
+{
+    const auto metres = [] (int tenths) { return static_cast<float> (tenths) / 10.0f; };
+    const bool topView = plane.GetSurface().viewTransform.topView;
+    plane.MoveSelection ({ metres (right), metres (topView ? up : hidden), metres (topView ? hidden : up) });
+}
+
 template <int menuId>
 void Toggle (PlaneComponent& plane)
 {
@@ -69,6 +88,7 @@ const auto& Rows()
     constexpr int plain = juce::ModifierKeys::noModifiers;
     constexpr int ctrl = juce::ModifierKeys::ctrlModifier;
     constexpr int shift = juce::ModifierKeys::shiftModifier;
+    constexpr int alt = juce::ModifierKeys::altModifier;
     constexpr int softHyphen = 0xAD; // what JUCE makes of the numeric pad's minus on X11
     static const std::array rows{
         Row{ 'w', ctrl, Command<0> }, // asks to close the window
@@ -99,6 +119,21 @@ const auto& Rows()
         Row{ KeyPress::upKey, plain, Shift<0, -1> },
         Row{ KeyPress::downKey, plain, Shift<0, 1> },
         Row{ KeyPress::tabKey, plain, SelectNext },
+        Row{ KeyPress::homeKey, alt, NextSpeaker },
+        Row{ KeyPress::endKey, alt, SelectListener },
+        Row{ KeyPress::rightKey, alt, Move<1, 0, 0> },
+        Row{ KeyPress::leftKey, alt, Move<-1, 0, 0> },
+        Row{ KeyPress::upKey, alt, Move<0, 1, 0> },
+        Row{ KeyPress::downKey, alt, Move<0, -1, 0> },
+        Row{ KeyPress::pageUpKey, alt, Move<0, 0, 1> },
+        Row{ KeyPress::pageDownKey, alt, Move<0, 0, -1> },
+        Row{ KeyPress::rightKey, alt | shift, Move<10, 0, 0> },
+        Row{ KeyPress::leftKey, alt | shift, Move<-10, 0, 0> },
+        Row{ KeyPress::upKey, alt | shift, Move<0, 10, 0> },
+        Row{ KeyPress::downKey, alt | shift, Move<0, -10, 0> },
+        Row{ KeyPress::pageUpKey, alt | shift, Move<0, 0, 10> },
+        Row{ KeyPress::pageDownKey, alt | shift, Move<0, 0, -10> },
+        Row{ KeyPress::F10Key, shift, OpenMenu },
     };
     return rows;
 }

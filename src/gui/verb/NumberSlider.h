@@ -1,0 +1,31 @@
+#pragma once
+#include "gui/verb/ValueLabel.h"
+
+namespace lumo
+{
+
+/** A slider that also answers to cursor keys and to screen readers: a key moves it by one step, with shift by ten. A
+    screen reader is given what the label beside it shows. Message thread. */
+class NumberSlider : public juce::Slider
+{
+public:
+    NumberSlider (const juce::String& name, const ValueLabel& labelBeside);
+
+    /** Called before and after each edit that is a gesture of its own, such as a key's. */
+    std::function<void()> onGestureBoundary;
+
+    /** Sets the value as one gesture. */
+    void edit (double newValue);
+    [[nodiscard]] juce::String shownText() const { return label.shownText(); }
+
+    bool keyPressed (const juce::KeyPress& key) override;
+
+private:
+    std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+
+    const ValueLabel& label;
+
+    JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (NumberSlider)
+};
+
+}
