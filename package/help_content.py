@@ -350,7 +350,9 @@ KEYS = {
         ],
         [
             ("Keys", [
-                ("say", "tab: selects the next source"),
+                ("say", "tab: selects the next source; shift + tab and ctrl + tab leave the scene"),
+                ("say", "alt + arrows: move the selection by 0.1 m, with shift by 1 m; alt + page up and page down, along the hidden axis"),
+                ("say", "alt + home, alt + end: select the next speaker, the listener, where they are editable"),
                 ("say", "ctrl + a: selects all sources"),
                 ("say", "v: top view or front view"),
                 ("say", "g: next kind of grid"),
@@ -359,6 +361,7 @@ KEYS = {
                 ("say", "+ and -: zoom;  = goes back to 1"),
                 ("say", "arrows: shift the view"),
                 ("say", "ctrl + w: closes the window, from the first two tabs"),
+                ("say", "other tabs: tab and shift + tab walk through the controls, arrows change a slider by a step, with shift by ten, return or space presses a button"),
                 ("say", "ctrl + z: undoes the last gesture of the hand, on every page; ctrl + shift + z or ctrl + y does it again"),
             ]),
             ("Start", [

@@ -204,7 +204,7 @@ ROWS = [
      "yaw = qel::wrapRadians (Direction() - yawOffset + qel::halfPi);", "a translated source turns round"),
     ("src/gui/plane/interaction/HitTest.cpp", "for (auto i = scene.sources.size(); i-- > 0;) {", "for (std::size_t i = 0; i < scene.sources.size(); ++i) {",
      "the lower of two sources is taken"),
-    ("src/gui/plane/interaction/HitTest.cpp", "if (source.visible && source.Editable() &&", "if (source.visible &&", "a hand on what may not be edited"),
+    ("src/gui/plane/interaction/HitTest.cpp", "return source.visible && source.Editable();", "return source.visible;", "a hand on what may not be edited"),
     ("src/gui/plane/interaction/HitTest.cpp", "return listener.editable && listener.visible &&", "return listener.visible &&",
      "the listener moves though it is not editable"),
     ("src/gui/plane/interaction/PlaneComponentMouse.cpp", "pointer.last = point;\n        Notify", "Notify", "a drag's second step"),

@@ -280,11 +280,6 @@ void PlaneComponent::SelectNextSource()
     repaint();
 }
 
-std::unique_ptr<juce::AccessibilityHandler> PlaneComponent::createAccessibilityHandler()
-{
-    return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::list);
-}
-
 void PlaneComponent::SetCircularConstraint (bool on, bool repaintNow)
 {
     surface.options.circularConstraint = on;

@@ -247,7 +247,11 @@ private:
     template <typename Move>
     void MoveSelectedSources (Move&& move);
 
+    // What a screen reader meets: the scene, and in it an element for each object.
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
+    std::unique_ptr<juce::ComponentTraverser> createFocusTraverser() override;
+    void MakeElements();
+    void SpeakSelection();
 
     Plane::Scene scene;
     Plane::Pointer pointer;
@@ -255,6 +259,7 @@ private:
     bool listenerEnabled = true;
     bool autoZoomRequested = false;
     Plane::ChangedParts changedParts;
+    juce::OwnedArray<juce::Component> elements; // none until a screen reader asks
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (PlaneComponent)
 };

@@ -33,6 +33,7 @@ void PlaneComponent::SetNumSources (std::size_t number, bool notify)
     number = std::min (number, Scene::largestCount);
     if (number == before)
         return;
+    elements.clear();
     while (scene.sources.size() > number)
         scene.sources.erase (scene.sources.size() - 1);
     for (auto i = before; i < number; ++i) {

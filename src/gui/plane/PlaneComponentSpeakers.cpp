@@ -38,6 +38,7 @@ void PlaneComponent::SetNumSpeakers (std::size_t number, bool notify)
     number = std::min (number, Scene::largestCount);
     if (number == before)
         return;
+    elements.clear();
     while (scene.speakers.size() > number)
         scene.speakers.erase (scene.speakers.size() - 1);
     for (auto i = before; i < number; ++i)

@@ -3,7 +3,7 @@
 #include "gui/verb/EditorStyle.h"
 
 HalcyraAmbrelTabComponent::HalcyraAmbrelTabComponent (std::unique_ptr<lumo::PlaneComponent> planeToShow)
-    : plane (std::move (planeToShow)), elements (*plane)
+    : plane (std::move (planeToShow))
 {
     setOpaque (true);
     addAndMakeVisible (*plane);

@@ -1,5 +1,5 @@
 #pragma once
-#include "gui/plane/SceneElements.h"
+#include "gui/plane/PlaneComponent.h"
 
 #include <memory>
 
@@ -22,7 +22,6 @@ private:
     }
 
     std::unique_ptr<lumo::PlaneComponent> plane;
-    lumo::SceneElements elements;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HalcyraAmbrelTabComponent)
 };

@@ -270,6 +270,11 @@ bool HalcyraComponent::keyPressed (const juce::KeyPress& key)
         moveFocus (! key.getModifiers().isShiftDown());
         return true;
     }
+    if (key == juce::KeyPress::spaceKey) // return does it by itself
+        if (auto* button = dynamic_cast<juce::Button*> (getCurrentlyFocusedComponent())) {
+            button->triggerClick();
+            return true;
+        }
     if (key == closeKey)
         listeners.call ([] (Listener& l) { l.HalcyraCloseRequested(); });
     return false; // the key travels on to the parent

@@ -1,20 +1,20 @@
 #include "gui/verb/HalcyraComponent.h"
 #include "host/bench/window/GuiPump.h"
 #include "max/window/OffscreenPeer.h"
+#include "support/SpokenTree.h"
 #include "support/Stage.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <functional>
-
 namespace
 {
 
-using Role = juce::AccessibilityRole;
+using spoken::nameOf, spoken::Role, spoken::valueOf;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
 
 /** JUCE speaks only for what stands in a window with a handle: one in memory is given one. */
@@ -40,39 +40,6 @@ private:
     juce::ComponentPeer* createNewPeer (int style, void*) override { return new Peer (*this, style); }
 };
 
-juce::String valueOf (const juce::AccessibilityHandler& handler)
-{
-    if (const auto* value = handler.getValueInterface())
-        return value->getCurrentValueAsString();
-    const auto state = handler.getCurrentState();
-    return ! state.isCheckable() ? juce::String() : state.isChecked() ? "on" : "off";
-}
-
-/** Names of the roles that a person operates or reads. */
-const char* nameOf (Role role)
-{
-    switch (role) {
-    case Role::slider:
-        return "slider";
-    case Role::toggleButton:
-        return "switch";
-    case Role::radioButton:
-        return "tab";
-    case Role::button:
-        return "button";
-    case Role::image:
-        return "image";
-    case Role::list:
-        return "list";
-    case Role::listItem:
-        return "item";
-    case Role::group:
-        return "group";
-    default:
-        return "";
-    }
-}
-
 class Accessibility : public testing::Test
 {
 protected:
@@ -80,21 +47,13 @@ protected:
 
     juce::TabbedComponent& tabs() { return *dynamic_cast<juce::TabbedComponent*> (component.getChildComponent (0)); }
 
-    using Visit = std::function<void (juce::AccessibilityHandler&)>;
-    static void walk (juce::AccessibilityHandler& from, const Visit& visit)
-    {
-        visit (from);
-        for (auto* child : from.getChildren())
-            walk (*child, visit);
-    }
-
     /** "role name: value" of all that is in the tree on a page. */
     std::vector<std::string> onPage (int page)
     {
         tabs().setCurrentTabIndex (page);
         pumpGui();
         std::vector<std::string> found;
-        walk (*component.getAccessibilityHandler(), [&] (juce::AccessibilityHandler& handler) {
+        spoken::walk (*component.getAccessibilityHandler(), [&] (juce::AccessibilityHandler& handler) {
             found.push_back (
                 (nameOf (handler.getRole()) + (" " + handler.getTitle() + ": ") + valueOf (handler)).toStdString());
         });
@@ -104,7 +63,7 @@ protected:
     juce::AccessibilityHandler* named (const juce::String& name)
     {
         juce::AccessibilityHandler* found = nullptr;
-        walk (*component.getAccessibilityHandler(), [&] (juce::AccessibilityHandler& handler) {
+        spoken::walk (*component.getAccessibilityHandler(), [&] (juce::AccessibilityHandler& handler) {
             if (handler.getTitle() == name)
                 found = &handler;
         });
@@ -117,21 +76,14 @@ protected:
 
 TEST_F (Accessibility, EveryControlHasANameARoleAndAValue)
 {
-    constexpr int controlsOfPage[] = { 19 + 1 + 2 + 1, 4 * 7, 0 }; // sliders and the picture, switches, Reset; columns
+    // The tabs; sliders and the picture, switches, Reset; columns; the objects of the scene.
+    constexpr int controlsOfPage[] = { 3 + 19 + 1 + 2 + 1, 3 + 4 * 7, 3 + 2 + 2 + 1 };
     for (int page = 0; page < 3; ++page) {
         (void)onPage (page);
-        int controls = -3; // the tabs
-        walk (*component.getAccessibilityHandler(), [&] (juce::AccessibilityHandler& handler) {
-            const auto role = handler.getRole();
-            EXPECT_STRNE (nameOf (role), "") << handler.getComponent().getName();
-            EXPECT_NE (handler.getTitle(), "") << nameOf (role) << " " << handler.getComponent().getName();
-            if (role == Role::image || role == Role::group || role == Role::list || role == Role::listItem)
-                return;
-            ++controls;
-            if (role != Role::button)
-                EXPECT_NE (valueOf (handler), "") << handler.getTitle();
-            else
-                EXPECT_TRUE (handler.getActions().contains (juce::AccessibilityActionType::press));
+        EXPECT_THAT (spoken::gapsBelow (*component.getAccessibilityHandler()), IsEmpty()) << "page " << page;
+        int controls = 0;
+        spoken::walk (*component.getAccessibilityHandler(), [&] (const juce::AccessibilityHandler& handler) {
+            controls += spoken::isControl (handler.getRole()) ? 1 : 0;
         });
         EXPECT_EQ (controls, controlsOfPage[page]) << "page " << page;
     }
@@ -181,6 +133,44 @@ TEST_F (Accessibility, TellsWhereObjectsAreAndWhichAreSelected)
     ASSERT_NE (named ("Source 2, violin"), nullptr);
     named ("Source 2, violin")->getActions().invoke (juce::AccessibilityActionType::press);
     EXPECT_TRUE (plane.IsSourceSelected (0)) << "the hand takes nothing that it may not edit";
+}
+
+TEST_F (Accessibility, FramesTheIconOfAnObjectWhereItStandsNow)
+{
+    auto& plane = *component.getPlane();
+    (void)onPage (2);
+    auto* source = named ("Source 2");
+    ASSERT_NE (source, nullptr);
+    for (const auto& position : { qel::Point3{ 0, 0, 0 }, qel::Point3{ 0.5f, -0.5f, 0 } }) {
+        plane.SetSourcePosition (1, position, true);
+        (void)source->getCurrentState();
+        const auto& drawn = plane.GetScene().sources[1];
+        const auto frame = plane.getLocalArea (nullptr, source->getComponent().getScreenBounds()).toFloat();
+        EXPECT_LE (frame.getCentre().getDistanceFrom (drawn.screenPosition), 1);
+        const auto side = plane.GetSurface().viewTransform.PixelSize (drawn.Proportion());
+        EXPECT_NEAR (frame.getWidth(), side, 1);
+        EXPECT_NEAR (frame.getHeight(), side, 1);
+    }
+}
+
+TEST_F (Accessibility, MakesNothingForObjectsUntilAScreenReaderAsksAndFollowsTheSelectionThen)
+{
+    auto& plane = *component.getPlane();
+    tabs().setCurrentTabIndex (2);
+    pumpGui();
+    plane.grabKeyboardFocus();
+    const juce::KeyPress next (juce::KeyPress::tabKey);
+    plane.keyPressed (next);
+    plane.SetSourcePosition (0, { 1, 1, 0 }, true);
+    EXPECT_EQ (plane.getNumChildComponents(), 0);
+
+    ASSERT_NE (named ("Source 2"), nullptr);
+    EXPECT_EQ (plane.getNumChildComponents(), 2 + 2 + 1);
+    EXPECT_FALSE (named ("Source 2")->hasFocus (false));
+    plane.keyPressed (next);
+    EXPECT_TRUE (named ("Source 2")->hasFocus (false));
+    plane.SetNumSources (3, true);
+    EXPECT_NE (named ("Source 3"), nullptr);
 }
 
 TEST_F (Accessibility, EditsAsTheHandDoesOneStepAtATime)
@@ -319,26 +309,33 @@ TEST_F (Keyboard, KeysAndTheWheelOnOneControlAreStepsOfTheirOwn)
     EXPECT_FLOAT_EQ (component.getEarlyWidth(), 30);
 }
 
-TEST_F (Keyboard, ReturnPressesWhatTabHasReachedAndNothingElse)
+TEST_F (Keyboard, ReturnAndSpacePressWhatTabHasReached)
 {
-    tabTo ("Infinite reverb");
-    stage.key ("return");
-    EXPECT_TRUE (component.getInfinite());
-    stage.key ("return");
-    EXPECT_FALSE (component.getInfinite());
-    component.undo();
-    EXPECT_TRUE (component.getInfinite()) << "each press is a step";
+    for (const auto* press : { "return", "spacebar" }) {
+        tabTo ("Time Structure");
+        stage.key (press);
+        EXPECT_EQ (tabs().getCurrentTabIndex(), 0);
+        tabTo ("Infinite reverb");
+        stage.key (press);
+        EXPECT_TRUE (component.getInfinite()) << press;
+        stage.key (press);
+        EXPECT_FALSE (component.getInfinite()) << press;
+        component.undo();
+        EXPECT_TRUE (component.getInfinite()) << "each press is a step";
+        component.undo();
 
-    component.setReverbGain (3);
-    tabTo ("filters");
-    stage.key ("return");
-    EXPECT_EQ (tabs().getCurrentTabIndex(), 1);
-    tabTo ("Early filter, high gain");
-    stage.key ("cursor up");
-    EXPECT_FLOAT_EQ (component.getEarlyFilter().Gh, 0.05f);
-    tabTo ("Reset the early filter");
-    stage.key ("return");
-    EXPECT_FLOAT_EQ (component.getEarlyFilter().Gh, 0);
+        tabTo ("filters");
+        stage.key (press);
+        EXPECT_EQ (tabs().getCurrentTabIndex(), 1) << press;
+        tabTo ("Early filter, high gain");
+        stage.key ("cursor up");
+        EXPECT_FLOAT_EQ (component.getEarlyFilter().Gh, 0.05f);
+        stage.key (press);
+        EXPECT_FLOAT_EQ (component.getEarlyFilter().Gh, 0.05f) << "a slider has nothing to press";
+        tabTo ("Reset the early filter");
+        stage.key (press);
+        EXPECT_FLOAT_EQ (component.getEarlyFilter().Gh, 0) << press;
+    }
 }
 
 TEST_F (Keyboard, ReturnAndSpacePressNothingAfterAClickOnAPictureOrASlider)

@@ -153,7 +153,9 @@ bool Plane::PressKey (PlaneComponent& plane, const juce::KeyPress& key)
 bool PlaneComponent::keyPressed (const juce::KeyPress& key)
 {
     juce::PopupMenu::dismissAllActiveMenus();
-    return PlaneBase::keyPressed (key) || Plane::PressKey (*this, key);
+    const bool taken = PlaneBase::keyPressed (key) || Plane::PressKey (*this, key);
+    SpeakSelection();
+    return taken;
 }
 
 void PlaneComponent::SendKeyCommand (int number)

@@ -1,7 +1,11 @@
-#include "gui/plane/SceneElements.h"
+#include "gui/plane/PlaneComponent.h"
+#include "gui/plane/painting/Drawing.h"
+#include "gui/plane/painting/Extents.h"
 
 namespace lumo
 {
+
+using namespace Plane;
 
 namespace
 {
@@ -11,8 +15,16 @@ struct Description
 {
     juce::String name;
     qel::Point3 position;
+    juce::Rectangle<int> icon;
     bool isVisible, isSelected;
 };
+
+template <typename Object>
+juce::Rectangle<int> iconOf (const PlaneComponent& plane, const Object& object)
+{
+    return SquareAt (object.screenPosition, SizeOf (object, plane.GetSurface().viewTransform))
+        .getSmallestIntegerContainer();
+}
 
 juce::String named (const char* kind, std::size_t index, const juce::String& label)
 {
@@ -24,13 +36,14 @@ juce::String named (const char* kind, std::size_t index, const juce::String& lab
 Description describeSource (const PlaneComponent& plane, std::size_t index)
 {
     const auto& source = plane.GetScene().sources[index];
-    return { named ("Source", index, source.label.Text()), source.position, source.visible, source.selected };
+    return { named ("Source", index, source.label.Text()), source.position, iconOf (plane, source), source.visible,
+             source.selected };
 }
 
 Description describeSpeaker (const PlaneComponent& plane, std::size_t index)
 {
     const auto& speaker = plane.GetScene().speakers[index];
-    return { named ("Speaker", index, speaker.name.Text()), speaker.position,
+    return { named ("Speaker", index, speaker.name.Text()), speaker.position, iconOf (plane, speaker),
              speaker.visible && plane.GetSurface().options.speakersVisible,
              plane.GetSelectedSpeaker() == static_cast<int> (index) };
 }
@@ -38,7 +51,8 @@ Description describeSpeaker (const PlaneComponent& plane, std::size_t index)
 Description describeListener (const PlaneComponent& plane, std::size_t)
 {
     const auto& listener = plane.GetListener();
-    return { "Listener", listener.position, listener.visible, plane.GetSurface().options.listenerSelected };
+    return { "Listener", listener.position, iconOf (plane, listener), listener.visible,
+             plane.GetSurface().options.listenerSelected };
 }
 
 void selectSource (PlaneComponent& plane, std::size_t index) { plane.SelectSourceAlone (index); }
@@ -59,16 +73,14 @@ constexpr Kind kinds[] = {
     { [] (const PlaneComponent&) { return std::size_t{ 1 }; }, describeListener, selectListener },
 };
 
-}
-
-class SceneElements::Element : public juce::Component
+/** One object. It is never visible: it draws nothing, and the mouse does not find it. */
+class Element : public juce::Component
 {
 public:
     Element (PlaneComponent& planeToDescribe, const Kind& kindOfObject, std::size_t indexOfObject)
         : plane (planeToDescribe), kind (kindOfObject), index (indexOfObject)
     {
-        setInterceptsMouseClicks (false, false);
-        plane.addAndMakeVisible (*this);
+        plane.addChildComponent (*this);
     }
 
 private:
@@ -102,10 +114,12 @@ private:
               element (elementToSpeakFor)
         {}
         juce::String getTitle() const override { return element.describe().name; }
+        /** Asked before anything else is, so that the rectangle is that of now as well. */
         juce::AccessibleState getCurrentState() const override
         {
             const auto described = element.describe();
-            // What has no size counts as out of sight, and is left out unless it says so.
+            element.setBounds (described.icon);
+            // What lies outside the view is left out unless it says so.
             const auto state = AccessibilityHandler::getCurrentState().withSelectable().withAccessibleOffscreen();
             if (! described.isVisible)
                 return state.withIgnored();
@@ -113,13 +127,10 @@ private:
         }
 
     private:
-        const Element& element;
+        Element& element;
     };
 
-    [[nodiscard]] Description describe() const
-    {
-        return index < kind.count (plane) ? kind.describe (plane, index) : Description{ {}, {}, false, false };
-    }
+    [[nodiscard]] Description describe() const { return kind.describe (plane, index); }
     void select() { kind.select (plane, index); }
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override
     {
@@ -131,13 +142,76 @@ private:
     const std::size_t index;
 };
 
-SceneElements::SceneElements (PlaneComponent& plane)
+/** The scene as a whole. Only a screen reader asks for its name, and then wants to hear of the objects too. */
+class SceneHandler : public juce::AccessibilityHandler
 {
-    for (const auto& kind : kinds)
-        for (std::size_t i = 0; i < kind.count (plane); ++i)
-            elements.push_back (std::make_unique<Element> (plane, kind, i));
+public:
+    SceneHandler (PlaneComponent& plane, std::function<void()> onAsked)
+        : AccessibilityHandler (plane, juce::AccessibilityRole::list), asked (std::move (onAsked))
+    {}
+    juce::String getTitle() const override
+    {
+        asked();
+        return AccessibilityHandler::getTitle();
+    }
+
+private:
+    std::function<void()> asked;
+};
+
+/** Finds the elements, in their order. */
+class ElementTraverser : public juce::FocusTraverser
+{
+public:
+    using Elements = juce::OwnedArray<juce::Component>;
+    explicit ElementTraverser (const Elements& elementsToFind) : elements (elementsToFind) {}
+    juce::Component* getDefaultComponent (juce::Component*) override { return elements.getFirst(); }
+    std::vector<juce::Component*> getAllComponents (juce::Component*) override
+    {
+        return { elements.begin(), elements.end() };
+    }
+
+private:
+    const Elements& elements;
+};
+
 }
 
-SceneElements::~SceneElements() = default;
+std::unique_ptr<juce::AccessibilityHandler> PlaneComponent::createAccessibilityHandler()
+{
+    return std::make_unique<SceneHandler> (*this, [this] { MakeElements(); });
+}
+
+std::unique_ptr<juce::ComponentTraverser> PlaneComponent::createFocusTraverser()
+{
+    MakeElements();
+    return std::make_unique<ElementTraverser> (elements);
+}
+
+void PlaneComponent::MakeElements()
+{
+    if (elements.isEmpty())
+        for (const auto& kind : kinds)
+            for (std::size_t i = 0; i < kind.count (*this); ++i)
+                elements.add (new Element (*this, kind, i));
+}
+
+/** Moves a screen reader that has met the elements to the first selected one, so that it speaks where that is now. */
+void PlaneComponent::SpeakSelection()
+{
+    if (elements.isEmpty() || ! hasKeyboardFocus (false))
+        return;
+    auto* spoken = getAccessibilityHandler();
+    for (auto* element : elements)
+        if (auto* handler = element->getAccessibilityHandler();
+            handler != nullptr && handler->getCurrentState().isSelected()) {
+            spoken = handler;
+            break;
+        }
+    if (spoken == nullptr)
+        return;
+    spoken->grabFocus();
+    spoken->notifyAccessibilityEvent (juce::AccessibilityEvent::valueChanged);
+}
 
 }
