@@ -285,14 +285,6 @@ def write(path, content):
     path.write_text(json.dumps(content, indent=1) + "\n", encoding="utf-8")
 
 
-def write_lookup(folder):
-    """What the host's search of objects shows, and the patchers that it leaves out."""
-    about = help_content.LOOKUP
-    write(folder / "halcyra-obj-qlookup.json", {OBJECT: about})
-    helpers = sorted([*help_content.EXAMPLES, "Halcyra Overview", *help_content.CLIPPINGS])
-    write(folder / "max.db.json", {"exclude": [f"{name}.maxpat" for name in helpers]})
-
-
 def main():
     if len(sys.argv) != 2:
         sys.exit(f"usage: {sys.argv[0]} FOLDER")
@@ -303,7 +295,8 @@ def main():
         write(folder / "examples" / f"{name}.maxpat", single(content))
     for name, content in help_content.CLIPPINGS.items():
         write(folder / "clippings" / "Halcyra" / f"{name}.maxpat", single(content))
-    write_lookup(folder / "interfaces")
+    # What the host's search of objects shows.
+    write(folder / "interfaces" / "halcyra-obj-qlookup.json", {OBJECT: help_content.LOOKUP})
 
 
 if __name__ == "__main__":
