@@ -10,37 +10,31 @@ namespace spoken
 
 using Role = juce::AccessibilityRole;
 
-/** The roles that a person operates or reads; "" for any other. */
-inline const char* nameOf (Role role)
+/** The roles that a person meets, and which of them can be changed or hold a value. */
+struct RoleRow
 {
-    switch (role) {
-    case Role::slider:
-        return "slider";
-    case Role::toggleButton:
-        return "switch";
-    case Role::radioButton:
-        return "tab";
-    case Role::button:
-        return "button";
-    case Role::image:
-        return "image";
-    case Role::list:
-        return "list";
-    case Role::listItem:
-        return "item";
-    case Role::group:
-        return "group";
-    default:
-        return "";
-    }
+    Role role;
+    const char* name;
+    bool isControl;
+};
+
+constexpr RoleRow roles[] = {
+    { Role::slider, "slider", true }, { Role::toggleButton, "switch", true }, { Role::radioButton, "tab", true },
+    { Role::button, "button", true }, { Role::listItem, "item", true },       { Role::image, "image", false },
+    { Role::list, "list", false },    { Role::group, "group", false },
+};
+
+/** A row without a name for any other role. */
+constexpr RoleRow rowOf (Role role)
+{
+    for (const auto& row : roles)
+        if (row.role == role)
+            return row;
+    return { role, "", false };
 }
 
-/** Whether a person can change it, or read a value off it. */
-inline bool isControl (Role role)
-{
-    return role == Role::slider || role == Role::toggleButton || role == Role::radioButton || role == Role::button ||
-           role == Role::listItem;
-}
+constexpr const char* nameOf (Role role) { return rowOf (role).name; }
+constexpr bool isControl (Role role) { return rowOf (role).isControl; }
 
 inline juce::String valueOf (const juce::AccessibilityHandler& handler)
 {
