@@ -347,6 +347,11 @@ KEYS = {
                 ("say", "With a source selected: shift raises or lowers it; with the apertures shown, ctrl changes the aperture and alt turns the source."),
                 ("say", "With the listener selected and editable: alt turns it."),
             ]),
+            ("Keys of the other tabs", [
+                ("say", "tab, shift + tab: the next control, the one before"),
+                ("say", "arrows: change a slider by a step, with shift by ten"),
+                ("say", "return, space: press a button or a switch"),
+            ]),
         ],
         [
             ("Keys", [
@@ -361,7 +366,6 @@ KEYS = {
                 ("say", "+ and -: zoom;  = goes back to 1"),
                 ("say", "arrows: shift the view"),
                 ("say", "ctrl + w: closes the window, from the first two tabs"),
-                ("say", "other tabs: tab and shift + tab walk through the controls, arrows change a slider by a step, with shift by ten, return or space presses a button"),
                 ("say", "ctrl + z: undoes the last gesture of the hand, on every page; ctrl + shift + z or ctrl + y does it again"),
             ]),
             ("Start", [
@@ -464,7 +468,7 @@ FIRST_STEPS = {
     "title": "First steps",
     "digest": "One object, a few settings, and a chain of two: what the first one sends, the second understands.",
     "object": "halcyra~.control @numsources 2 @numspeakers 2",
-    "remark": "put halcyra~ where the print is",
+    "remark": "its left outlet goes to halcyra~",
     "columns": [
         [
             ("A small room and a large one", [

@@ -12,7 +12,6 @@ namespace
 
 using spoken::nameOf, spoken::Role, spoken::valueOf;
 using testing::Contains;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
@@ -191,7 +190,7 @@ TEST_F (Accessibility, EditsAsTheHandDoesOneStepAtATime)
     EXPECT_FLOAT_EQ (component.getDirectFilter().fl, 2000);
 }
 
-// ---- By keyboard
+// ---- By keyboard; tests/transcripts/keyboard-walk.bench walks through everything
 
 class Keyboard : public testing::Test
 {
@@ -218,79 +217,6 @@ protected:
     Stage stage{ component };
 };
 
-/** Everything that the tab key reaches, twice round, and back again. */
-TEST_F (Keyboard, ReachesEveryControlOfEveryPageInTheOrderOfItsRows)
-{
-    const char* const tabNames[] = { "Time Structure", "filters", "Ambrel" };
-    const juce::StringArray expected[] = {
-        { "Impulse response",
-          "Room size",
-          "Decay time",
-          "Decay time ratio, low",
-          "Decay time ratio, middle",
-          "Decay time ratio, high",
-          "Decay crossover, low",
-          "Decay crossover, high",
-          "Early start",
-          "Early end",
-          "Early distribution",
-          "Early shape",
-          "Early width",
-          "Cluster start",
-          "Cluster end",
-          "Cluster distribution",
-          "Reverb start",
-          "Modal density",
-          "Reverb gain",
-          "Air absorption",
-          "Air absorption frequency",
-          "Infinite reverb",
-          "Reset the time structure" },
-        {},
-        { "Scene" },
-    };
-    for (int page = 0; page < 3; ++page) {
-        tabs().setCurrentTabIndex (page);
-        auto stops = expected[page];
-        if (page == 1)
-            for (const auto* filter : { "Direct", "Room", "Early", "Cluster" }) {
-                for (const auto& row : halcyra::shelfTable)
-                    stops.add (juce::String (filter) + " filter, " + row.spoken);
-                stops.add ("Reset the " + juce::String (filter).toLowerCase() + " filter");
-            }
-        for (const auto* name : tabNames)
-            stops.add (name);
-        tabTo (stops[stops.size() - 1]);
-        for (int round = 0; round < 2; ++round)
-            for (const auto& stop : stops) {
-                stage.key (focused() == "Scene" ? "ctrl + tab" : "tab");
-                ASSERT_EQ (focused(), stop) << "page " << page;
-            }
-        for (int i = stops.size() - 2; i >= 0; --i) {
-            stage.key ("shift + tab");
-            ASSERT_EQ (focused(), stops[i]) << "backwards on page " << page;
-        }
-    }
-}
-
-TEST_F (Keyboard, ChangesANumberByOneStepOrTenAndEachPressIsUndone)
-{
-    tabTo ("Early width");
-    stage.key ("cursor right");
-    EXPECT_FLOAT_EQ (component.getEarlyWidth(), 30.1f);
-    stage.key ("shift + cursor up");
-    EXPECT_FLOAT_EQ (component.getEarlyWidth(), 31.1f);
-    stage.key ("cursor down");
-    EXPECT_FLOAT_EQ (component.getEarlyWidth(), 31);
-    stage.key ("shift + cursor left");
-    for (const float expected : { 31.0f, 31.1f, 30.1f, 30.0f }) {
-        stage.key ("ctrl + z");
-        EXPECT_FLOAT_EQ (component.getEarlyWidth(), expected);
-    }
-    stage.key ("ctrl + y");
-    EXPECT_FLOAT_EQ (component.getEarlyWidth(), 30.1f);
-}
-
 TEST_F (Keyboard, KeysAndTheWheelOnOneControlAreStepsOfTheirOwn)
 {
     tabTo ("Early width");
@@ -307,35 +233,6 @@ TEST_F (Keyboard, KeysAndTheWheelOnOneControlAreStepsOfTheirOwn)
     EXPECT_FLOAT_EQ (component.getEarlyWidth(), wheeled);
     component.undo();
     EXPECT_FLOAT_EQ (component.getEarlyWidth(), 30);
-}
-
-TEST_F (Keyboard, ReturnAndSpacePressWhatTabHasReached)
-{
-    for (const auto* press : { "return", "spacebar" }) {
-        tabTo ("Time Structure");
-        stage.key (press);
-        EXPECT_EQ (tabs().getCurrentTabIndex(), 0);
-        tabTo ("Infinite reverb");
-        stage.key (press);
-        EXPECT_TRUE (component.getInfinite()) << press;
-        stage.key (press);
-        EXPECT_FALSE (component.getInfinite()) << press;
-        component.undo();
-        EXPECT_TRUE (component.getInfinite()) << "each press is a step";
-        component.undo();
-
-        tabTo ("filters");
-        stage.key (press);
-        EXPECT_EQ (tabs().getCurrentTabIndex(), 1) << press;
-        tabTo ("Early filter, high gain");
-        stage.key ("cursor up");
-        EXPECT_FLOAT_EQ (component.getEarlyFilter().Gh, 0.05f);
-        stage.key (press);
-        EXPECT_FLOAT_EQ (component.getEarlyFilter().Gh, 0.05f) << "a slider has nothing to press";
-        tabTo ("Reset the early filter");
-        stage.key (press);
-        EXPECT_FLOAT_EQ (component.getEarlyFilter().Gh, 0) << press;
-    }
 }
 
 TEST_F (Keyboard, ReturnAndSpacePressNothingAfterAClickOnAPictureOrASlider)
@@ -365,64 +262,6 @@ TEST_F (Keyboard, ReturnAndSpacePressNothingAfterAClickOnAPictureOrASlider)
             EXPECT_EQ (tabs().getCurrentTabIndex(), page);
         }
     }
-}
-
-TEST_F (Keyboard, MovesTheSelectionOfTheScene)
-{
-    tabs().setCurrentTabIndex (2);
-    auto& plane = *component.getPlane();
-    plane.SetSourcePosition (0, { 0, 0, 0 }, true);
-    plane.SetSpeakerPosition (0, { 1, 1, 0 }, true);
-    tabTo ("Scene");
-    struct Row
-    {
-        const char* key;
-        qel::Point3 top, front;
-    };
-    const Row rows[] = {
-        { "alt + cursor right", { 0.1f, 0, 0 }, { 0.1f, 0, 0 } },
-        { "alt + cursor left", { -0.1f, 0, 0 }, { -0.1f, 0, 0 } },
-        { "alt + cursor up", { 0, 0.1f, 0 }, { 0, 0, 0.1f } },
-        { "alt + cursor down", { 0, -0.1f, 0 }, { 0, 0, -0.1f } },
-        { "alt + page up", { 0, 0, 0.1f }, { 0, 0.1f, 0 } },
-        { "shift + alt + page down", { 0, 0, -1 }, { 0, -1, 0 } },
-        { "shift + alt + cursor up", { 0, 1, 0 }, { 0, 0, 1 } },
-        { "shift + alt + cursor left", { -1, 0, 0 }, { -1, 0, 0 } },
-    };
-    stage.key ("tab"); // the first source
-    for (const bool topView : { true, false }) {
-        plane.SetTopView (topView);
-        for (const auto& row : rows) {
-            stage.key (row.key);
-            const auto expected = topView ? row.top : row.front;
-            EXPECT_FLOAT_EQ (plane.GetSourcePosition (0).x, expected.x) << row.key;
-            EXPECT_FLOAT_EQ (plane.GetSourcePosition (0).y, expected.y) << row.key;
-            EXPECT_FLOAT_EQ (plane.GetSourcePosition (0).z, expected.z) << row.key;
-            stage.key ("ctrl + z");
-            EXPECT_FLOAT_EQ (plane.GetSourcePosition (0).x, 0) << "undone: " << row.key;
-            EXPECT_FLOAT_EQ (plane.GetSourcePosition (0).z, 0) << "undone: " << row.key;
-        }
-    }
-    plane.SetSpeakersEditable (true, true);
-    stage.key ("alt + home");
-    EXPECT_EQ (plane.GetSelectedSpeaker(), 0);
-    stage.key ("alt + cursor right");
-    EXPECT_FLOAT_EQ (plane.GetSpeakerPosition (0).x, 1.1f);
-    plane.SetListenerEditable (true);
-    stage.key ("alt + end");
-    stage.key ("alt + cursor right");
-    EXPECT_FLOAT_EQ (plane.GetListenerPosition().x, 0.1f);
-    EXPECT_FLOAT_EQ (plane.GetSpeakerPosition (0).x, 1.1f);
-    EXPECT_FLOAT_EQ (plane.GetSourcePosition (0).x, 0);
-
-    plane.SetTopView (true);
-    plane.SetSourcePosition (0, { 2, 0, 0 }, true);
-    plane.SetCircularConstraint (true);
-    stage.key ("tab");
-    stage.key ("alt + cursor up");
-    const auto& turned = plane.GetSourcePosition (0);
-    EXPECT_GT (turned.y, 0.05f);
-    EXPECT_NEAR (std::hypot (turned.x, turned.y), 2, 1e-5) << "the circle is kept";
 }
 
 TEST_F (Keyboard, ShowsWhereItIsOnlyWhenItIsInUse)
