@@ -18,7 +18,7 @@ WORDS = {
     "use the controls, messages, the inspector, or write them into the box": "use messages, or write them into the box with an @",
     "neither pattr nor preset nor the patcher saves them": "the patch does not save them",
     "1: scene messages wait for the main thread. Use it when they come from a metro in overdrive": "has no effect in Pd, which has one thread",
-    "put halcyra~ where the print is": "put halcyra~ or halcyra-listen~ where the print is",
+    "its left outlet goes to halcyra~": "its left outlet goes to halcyra~ or halcyra-listen~",
     "a separate object.": "a separate object, or to halcyra-listen~, an aid for the ear.",
     "asks where. A file name may follow": "asks where. A file name may follow, relative to the patch",
     "0., 1. 4000": "0, 1 4000",
