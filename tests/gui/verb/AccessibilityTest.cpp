@@ -1,6 +1,6 @@
 #include "gui/verb/HalcyraComponent.h"
 #include "host/bench/window/GuiPump.h"
-#include "max/window/OffscreenPeer.h"
+#include "host/desktop/OffscreenPeer.h"
 #include "support/SpokenTree.h"
 #include "support/Stage.h"
 
