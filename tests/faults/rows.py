@@ -345,7 +345,7 @@ ROWS = [
 ]
 
 # The rows that were planted and seen caught: CI plays five of them. Add a row's number once you have seen it caught.
-CAUGHT = [0, 1, 8, 11, 12, 13, 14, 21, 26, 27, 29, 32, 65, 66, 68, 108, 174, 177, 178]
+CAUGHT = [0, 1, 8, 11, 12, 13, 14, 21, 26, 27, 29, 32, 65, 66, 68, 108, 174, 175, 176, 177, 178]
 
 # Rows that no test catches, with the reason; CI does not play them.
 SURVIVORS = {}
