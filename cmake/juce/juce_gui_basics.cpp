@@ -21,9 +21,10 @@ struct VBlankTimer
 Timer& vBlankTimerOf (LinuxComponentPeer& peer);
 template struct VBlankTimer<&LinuxComponentPeer::vBlankManager>;
 
-/** JUCE's peer ticks at the screen's rate for as long as it lives. This one stops when nothing has been painted for a
-    while, and goes on with the next request to repaint. */
-class RestingPeer : public LinuxComponentPeer, private ComponentPeer::VBlankListener
+/** JUCE's peer ticks at the screen's rate for as long as it lives, which wakes a thread of timers and the main thread
+    whether anything changed or not. This one paints when it is asked to: behind what already waits in the message
+    queue, or when the screen is next due if a frame was painted just before. Message thread. */
+class RestingPeer : public LinuxComponentPeer, private AsyncUpdater, private ComponentPeer::VBlankListener
 {
 public:
     RestingPeer (Component& component, int styleFlags) : LinuxComponentPeer (component, styleFlags, {})
@@ -34,26 +35,57 @@ public:
 
     void repaint (const Rectangle<int>& area) override
     {
-        lastRepaint = Time::getMillisecondCounter();
-        if (auto& timer = vBlankTimerOf (*this); ! timer.isTimerRunning() && interval > 0)
-            timer.startTimer (interval);
         LinuxComponentPeer::repaint (area);
+        if (std::exchange (frameIsAsked, true))
+            return;
+        if (const auto wait = due - Time::getMillisecondCounterHiRes(); wait > 0)
+            tick (static_cast<int> (std::ceil (wait)));
+        else
+            triggerAsyncUpdate();
     }
 
 private:
     /** In ms; longer than the 3 s after which JUCE drops the image that it paints into. */
-    static constexpr uint32 rest = 3500;
+    static constexpr int rest = 3500;
 
-    void onVBlank() override
+    [[nodiscard]] Timer& timer() { return vBlankTimerOf (*this); }
+
+    void tick (int milliseconds)
     {
-        auto& timer = vBlankTimerOf (*this);
-        interval = timer.getTimerInterval();
-        if (Time::getMillisecondCounter() - lastRepaint > rest)
-            timer.stopTimer();
+        ticks = milliseconds;
+        timer().startTimer (milliseconds);
     }
 
-    uint32 lastRepaint = Time::getMillisecondCounter();
-    int interval = 0;
+    void handleAsyncUpdate() override { timer().timerCallback(); }
+
+    /** A frame begins: JUCE goes on to paint what was asked for, unless the server still reads the last one. */
+    void onVBlank() override
+    {
+        if (const int set = timer().getTimerInterval(); set != ticks)
+            interval = set; // by JUCE, for the screen that the window is on
+        const auto now = Time::getMillisecondCounterHiRes();
+        auto& windows = *XWindowSystem::getInstance();
+        windows.processPendingPaintsForWindow (getWindowHandle());
+        if (windows.getNumPaintsPendingForWindow (getWindowHandle()) > 0)
+            return tick (interval);
+        if (std::exchange (frameIsAsked, false))
+            due = jmax (due, now - interval) + interval; // keeps the rate although hands are uneven
+        else if (now - due > rest)
+            return stop();
+        if (timer().getTimerInterval() != rest)
+            tick (rest);
+    }
+
+    void stop()
+    {
+        ticks = 0;
+        timer().stopTimer();
+    }
+
+    double due = 0;    // when the next frame may be painted, in ms
+    int interval = 10; // of the screen's frames, in ms
+    int ticks = 0;     // what the timer was last set to here, in ms
+    bool frameIsAsked = false;
 };
 
 ComponentPeer* createRestingPeer (Component& component, int styleFlags)

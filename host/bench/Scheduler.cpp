@@ -109,6 +109,8 @@ void Scheduler::advance (int milliseconds)
     {
         const std::lock_guard<std::mutex> lock (mutex);
         now += milliseconds;
+        if (! hasDue())
+            return;
     }
     changed.notify_all();
 }
