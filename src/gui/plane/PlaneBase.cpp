@@ -81,8 +81,10 @@ void PlaneBase::SettingChanged()
 void PlaneBase::BeginFrame (const juce::Graphics& g)
 {
     surface.pixels = PixelGrid::Of (*this, g);
-    if (! surface.icons)
+    if (! surface.icons) {
         surface.icons.emplace();
+        surface.lines.emplace();
+    }
 }
 
 void PlaneBase::SetNumber (float& stored, float value)
@@ -106,6 +108,7 @@ void PlaneBase::parentHierarchyChanged()
         return;
     staticCache.Release();
     surface.icons.reset();
+    surface.lines.reset();
 }
 
 void PlaneBase::UpdateTransform()

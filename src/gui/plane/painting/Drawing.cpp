@@ -1,7 +1,6 @@
 #include "gui/plane/painting/Drawing.h"
 
 #include "geometry/OrvaneDspSpherical.h"
-#include "gui/plane/LumoComponent.h"
 #include "gui/plane/Text.h"
 #include "gui/plane/painting/Extents.h"
 
@@ -42,10 +41,11 @@ juce::String CoordinatesText (const qel::Point3& position, const Surface& surfac
     return juce::String (static_cast<int> (Orientation::WrapDegrees (degrees)));
 }
 
-void DrawCoordinates (juce::Graphics& g, const qel::Point3& position, juce::Rectangle<int> area, const Surface& surface)
+void DrawCoordinates (juce::Graphics& g, const qel::Point3& position, juce::Rectangle<int> area, juce::Colour colour,
+                      const Surface& surface)
 {
-    g.setFont (lumo::Component::MakeFont (10.0f));
-    g.drawText (CoordinatesText (position, surface), area, juce::Justification::centred, true);
+    const Caption::Style style{ 10, false, static_cast<float> (area.getWidth()) };
+    surface.lines->get().Draw (g, CoordinatesText (position, surface), style, colour, area.getCentre(), surface.pixels);
 }
 
 void DrawIcon (juce::Graphics& g, const Icon& icon, juce::Point<float> centre, float size, const Surface& surface)

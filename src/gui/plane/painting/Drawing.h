@@ -19,7 +19,7 @@ void DrawTextAt (juce::Graphics& g, const juce::String& text, juce::Point<float>
 [[nodiscard]] juce::String MetresText (float metres, int decimals);
 /** "(x,y,z)" in metres; with the circular constraint the angle that a drag changes, in whole degrees. */
 [[nodiscard]] juce::String CoordinatesText (const qel::Point3& position, const Surface& surface);
-void DrawCoordinates (juce::Graphics& g, const qel::Point3& position, juce::Rectangle<int> area,
+void DrawCoordinates (juce::Graphics& g, const qel::Point3& position, juce::Rectangle<int> area, juce::Colour colour,
                       const Surface& surface);
 
 void DrawIcon (juce::Graphics& g, const Icon& icon, juce::Point<float> centre, float size, const Surface& surface);

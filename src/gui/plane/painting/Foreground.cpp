@@ -90,10 +90,9 @@ void DrawSelection (juce::Graphics& g, const Source& source, float size, const S
 {
     g.setColour (juce::Colours::white);
     g.drawRect (SquareAt (source.screenPosition, size), 2.0f);
-    if (! source.coordinatesVisible)
-        return;
-    g.setColour (juce::Colours::black);
-    DrawCoordinates (g, source.position, CoordinatesOf (source, surface.viewTransform), surface);
+    if (source.coordinatesVisible)
+        DrawCoordinates (g, source.position, CoordinatesOf (source, surface.viewTransform), juce::Colours::black,
+                         surface);
 }
 
 void DrawSources (juce::Graphics& g, const Surface& surface, const Scene& scene)

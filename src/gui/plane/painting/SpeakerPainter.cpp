@@ -27,8 +27,8 @@ void DrawSelection (juce::Graphics& g, const Speaker& speaker, float size, const
 {
     g.setColour (juce::Colours::red);
     g.drawRoundedRectangle (SquareAt (speaker.screenPosition, size), 2.0f, 2.0f);
-    g.setColour (juce::Colours::white);
-    DrawCoordinates (g, speaker.position, CoordinatesOf (speaker, surface.viewTransform), surface);
+    DrawCoordinates (g, speaker.position, CoordinatesOf (speaker, surface.viewTransform), juce::Colours::white,
+                     surface);
 }
 
 }

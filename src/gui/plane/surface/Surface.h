@@ -2,6 +2,7 @@
 #include "gui/plane/PlaneOptions.h"
 #include "gui/plane/icons/IconStore.h"
 #include "gui/plane/objects/Listener.h"
+#include "gui/plane/painting/LineStore.h"
 #include "gui/plane/surface/Axis.h"
 #include "gui/plane/surface/BackgroundImage.h"
 #include "gui/plane/surface/Grid.h"
@@ -33,6 +34,7 @@ struct Surface
     // How it is painted, up to date whenever it is.
     PixelGrid pixels;
     std::optional<juce::SharedResourcePointer<IconStore>> icons;
+    std::optional<juce::SharedResourcePointer<LineStore>> lines;
 };
 
 }
