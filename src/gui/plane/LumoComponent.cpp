@@ -41,7 +41,7 @@ public:
         setPaintingIsUnclipped (true);
         owner.addAndMakeVisible (*this, 0);
     }
-    void paint (juce::Graphics&) override { owner.BeginPaintTiming(); }
+    void paint (juce::Graphics& g) override { owner.frameBegins (g.getClipBounds()); }
 
 private:
     lumo::Component& owner;
@@ -115,9 +115,19 @@ void Component::SetShowFps (bool show)
     if (showFps == show)
         return;
     showFps = show;
-    isTiming = false;
+    isTiming = overlayIsDue = paintsOverlayAlone = false;
     frameMark = show ? std::make_unique<FrameMark> (*this) : nullptr;
     repaint();
+}
+
+/** A frame that was asked for to refresh the overlay, and shows nothing else, is not one of those that it counts. */
+void Component::frameBegins (juce::Rectangle<int> area)
+{
+    paintsOverlayAlone = std::exchange (overlayIsDue, false) && overlayArea().contains (area);
+    if (paintsOverlayAlone)
+        isTiming = false;
+    else
+        BeginPaintTiming();
 }
 
 void Component::BeginPaintTiming() noexcept
@@ -186,6 +196,10 @@ void Component::paintOverChildren (juce::Graphics& g)
     if (! showFps || (parent != nullptr && dynamic_cast<const juce::TopLevelWindow*> (parent) == nullptr))
         return;
     const auto area = overlayArea();
+    if (! std::exchange (paintsOverlayAlone, false)) { // this frame may hold a part of it, or none
+        overlayIsDue = true;
+        repaint (area);
+    }
     g.setColour (juce::Colours::white.withAlpha (0.5f));
     g.fillRect (area);
 

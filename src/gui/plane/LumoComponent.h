@@ -63,6 +63,7 @@ private:
     };
 
     [[nodiscard]] juce::Rectangle<int> overlayArea() const;
+    void frameBegins (juce::Rectangle<int> area);
     void applyLookAndFeel();
     void attachOpenGL();
 
@@ -74,6 +75,7 @@ private:
     bool openGLIsWanted = false;
     bool showFps = false;
     bool isTiming = false;
+    bool overlayIsDue = false, paintsOverlayAlone = false; // the overlay is painted once more after each frame
     double paintStartTime = 0, renderTime = 0, frameRate = 0, lastPaintTime = 0;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (Component)

@@ -1,4 +1,5 @@
 #include "gui/plane/LumoComponent.h"
+#include "support/ImageDifference.h"
 #include "support/Stage.h"
 
 #include <gtest/gtest.h>
@@ -109,6 +110,22 @@ TEST (LumoComponent, ShowsTheOverlayInTheTopRightQuarterOfASmallWindow)
     EXPECT_NEAR (shown.getPixelAt (398, 48).getRed(), 128, 2);
     EXPECT_EQ (shown.getPixelAt (298, 1), juce::Colours::black);
     EXPECT_EQ (shown.getPixelAt (398, 52), juce::Colours::black);
+}
+
+TEST (LumoComponent, AFrameElsewhereRefreshesTheOverlayInOneThatIsNotCounted)
+{
+    Covered component;
+    Stage stage (component);
+    component.SetShowFps (true);
+    (void)stage.picture();
+    const auto before = stage.picture();
+    component.cover.repaint (10, 150, 20, 20);
+    (void)stage.picture();
+    const double rate = component.GetFrameRate();
+    EXPECT_GT (rate, 0);
+    const auto after = stage.picture();
+    EXPECT_EQ (component.GetFrameRate(), rate);
+    EXPECT_TRUE (differIn ({ 300, 0, 100, 50 }, before, after)) << "it shows the new rate";
 }
 
 TEST (LumoComponent, AnEmbeddedOneShowsNoOverlay)
