@@ -1,7 +1,7 @@
 #include "PlaneOnStage.h"
-#include "ScaledScreen.h"
 #include "gui/plane/painting/Foreground.h"
 #include "gui/plane/painting/StaticLayer.h"
+#include "support/ScaledScreen.h"
 
 #include <random>
 
@@ -29,6 +29,19 @@ int FarthestLevels (const juce::Image& a, const juce::Image& b, int* beyondTwo =
 
 /** The whole plane anew, its static layer too. */
 void RepaintAll (PlaneComponent& plane) { plane.SetGridColour (plane.GetSurface().grid.colour, false); }
+
+/** What is shown after changes is what the whole plane, painted anew, shows. The renderer cuts a 256th off what crosses
+    the right edge of a clip: where many shapes lie one over the other, that may add up to a level more. */
+void ExpectAWholeRepaintShowsTheSame (PlaneComponent& plane, ScaledScreen& screen, const std::string& when)
+{
+    const auto incremental = screen.Picture().createCopy();
+    plane.RequestAutoZoom (false); // each frame would try another zoom
+    RepaintAll (plane);
+    screen.Frame();
+    int beyondTwo = 0;
+    ASSERT_LE (FarthestLevels (incremental, screen.Picture(), &beyondTwo), 4) << when;
+    ASSERT_LE (beyondTwo, 24) << when;
+}
 
 class Chance
 {
@@ -207,18 +220,67 @@ TEST (PlaneRepaint, ShowsWhatAWholeRepaintWouldShow)
                 screen.Frame();
             }
             screen.Frame(); // an automatic zoom may ask for one more
-            const auto incremental = screen.Picture().createCopy();
-            plane.RequestAutoZoom (false); // each frame would try another zoom
-            RepaintAll (plane);
-            screen.Frame();
-            int beyondTwo = 0;
-            const int farthest = FarthestLevels (incremental, screen.Picture(), &beyondTwo);
-            // The renderer cuts a 256th off what crosses the right edge of a clip: where many shapes lie one over the
-            // other, that may add up to a level more.
-            ASSERT_LE (farthest, 4) << "seed " << seed << ", round " << round;
-            ASSERT_LE (beyondTwo, 24) << "seed " << seed << ", round " << round;
+            ASSERT_NO_FATAL_FAILURE (ExpectAWholeRepaintShowsTheSame (
+                plane, screen, "seed " + std::to_string (seed) + ", round " + std::to_string (round)));
         }
     }
+}
+
+namespace
+{
+
+struct Extreme
+{
+    const char* name;
+    void (*prepare) (PlaneComponent&);
+};
+
+void MoveAllTo (PlaneComponent& plane, const qel::Point3& point)
+{
+    for (std::size_t i = 0; i < plane.GetNumSources(); ++i)
+        plane.SetSourcePosition (i, point, false);
+    for (std::size_t i = 0; i < plane.GetNumSpeakers(); ++i)
+        plane.SetSpeakerPosition (i, point, false);
+}
+
+const Extreme extremes[] = {
+    { "all on one point",
+      [] (PlaneComponent& p) {
+          MoveAllTo (p, { 0.3f, 0.2f, 0 });
+      } },
+    { "all as far away as there is",
+      [] (PlaneComponent& p) {
+          MoveAllTo (p, { 1e38f, -1e38f, 1e38f });
+      } },
+    { "all just out of sight",
+      [] (PlaneComponent& p) {
+          MoveAllTo (p, { 1.12f, 0, 0 });
+      } },
+    { "the least zoom", [] (PlaneComponent& p) { p.SetZoom (0, true); } },
+    { "the greatest zoom", [] (PlaneComponent& p) { p.SetZoom (1000, true); } },
+    { "one pixel", [] (PlaneComponent& p) { p.setSize (1, 1); } },
+};
+
+}
+
+TEST (PlaneRepaint, ShowsWhatAWholeRepaintWouldShowAtTheExtremes)
+{
+    for (const auto& row : extremes)
+        for (const float scale : { 1.0f, 1.25f }) {
+            PlaneComponent plane (64, 64, 200);
+            plane.SetSpeakersEditable (true, false);
+            row.prepare (plane);
+            ScaledScreen screen (plane, scale);
+            const auto start = plane.GetSourcePosition (7);
+            const qel::Point3 step{ 0.05f, 0.03f, 0 };
+            for (std::size_t i = 0; i < 5; ++i) {
+                plane.SetSourcePosition (i, start + step, true);
+                plane.SetSpeakerPosition (i, start + step, true);
+                screen.Frame();
+                ASSERT_NO_FATAL_FAILURE (ExpectAWholeRepaintShowsTheSame (plane, screen, row.name));
+            }
+            EXPECT_EQ (plane.GetSourcePosition (4), start + step) << row.name;
+        }
 }
 
 namespace
@@ -366,4 +428,25 @@ TEST (PlaneRepaint, TheStaticLayerIsSharpAtEveryScale)
         FarthestLevels (screen.Picture(), drawn, &different);
         EXPECT_LT (different, 0.01 * drawn.getWidth() * drawn.getHeight()) << scale; // of three channels a pixel
     }
+}
+
+/** A window may be dragged, or a cable pulled, while a hand holds a source. */
+TEST (PlaneRepaint, ADragGoesOnWhenTheWindowComesToAScreenOfAnotherScale)
+{
+    SparsePlane sparse;
+    auto& plane = sparse.plane;
+    ScaledScreen screen (plane, 1);
+    const auto at = plane.GetSurface().viewTransform.ToScreen (plane.GetSourcePosition (0));
+    plane.mouseDown (EventAt (plane, at));
+    screen.Frame();
+    int step = 0;
+    for (const float scale : { 1.5f, 1.25f, 2.0f, 1.0f }) {
+        plane.mouseDrag (EventAt (plane, at + juce::Point<float> (2, 3.3f) * ++step));
+        screen.MoveToScale (scale);
+        plane.mouseDrag (EventAt (plane, at + juce::Point<float> (2, 3.3f) * ++step));
+        EXPECT_LT (AreaOf (screen.Frame()), 400 * 400 / 8) << scale;
+        ASSERT_NO_FATAL_FAILURE (ExpectAWholeRepaintShowsTheSame (plane, screen, std::to_string (scale)));
+    }
+    const auto end = plane.GetSurface().viewTransform.ToScreen (plane.GetSourcePosition (0));
+    EXPECT_LT (end.getDistanceFrom (at + juce::Point<float> (2, 3.3f) * step), 0.01f);
 }

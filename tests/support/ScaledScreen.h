@@ -9,7 +9,7 @@ class ScaledScreen
 {
 public:
     ScaledScreen (juce::Component& shownComponent, float screenScale, juce::Point<int> place = { 7, 13 })
-        : shown (shownComponent), scale (screenScale)
+        : shown (shownComponent)
     {
         window.setSize (place.x + shown.getWidth() + 9, place.y + shown.getHeight() + 5);
         window.setOpaque (true);
@@ -17,6 +17,17 @@ public:
         window.setCachedComponentImage (new Hearing (dirty));
         shown.setTopLeftPosition (place);
         window.addAndMakeVisible (shown);
+        MoveToScale (screenScale);
+    }
+    ~ScaledScreen() { window.removeChildComponent (&shown); }
+
+    ScaledScreen (const ScaledScreen&) = delete;
+    ScaledScreen& operator= (const ScaledScreen&) = delete;
+
+    /** The window goes to a screen of another scale, which shows it at once. */
+    void MoveToScale (float screenScale)
+    {
+        scale = screenScale;
         const auto extent = [&] (int length) {
             return static_cast<int> (std::ceil (static_cast<float> (length) * scale));
         };
@@ -25,10 +36,6 @@ public:
         dirty = window.getLocalBounds();
         Frame();
     }
-    ~ScaledScreen() { window.removeChildComponent (&shown); }
-
-    ScaledScreen (const ScaledScreen&) = delete;
-    ScaledScreen& operator= (const ScaledScreen&) = delete;
 
     /** Gives what was repainted, in pixels of the component. */
     juce::RectangleList<int> Frame()
@@ -71,7 +78,7 @@ private:
     };
 
     juce::Component& shown;
-    const float scale;
+    float scale = 1;
     juce::RectangleList<int> dirty;
     Window window;
     juce::Image image;
