@@ -93,7 +93,7 @@ HalcyraTimeStructureTabComponent::~HalcyraTimeStructureTabComponent() { model.re
 void HalcyraTimeStructureTabComponent::makeGroups()
 {
     for (const auto& row : halcyra::timeStructureGroups) {
-        auto& group = *groups.emplace_back (std::make_unique<juce::GroupComponent> (row.name, row.text));
+        auto& group = *groups.emplace_back (std::make_unique<Group> (row.name, row.text));
         group.setColour (juce::GroupComponent::textColourId, juce::Colours::black);
         group.setBounds (row.box.rectangle());
         group.setAccessible (false); // the names of the controls say where they belong
@@ -316,3 +316,10 @@ void HalcyraTimeStructureTabComponent::resized()
 }
 
 void HalcyraTimeStructureTabComponent::paint (juce::Graphics& g) { g.fillAll (editors::pageColour); }
+
+void HalcyraTimeStructureTabComponent::Group::paint (juce::Graphics& g)
+{
+    constexpr int line = 10, name = 18; // pixels from the sides and from the top that the look draws in
+    if (! getLocalBounds().reduced (line).withTop (name).contains (g.getClipBounds()))
+        GroupComponent::paint (g);
+}

@@ -53,6 +53,13 @@ private:
         lumo::ValueLabel value;
     };
 
+    /** Draws its line and its name only where they lie: what stands inside is repainted often. */
+    struct Group : juce::GroupComponent
+    {
+        using GroupComponent::GroupComponent;
+        void paint (juce::Graphics& g) override;
+    };
+
     HalcyraTimeStructureTabComponent (const juce::String& name, std::unique_ptr<SelfWakingModel> own);
 
     void reverbChanged (const halcyra::ReverbModel::Change& change) override;
@@ -81,7 +88,7 @@ private:
     halcyra::ReverbModel& model;
     qel::Listeners<lumo::HalcyraTimeStructureListener> listeners;
 
-    std::vector<std::unique_ptr<juce::GroupComponent>> groups;
+    std::vector<std::unique_ptr<Group>> groups;
     std::vector<std::unique_ptr<juce::Label>> labels;
     lumo::ImpulseResponseComponent display;
     std::array<std::unique_ptr<NumberControl>, halcyra::parameter::count> numbers; // null for the switches

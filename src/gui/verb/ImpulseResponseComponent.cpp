@@ -12,6 +12,7 @@ namespace
 
 constexpr int tickDistance = 20; // ms
 constexpr float tickFontHeight = 12;
+constexpr int tickTextsHeight = 16; // of the strip that they lie in
 
 const juce::Colour backgroundColour{ 0xFFB5B5B5 };
 const juce::Colour tickColour{ 0xFF808080 };
@@ -24,7 +25,7 @@ const juce::Colour clusterColour = juce::Colour (0xFF0000FF).withAlpha (0.5f);
     pixels beyond it, almost flat, which is what the renderer is slowest at. */
 juce::Path decayShape (juce::Point<float> corner, float width, float bottom, float control, float rightEdge)
 {
-    constexpr int segments = 32;                // the polygon stays within a fiftieth of a pixel of the curve
+    constexpr float segmentsOfAll = 32;         // the polygon stays within a fiftieth of a pixel of the curve
     constexpr float controlHeight = 47.0f / 49; // of the height
     const float linear = 2 * control * width, square = width - linear, visible = rightEdge - corner.x;
     juce::Path path;
@@ -32,9 +33,10 @@ juce::Path decayShape (juce::Point<float> corner, float width, float bottom, flo
         return path;
     const float root = std::sqrt (linear * linear + 4 * square * visible);
     const float last = visible < width ? 2 * visible / (linear + root) : 1.0f; // where the curve meets the edge
+    const int segments = juce::jmax (1, static_cast<int> (std::ceil (last * segmentsOfAll)));
     path.startNewSubPath (corner.x, bottom);
     for (int i = 0; i <= segments; ++i) {
-        const float t = last * static_cast<float> (i) / segments;
+        const float t = last * static_cast<float> (i) / static_cast<float> (segments);
         const float fall = 2 * t * (1 - t) * controlHeight + t * t;
         path.lineTo (corner.x + (linear + square * t) * t, corner.y + fall * (bottom - corner.y));
     }
@@ -69,9 +71,28 @@ void ImpulseResponseComponent::store (float& field, float value, unsigned makesS
 {
     if (field == value)
         return;
+    const auto before = decayExtent();
     field = value;
     stale |= makesStale;
-    repaint();
+    if (makesStale == decay)
+        repaint (before.getUnion (decayExtent()));
+    else
+        repaint();
+}
+
+/** All pixels that the decays may touch, with room for the window system's rounding at scales between whole ones. */
+juce::Rectangle<int> ImpulseResponseComponent::decayExtent() const noexcept
+{
+    constexpr int room = 2;
+    const auto corner = decayCorner();
+    const auto lowest = juce::Point<float> (static_cast<float> (getWidth()), static_cast<float> (getHeight()));
+    return juce::Rectangle<float> (corner, lowest).getSmallestIntegerContainer().expanded (room);
+}
+
+juce::Point<float> ImpulseResponseComponent::decayCorner() const noexcept
+{
+    const auto s = scale();
+    return { s.x (shown.reverbStart), s.top (1) };
 }
 
 void ImpulseResponseComponent::setTr0 (float seconds) { store (shown.tr0, seconds, decay); }
@@ -140,7 +161,7 @@ void ImpulseResponseComponent::bringUpToDate (float pixelScale)
 void ImpulseResponseComponent::buildDecay (float pixelScale)
 {
     const auto s = scale();
-    const juce::Point<float> corner{ s.x (shown.reverbStart), s.top (1) };
+    const auto corner = decayCorner();
     // Seconds are held against ms here, and pictures rely on it: it bites only where the reverb starts within 30 ms.
     const float seconds = std::clamp (shown.tr0, 0.0f, shown.reverbStart);
     const auto shape = [&] (float ratio, float control) {
@@ -157,18 +178,21 @@ void ImpulseResponseComponent::buildDecay (float pixelScale)
     const auto toScreen = juce::AffineTransform::scale (pixelScale);
     const auto screen = getLocalBounds().toFloat().transformedBy (toScreen).getSmallestIntegerContainer();
     decayArea = extent.transformedBy (toScreen).getSmallestIntegerContainer().getIntersection (screen);
-    decayImage = {};
-    if (decayArea.isEmpty())
+    if (decayArea.isEmpty()) {
+        decayImage = {};
         return;
-    decayImage =
-        juce::Image (juce::Image::RGB, decayArea.getWidth(), decayArea.getHeight(), false, juce::SoftwareImageType());
+    }
+    if (decayImage.getBounds() != decayArea.withZeroOrigin())
+        decayImage = juce::Image (juce::Image::RGB, decayArea.getWidth(), decayArea.getHeight(), false,
+                                  juce::SoftwareImageType());
+    const auto evenGround = screen.reduced (static_cast<int> (std::ceil (pixelScale / 2)));
     {
         juce::Graphics g (decayImage);
+        g.excludeClipRegion (evenGround - decayArea.getPosition());
         g.addTransform (toScreen.translated (-decayArea.getPosition().toFloat()));
         paintGround (g);
     }
-    const auto frame = static_cast<int> (std::ceil (pixelScale / 2));
-    overlayFills (decayImage, decayArea, screen.reduced (frame), bands, toScreen);
+    overlayFills (decayImage, decayArea, evenGround, backgroundColour, bands, toScreen);
 }
 
 void ImpulseResponseComponent::paintGround (juce::Graphics& g) const
@@ -198,10 +222,27 @@ void ImpulseResponseComponent::paint (juce::Graphics& g)
     if (! isVisible())
         return;
     bringUpToDate (g.getInternalContext().getPhysicalPixelScaleFactor());
-    paintGround (g);
+    {
+        const juce::Graphics::ScopedSaveState state (g);
+        g.excludeClipRegion (coveredByDecay());
+        paintGround (g);
+    }
     paintDecay (g);
     paintTicks (g);
     paintTaps (g);
+}
+
+/** Where the decays' picture hides what lies below, with room for the renderer's rounding. */
+juce::Rectangle<int> ImpulseResponseComponent::coveredByDecay() const
+{
+    if (decayImage.isNull())
+        return {};
+    const auto area = decayArea.toFloat() / decayPixelScale;
+    const auto up = [] (float x) { return static_cast<int> (std::ceil (x)); };
+    const auto down = [] (float x) { return static_cast<int> (std::floor (x)); };
+    return juce::Rectangle<int>::leftTopRightBottom (up (area.getX()), up (area.getY()), down (area.getRight()),
+                                                     down (area.getBottom()))
+        .reduced (decayPixelScale == 1.0f ? 0 : 1);
 }
 
 void ImpulseResponseComponent::paintDecay (juce::Graphics& g) const
@@ -221,7 +262,8 @@ void ImpulseResponseComponent::paintTicks (juce::Graphics& g) const
     for (int ms = tickDistance; static_cast<float> (ms) < s.span(); ms += tickDistance)
         g.fillRect (juce::Rectangle<float> (s.x (static_cast<float> (ms)) - 0.5f, 0, 1, s.height));
     g.setColour (tickColour.withAlpha (0.6f));
-    tickTexts.draw (g);
+    if (g.clipRegionIntersects ({ 0, 0, getWidth(), tickTextsHeight }))
+        tickTexts.draw (g);
 }
 
 void ImpulseResponseComponent::paintTaps (juce::Graphics& g) const

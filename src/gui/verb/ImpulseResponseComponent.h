@@ -59,6 +59,9 @@ private:
     void store (float& field, float value, unsigned makesStale);
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
     [[nodiscard]] ImpulseResponseScale scale() const noexcept;
+    [[nodiscard]] juce::Point<float> decayCorner() const noexcept;
+    [[nodiscard]] juce::Rectangle<int> decayExtent() const noexcept;
+    [[nodiscard]] juce::Rectangle<int> coveredByDecay() const;
     void bringUpToDate (float pixelScale);
     /** At so many pixels of the screen a pixel. */
     void buildDecay (float pixelScale);

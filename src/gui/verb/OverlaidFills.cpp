@@ -56,10 +56,13 @@ struct Row
     juce::PixelRGB* pixels;
     int left, right;    // of the image
     int evenX, evenEnd; // the ground is of one colour between them
+    juce::PixelRGB even;
 
     [[nodiscard]] juce::PixelRGB& at (int x) const { return pixels[x - left]; }
+    [[nodiscard]] bool isEven (int x) const { return x >= evenX && x < evenEnd; }
+    [[nodiscard]] juce::PixelRGB groundAt (int x) const { return isEven (x) ? even : at (x); }
     /** How far the ground goes on unchanged. */
-    [[nodiscard]] int evenFrom (int x) const { return x >= evenX && x < evenEnd ? evenEnd : x + 1; }
+    [[nodiscard]] int evenFrom (int x) const { return isEven (x) ? evenEnd : x + 1; }
 };
 
 /** Fills one row from run to run of all layers. */
@@ -70,7 +73,7 @@ void writeRow (std::vector<Layer>& layers, const Row& row, int y)
         layer.end = layer.coverage.end (y);
     }
     for (int x = row.left; x < row.right;) {
-        auto pixel = row.at (x);
+        auto pixel = row.groundAt (x);
         int end = std::min (row.right, row.evenFrom (x));
         for (auto& layer : layers) {
             while (layer.next != layer.end && layer.next->end <= x)
@@ -91,7 +94,7 @@ void writeRow (std::vector<Layer>& layers, const Row& row, int y)
 
 }
 
-void overlayFills (juce::Image& image, juce::Rectangle<int> area, juce::Rectangle<int> evenGround,
+void overlayFills (juce::Image& image, juce::Rectangle<int> area, juce::Rectangle<int> evenGround, juce::Colour ground,
                    const std::vector<OverlaidFill>& fills, const juce::AffineTransform& transform)
 {
     std::vector<Layer> layers;
@@ -99,13 +102,15 @@ void overlayFills (juce::Image& image, juce::Rectangle<int> area, juce::Rectangl
     for (const auto& fill : fills)
         layers.push_back ({ Coverage (fill.path, area, transform), fill.colour.getPixelARGB() });
 
+    juce::PixelRGB even;
+    even.set (ground.getPixelARGB());
     const juce::Image::BitmapData pixels (image, juce::Image::BitmapData::readWrite);
     jassert (pixels.pixelStride == static_cast<int> (sizeof (juce::PixelRGB)));
     for (int y = area.getY(); y < area.getBottom(); ++y) {
         const bool isEven = y >= evenGround.getY() && y < evenGround.getBottom();
         writeRow (layers,
                   { reinterpret_cast<juce::PixelRGB*> (pixels.getLinePointer (y - area.getY())), area.getX(),
-                    area.getRight(), evenGround.getX(), isEven ? evenGround.getRight() : evenGround.getX() },
+                    area.getRight(), evenGround.getX(), isEven ? evenGround.getRight() : evenGround.getX(), even },
                   y);
     }
 }

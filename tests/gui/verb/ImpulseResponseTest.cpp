@@ -1,4 +1,5 @@
 #include "gui/verb/ImpulseResponseComponent.h"
+#include "support/ScaledScreen.h"
 #include "support/Stage.h"
 
 #include <gtest/gtest.h>
@@ -132,11 +133,13 @@ TEST (OverlaidFills, AreThePixelsOfFillsOneOverAnother)
         g.fillRect (149, 0, 1, 40);
         g.fillRect (0, 39, 150, 1);
         auto image = wanted.createCopy();
+        image.clear (image.getBounds().withTrimmedRight (1).withTrimmedBottom (1), juce::Colours::yellow);
         for (const auto& fill : fills) {
             g.setColour (fill.colour);
             g.fillPath (fill.path, transform.translated (-area.getPosition().toFloat()));
         }
-        lumo::overlayFills (image, area, area.withTrimmedRight (1).withTrimmedBottom (1), fills, transform);
+        lumo::overlayFills (image, area, area.withTrimmedRight (1).withTrimmedBottom (1), juce::Colour (0xFFB5B5B5),
+                            fills, transform);
         EXPECT_LE (levelsApart (image, wanted), 2) << turn;
     }
 }
@@ -152,6 +155,51 @@ TEST_F (ImpulseResponse, AnEqualValueKeepsThePicture)
     display.setReverbStart (200);
     const auto after = stage.picture();
     EXPECT_NE (before.getPixelAt (300, 130), after.getPixelAt (300, 130));
+}
+
+/** However little of it a value repaints, at any scale and wherever it lies between the pixels of the screen. */
+TEST (ImpulseResponsePicture, PartsShowWhatAWholeRepaintWouldShow)
+{
+    using Display = lumo::ImpulseResponseComponent;
+    struct Row
+    {
+        void (Display::*set) (float);
+        float lowest, highest;
+    };
+    constexpr Row rows[] = { { &Display::setTr0, 0.01f, 5 },           { &Display::setTrl, 0.01f, 2 },
+                             { &Display::setTrm, 0.01f, 2 },           { &Display::setTrh, 0.01f, 2 },
+                             { &Display::setReverbStart, 0, 500 },     { &Display::setEarlyStart, 1, 100 },
+                             { &Display::setClusterDistr, 0.1f, 0.9f } };
+    juce::Random random (3);
+    for (int turn = 0; turn < 40; ++turn) {
+        constexpr float scales[] = { 1, 1.25f, 1.5f, 2 };
+        Display display (8);
+        display.setSize (turn == 0 ? 1 : 300 + random.nextInt (100), turn < 2 ? 1 : 97);
+        ScaledScreen screen (display, scales[turn % 4], { random.nextInt (10), random.nextInt (10) });
+        for (int round = 0; round < 6; ++round) {
+            for (int changes = 1 + random.nextInt (2); changes > 0; --changes) {
+                const auto& row = rows[random.nextInt (std::size (rows))];
+                (display.*row.set) (row.lowest + random.nextFloat() * (row.highest - row.lowest));
+            }
+            screen.Frame();
+            const auto parts = screen.Picture().createCopy();
+            display.repaint();
+            screen.Frame();
+            ASSERT_LE (levelsApart (parts, screen.Picture()), 2) << turn << ", " << round;
+        }
+    }
+}
+
+TEST (ImpulseResponsePicture, ADecayRepaintsNoMoreThanWhereDecaysLie)
+{
+    lumo::ImpulseResponseComponent display (8);
+    display.setSize (904, 144);
+    ScaledScreen screen (display, 1);
+    display.setTr0 (1);
+    const auto painted = screen.Frame().getBounds();
+    EXPECT_FALSE (painted.isEmpty());
+    EXPECT_GT (painted.getX(), 200);
+    EXPECT_GE (painted.getY(), 70);
 }
 
 TEST_F (ImpulseResponse, DrawsAnyNumberOfTapsInAnySize)

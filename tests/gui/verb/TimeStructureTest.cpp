@@ -292,4 +292,16 @@ TEST_F (TimeStructure, ASettingRepaintsItsValueAndLeavesTheRestOfThePage)
     EXPECT_FALSE (differ ({ 608, 215, 300, 180 }));
 }
 
+TEST_F (TimeStructure, PartsOfThePageShowWhatAWholeRepaintWouldShow)
+{
+    for (const auto& place : halcyra::timeStructurePlaces)
+        for (const double share : { 0.2, 0.7 }) {
+            const auto& range = halcyra::parameterRow (place.number)->range;
+            set (place.number, static_cast<float> (range.lowest + share * (range.highest - range.lowest)));
+            const auto parts = stage.picture();
+            tab.repaint();
+            EXPECT_TRUE (Difference (parts, stage.picture()).isEmpty()) << place.number;
+        }
+}
+
 }
