@@ -287,7 +287,7 @@ ROWS = [
     ("src/gui/verb/HalcyraComponent.cpp", "    model.forgetWaiting();\n", "", "a bang tells what waits twice"),
     ("src/gui/verb/HalcyraComponent.cpp", "return true;\n        }\n    if (key == closeKey)", "return false;\n        }\n    if (key == closeKey)",
      "the keys of undo reach the host too"),
-    ("src/gui/verb/ImpulseResponseComponent.cpp", "stale |= makesStale;\n    repaint();", "stale |= makesStale;", "a lost repaint of the picture"),
+    ("src/gui/verb/ImpulseResponseComponent.cpp", "repaint (before.getUnion (decayExtent()));", "repaint (before);", "a lost repaint of the picture"),
 
     ("src/gui/plane/ScenePoses.cpp", "plane.RestoreListener (pointAt (to), to[3], to[4], to[5]);",
      "plane.RestoreListener (pointAt (to), to[3], to[5], to[4]);", "an undo changes the listener's pitch and roll about"),
