@@ -46,7 +46,7 @@ BASIC = {
                 ("say", "Right: answers to get messages, to dump and to dumpdict."),
             ]),
             ("Good to know", [
-                ("say", "Sliders and messages move in the same steps; filters take the exact value. What is out of range is clipped. A word where a number belongs counts as 0; any other nonsense is refused in the Max window and changes nothing."),
+                ("say", "Sliders and messages move in the same steps; filters take the exact value. What is out of range is clipped. A word where a number belongs counts as 0; other nonsense is refused and changes nothing."),
                 ("send", "version", "posts the version in the Max window"),
                 ("attr", "useopengl", "draws the window with OpenGL"),
                 ("attr", "showfps", "shows how fast it draws"),
@@ -127,7 +127,7 @@ FILTERS = {
                 ("send", "getroom", "asks for the six values"),
             ]),
             ("In the window", [
-                ("say", "Drag a dot of a curve up or down for a gain, one of the two vertical lines sideways for a frequency; the wheel moves the one that was taken last."),
+                ("say", "Drag a dot of a curve up or down for a gain, one of the two vertical lines sideways for a frequency; the wheel moves the last one."),
                 ("say", "The slider of the overall gain goes from -60 to 10 dB; a message reaches the whole range."),
             ]),
         ],
@@ -202,7 +202,7 @@ SPEAKERS = {
 VIEW = {
     "tab": "view",
     "title": "View",
-    "digest": "What the scene tab shows and what the mouse may do there. All of these are attributes: use the controls, messages, the inspector, or write them into the box.",
+    "digest": "What the scene tab shows and what the mouse may do there. All are attributes: use the controls, messages, the inspector or the box.",
     "object": "halcyra~.control @numsources 2 @numspeakers 4",
     "remark": "open the window and turn to its third tab",
     "columns": [

@@ -17,15 +17,18 @@ HLShelfGrid::HLShelfGrid()
 {
     setOpaque (true);
     setInterceptsMouseClicks (false, false);
-    setBufferedToImage (true);
 }
 
 void HLShelfGrid::paint (juce::Graphics& g)
 {
-    g.fillAll (editors::pageColour);
-    paintGains (g);
-    paintFrequencies (g);
+    picture.Draw (g, Plane::PixelGrid::Of (*this, g), true, [this] (juce::Graphics& onPicture) {
+        onPicture.fillAll (editors::pageColour);
+        paintGains (onPicture);
+        paintFrequencies (onPicture);
+    });
 }
+
+void HLShelfGrid::resized() { picture.Resize (getWidth(), getHeight()); }
 
 void HLShelfGrid::paintGains (juce::Graphics& g) const
 {

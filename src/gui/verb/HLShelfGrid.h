@@ -1,10 +1,13 @@
 #pragma once
+#include "gui/plane/view/StaticCache.h"
+
 #include <juce_gui_basics/juce_gui_basics.h>
 
 namespace lumo
 {
 
-/** The grid of gains and frequencies behind a response curve. It never changes, and is kept as an image. */
+/** The grid of gains and frequencies behind a response curve. It never changes, and is kept as an image in
+    the screen's own pixels. */
 class HLShelfGrid : public juce::Component
 {
 public:
@@ -16,10 +19,13 @@ public:
     HLShelfGrid();
 
     void paint (juce::Graphics& g) override;
+    void resized() override;
 
 private:
     void paintGains (juce::Graphics& g) const;
     void paintFrequencies (juce::Graphics& g) const;
+
+    Plane::StaticCache picture;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HLShelfGrid)
 };
