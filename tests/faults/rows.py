@@ -224,7 +224,7 @@ ROWS = [
     ("src/gui/plane/LumoComponent.cpp", "flags |= juce::Font::italic;", "flags |= juce::Font::bold;", "italics"),
 
     # src/reverb
-    ("src/reverb/HLShelfResponse.cpp", "std::swap (low, high); // the order of the crossovers does not matter", "",
+    ("src/reverb/HLShelfResponse.cpp", "std::swap (low, high);", "low = std::min (low, high);",
      "crossovers in the other order"),
     ("src/reverb/HLShelfResponse.cpp", "(frequency * pi)", "(frequency * 2 * pi)", "the prewarped frequency"),
     ("src/reverb/HLShelfScale.cpp", "return height - height * (dB - lowestGain) / gainSpan;", "return height * (dB - lowestGain) / gainSpan;",

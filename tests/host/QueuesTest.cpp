@@ -121,6 +121,23 @@ TEST_P (BenchQueues, EndALoopOfCordsWithTheHostsMessageOnAnyThread)
     }
 }
 
+TEST_P (BenchQueues, SendNothingToABoxThatTheMessageBeforeHasFreed)
+{
+    auto sender = make ("bench.example"), one = make ("bench.example"), other = make ("bench.example");
+    ASSERT_TRUE (patch.connect (*sender, 0, *one));
+    ASSERT_TRUE (patch.connect (*sender, 0, *other));
+    Messages heard;
+    patch.setListener ([&] (const bench::Event& event) {
+        if (event.box == sender->name)
+            return;
+        heard.push_back (event.text);
+        patch.free (event.box == one->name ? &*other : &*one);
+    });
+    sender.send ("echo 1");
+    patch.setListener ([] (const bench::Event&) {});
+    EXPECT_EQ (heard, Messages{ "echo" });
+}
+
 TEST_P (BenchQueues, HoldBackUntilReleased)
 {
     auto box = make ("bench.example");

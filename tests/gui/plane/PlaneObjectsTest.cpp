@@ -187,6 +187,15 @@ TEST (PlaneLookAtRules, ATargetOnTheOriginOrOnTheSourceChangesNothing)
     EXPECT_NEAR (plane.GetScene().sources[0].YawDegrees(), 33, 0.01f);
 }
 
+TEST (PlaneSources, OpenBetween10And180Degrees)
+{
+    PlaneComponent plane (1, 0, 300);
+    for (const auto& [wish, taken] : { std::pair (3.0f, 10.0f), { 10, 10 }, { 90, 90 }, { 180, 180 }, { 270, 180 } }) {
+        plane.SetSourceAperture (0, wish, true);
+        EXPECT_NEAR (plane.GetScene().sources[0].ApertureDegrees(), taken, tolerance) << wish;
+    }
+}
+
 TEST (PlaneLevels, AreClampedAndDoNotTell)
 {
     PlaneComponent plane (2, 1, 300);

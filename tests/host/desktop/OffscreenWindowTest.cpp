@@ -156,6 +156,10 @@ TEST_F (OffscreenWindowTest, HiddenWindowTakesNoEventsAndComesBackAsItWas)
     window.show();
     EXPECT_TRUE (input.click ({ 60, 30 }));
     EXPECT_EQ (back.getScreenPosition(), juce::Point<int> (800, 50));
+
+    back.getPeer()->setMinimised (true);
+    window.show();
+    EXPECT_FALSE (back.getPeer()->isMinimised());
     window.destroy();
     EXPECT_FALSE (window.exists());
     EXPECT_FALSE (input.click ({ 60, 30 }));
