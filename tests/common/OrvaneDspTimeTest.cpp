@@ -44,6 +44,7 @@ TEST (Time, IsWrittenInTheFormsThatAreAskedFor)
                          { { false, false, true, false, false }, "" } };
     for (const auto& row : rows)
         EXPECT_EQ (Time (2026, 10, 21, 15, 4, 9, 120).toText (row.parts), row.text);
+    EXPECT_EQ (Time (2100, 2, 1, 12, 0).toText ({ true, false, true, true, false }), "Mon - 01/03/2100");
 }
 
 TEST (Time, ComesBackFromItsFieldsInEveryEra)

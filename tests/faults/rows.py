@@ -51,7 +51,8 @@ ROWS = [
      "the hull turns inside out"),
 
     # src/text, src/files, src/osc
-    ("src/text/OrvaneDspXmlParser.cpp", "code < -128 || code > 0x10ffff || isSurrogate", "code < -128 || code > 0x10ffff",
+    ("src/text/OrvaneDspXmlParser.cpp", "code < -128 || code > 0x10ffff || isSurrogate",
+     "code < -128 || code > 0x10ffff || (isSurrogate && code < 0)",
      "half a surrogate pair is read"),
     ("src/text/OrvaneDspXmlParser.cpp", "byte (0xe0U | (code >> 12U));\n        continued (code >> 6U);",
      "byte (0xe0U | (code >> 12U));\n        continued (code >> 5U);", "characters of three bytes"),

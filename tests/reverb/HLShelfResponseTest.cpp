@@ -38,6 +38,14 @@ TEST (HLShelfResponse, EachBandReachesItsGain)
     EXPECT_NEAR (response.decibelsAt (22050), 12, 0.05);
 }
 
+TEST (HLShelfResponse, ACrossoverLiesHalfWayBetweenItsBands)
+{
+    for (const float hz : { 50.0f, 250.0f, 4000.0f, 15000.0f }) {
+        EXPECT_NEAR (designed ({ 0, 12, 0, 0, hz, 20000 }).decibelsAt (hz), 6, 0.01) << hz;
+        EXPECT_NEAR (designed ({ 0, 0, 0, -9, 20, hz }).decibelsAt (hz), -4.5, 0.01) << hz;
+    }
+}
+
 TEST (HLShelfResponse, TheOrderOfTheCrossoversDoesNotMatter)
 {
     const auto there = designed ({ 0, 12, -12, 6, 300, 3000 }), back = designed ({ 0, 12, -12, 6, 3000, 300 });

@@ -121,6 +121,19 @@ INSTANTIATE_TEST_SUITE_P (Modes, PlaneYaw,
                                            YawRow{ "translation", 75, 75 }, YawRow{ "follow", 75, 30 },
                                            YawRow{ "listenerconstraint", 75, 30 }, YawRow{ "nonsense", 75, 75 }));
 
+TEST (PlaneYawRules, TranslationTurnsASourceAsFarAsItGoesAround)
+{
+    PlaneComponent plane (1, 0, 300);
+    plane.SetSourcePosition (0, { 1, 0, 0 }, false);
+    plane.SetSourceYawMode (0, "translation");
+    plane.SetSourceYaw (0, 30, false);
+    const std::pair<Point3, float> steps[] = { { { 0, 1, 0 }, 120 }, { { -2, 0, 0 }, -150 }, { { 0, -1, 0 }, -60 } };
+    for (const auto& [place, yaw] : steps) {
+        plane.SetSourcePosition (0, place, true);
+        EXPECT_NEAR (plane.GetScene().sources[0].YawDegrees(), yaw, 0.01f);
+    }
+}
+
 TEST (PlaneYawRules, ListenerConstraintReportsFromZeroTo360)
 {
     PlaneComponent plane (1, 0, 300);

@@ -177,6 +177,12 @@ TEST_F (OffscreenWindowTest, TwoWindowsShareOneFocus)
     EXPECT_TRUE (back.hasKeyboardFocus (false));
     EXPECT_FALSE (other.hasKeyboardFocus (false));
     EXPECT_THAT (back.take(), ElementsAre ("key W"));
+
+    first.click ({ 60, 30 });
+    second.key ("v");
+    front.take();
+    first.key ("u");
+    EXPECT_THAT (front.take(), ElementsAre ("key U")) << "what had the keyboard in its window has it again";
 }
 
 TEST_F (OffscreenWindowTest, CloseButtonIsHandedOn)
