@@ -185,6 +185,27 @@ TEST (PlanePainting, AnIconStandsWhereItIsHit)
         }
 }
 
+TEST (PlanePainting, TheMarkOfASelectionStandsOnWhatIsSelected)
+{
+    const auto check = [] (auto&& select, auto&& place) {
+        PlaneComponent plane (3, 3, 300);
+        plane.SetApertureVisible (false);
+        plane.SetSpeakersEditable (true, false);
+        plane.SetSpeakersPositions ({ { -0.4f, 0.4f, 0 }, { 0.4f, 0.4f, 0 }, { 0.4f, -0.4f, 0 } }, false);
+        const auto before = Picture (plane);
+        select (plane);
+        const auto mark = Difference (before, Picture (plane));
+        EXPECT_TRUE (mark.toFloat().contains (place (plane))) << mark.toString();
+        EXPECT_LT (mark.getWidth(), 100);
+    };
+    for (const std::size_t i : { 0, 1, 2 }) {
+        check ([i] (PlaneComponent& plane) { plane.SelectSourceAlone (i); },
+               [i] (const PlaneComponent& plane) { return plane.GetScene().sources[i].screenPosition; });
+        check ([i] (PlaneComponent& plane) { plane.SelectSpeakerAlone (i); },
+               [i] (const PlaneComponent& plane) { return plane.GetScene().speakers[i].screenPosition; });
+    }
+}
+
 struct MeterRow
 {
     float decibels;

@@ -161,6 +161,19 @@ TEST (PlaneOptionsRecord, ReadsTheGridsOwnFlagsAndLeavesTheListenersSelection)
     EXPECT_EQ (options.gridNumAngularDivisions, 360u);
 }
 
+TEST (PlaneAutoZoom, PassesOverWhatIsHidden)
+{
+    const auto zoomWith = [] (bool farIsVisible) {
+        PlaneComponent plane (2, 0, 300);
+        plane.SetSourcePosition (0, { 2, 0, 0 }, false);
+        plane.SetSourcePosition (1, { 0, 7, 0 }, false);
+        plane.SetSourceVisible (1, farIsVisible, false);
+        plane.AutoZoom (false);
+        return plane.GetSurface().viewTransform.zoom;
+    };
+    EXPECT_GT (zoomWith (false), 2 * zoomWith (true));
+}
+
 TEST (PlaneAutoZoom, BringsTheFarthestSourceJustInsideAndThenRests)
 {
     PlaneComponent plane (3, 0, 300);
