@@ -19,6 +19,7 @@ TEST (Catalogue, MakesTheDocumentationOfEveryNameThatItKnows)
         EXPECT_FALSE (digestOf (name).empty()) << name;
     }
     EXPECT_EQ (digestOf ("halcyra~"), digestOf ("halcyra~.embedded"));
+    EXPECT_EQ (digestOf ("halcyra~.control"), "Control interface for halcyra~");
 }
 
 TEST (Catalogue, ReportsAnUnknownNameAndGoesOnWithTheFirstType)
