@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace lumo
 {
@@ -55,8 +56,10 @@ template <int right, int up, int hidden>
 void Move (PlaneComponent& plane)
 {
     const auto metres = [] (int tenths) { return static_cast<float> (tenths) / 10.0f; };
-    const bool topView = plane.GetSurface().viewTransform.topView;
-    plane.MoveSelection ({ metres (right), metres (topView ? up : hidden), metres (topView ? hidden : up) });
+    qel::Point3 step{ metres (right), metres (up), metres (hidden) };
+    if (! plane.GetSurface().viewTransform.topView)
+        std::swap (step.y, step.z);
+    plane.MoveSelection (step);
 }
 
 template <int menuId>
