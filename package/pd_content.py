@@ -11,11 +11,10 @@ SWAPPED = {"spigot"}
 # Words of the rows in help_content.py and what stands in their place.
 WORDS = {
     "a double click on the box does the same": "a click on the box, or Properties of its menu, does the same",
-    "is refused in the Max window and changes nothing": "is refused in the Pd window and changes nothing",
     "posts the version in the Max window": "posts the version in the Pd window",
     ". Takes a float, so write 2000. with its point": "",
     "cubic metres, with a point: times": "cubic metres: times",
-    "use the controls, messages, the inspector, or write them into the box": "use messages, or write them into the box with an @",
+    "use the controls, messages, the inspector or the box": "use messages, or write them into the box with an @",
     "neither pattr nor preset nor the patcher saves them": "the patch does not save them",
     "1: scene messages wait for the main thread. Use it when they come from a metro in overdrive": "has no effect in Pd, which has one thread",
     "its left outlet goes to halcyra~": "its left outlet goes to halcyra~ or halcyra-listen~",
