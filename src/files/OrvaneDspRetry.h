@@ -4,7 +4,8 @@
 namespace qel
 {
 
-/** Returns whether one of several attempts succeeded. Another program, such as a virus scanner, may lock a file briefly. */
+/** Returns whether one of several attempts succeeded. Another program, such as a virus scanner, may lock a file
+    briefly. */
 template <typename Attempt>
 [[nodiscard]] bool retried (int tries, int pauseInMilliseconds, Attempt&& attempt)
 {

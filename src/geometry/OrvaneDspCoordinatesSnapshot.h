@@ -36,16 +36,17 @@ public:
     void removeAll() noexcept;
     /** Replaces the list's contents with the names, in order. */
     void listNames (Vector<String>& names) const;
-    /** Blends two snapshots, the first at 0 and the second at 1; the result is as long as the shorter one. The amount is
-        clamped to 0 to 1. If either name is unknown, the output is unchanged. */
+    /** Blends two snapshots, the first at 0 and the second at 1; the result is as long as the shorter one. The amount
+        is clamped to 0 to 1. If either name is unknown, the output is unchanged. */
     void interpolate (Point3Array& output, const String& nameA, const String& nameB, float amount) const;
 
-    /** Adds a file's snapshots, each as store does. Throws NoSuchFile, "error parsing file " and the quoted path
-        (a malformed file changes nothing), or the first bad snapshot's fault; the snapshots before it stay in the store.
+    /** Adds a file's snapshots, each as store does. Throws NoSuchFile, "error parsing file " and the quoted path (a
+        malformed file changes nothing), or the first bad snapshot's fault; the snapshots before it stay in the store.
         Memory beyond the snapshots: the file's size. */
     bool read (const File& file);
-    /** Writes all snapshots that have points. Returns false if the file could not be written; it is then unchanged. Throws
-        "no snapshot", or an error if the file exists and must not be overwritten. An empty version is omitted. */
+    /** Writes all snapshots that have points. Returns false if the file could not be written; it is then unchanged.
+        Throws "no snapshot", or an error if the file exists and must not be overwritten. An empty version is
+        omitted. */
     bool write (const File& file, const String& version, bool overwrite) const;
 
 private:

@@ -22,7 +22,8 @@ enum class Type : std::int32_t
 
 }
 
-/** The texts of one object. Descriptions may contain marks such as "<br/><br/>"; see-also names are separated by ", ". */
+/** The texts of one object. Descriptions may contain marks such as "<br/><br/>"; see-also names are separated by ",
+    ". */
 class MaxMspExternalDocumentation
 {
 public:
@@ -36,7 +37,8 @@ public:
 namespace MaxMspExternal
 {
 
-/** The type for an object's name. Logs an unknown name by qel::debugReport as "unknwon external : NAME" and returns 0. */
+/** The type for an object's name. Logs an unknown name by qel::debugReport as "unknwon external : NAME" and returns
+    0. */
 [[nodiscard]] Type typeOf (const qel::String& name);
 
 /** The documentation of a type; null if it has none here. */

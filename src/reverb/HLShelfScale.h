@@ -4,8 +4,8 @@
 namespace lumo
 {
 
-/** Maps gains and frequencies to pixels on a response curve of a given size, and back: 20 to 20000 Hz from left to right
-    on a logarithmic scale, 30 to -30 dB from top to bottom. */
+/** Maps gains and frequencies to pixels on a response curve of a given size, and back: 20 to 20000 Hz from left to
+    right on a logarithmic scale, 30 to -30 dB from top to bottom. */
 struct HLShelfScale
 {
     static constexpr const halcyra::SliderRange &frequencies = halcyra::shelfTable[4].range,

@@ -199,7 +199,8 @@ struct ShelfRow
     [[nodiscard]] constexpr double defaultValue() const noexcept { return decimal (defaultText); }
 };
 
-/** All fields of a filter, in order. G0's slider has a narrower range than the filter; beyond it, it stays at its end. */
+/** All fields of a filter, in order. G0's slider has a narrower range than the filter; beyond it, it stays at its
+    end. */
 inline constexpr std::array<ShelfRow, 6> shelfTable{ {
     { &HLShelfParameters::G0, "G0", "global", -200, 30, { -60, 10, 0.05 }, 0, "0", false, "global gain" },
     { &HLShelfParameters::Gl, "Gl", "low", -30, 30, { -30, 30, 0.05 }, 0, "0", false, "low gain" },

@@ -80,8 +80,8 @@ public:
     /** 0 for an unknown cell. */
     [[nodiscard]] float value (ReverbCell cell) const noexcept;
 
-    /** Sets one parameter; a switch is on for any number but 0. Once messages of one turn have set all five linked times
-        (starts and ends of the stages), their last values are recalled together, independent of order. */
+    /** Sets one parameter; a switch is on for any number but 0. Once messages of one turn have set all five linked
+        times (starts and ends of the stages), their last values are recalled together, independent of order. */
     void setParameter (HalcyraReverbParameter number, float wish, Edit edit);
     /** Sets eight parameters from a volume in cubic metres, whatever their values. Notifies all eight if the stepped
         volume differs from the last one, otherwise those that change. */

@@ -41,7 +41,7 @@ ROWS = [
     ("src/geometry/OrvaneDspSpeakerAlignment.cpp", "alignment.points[i] = toSecond >= toFirst ? first : second;",
      "alignment.points[i] = toSecond >= toFirst ? second : first;", "a speaker is moved through the listener"),
     ("src/geometry/OrvaneDspSpeakerAlignment.cpp", "343.2f", "340.0f", "the speed of sound"),
-    ("src/geometry/OrvaneDspCoordinatesSnapshot.cpp", "places.erase (place); // first: its key is the snapshot's name", "",
+    ("src/geometry/OrvaneDspCoordinatesSnapshot.cpp", "places.erase (place); // first: its key points into the snapshot's name", "",
      "after a removal a snapshot's name leads to freed memory"),
     ("src/geometry/OrvaneDspCoordinatesSnapshot.cpp", "output.resize (std::min (a.size(), b.size()));",
      "output.resize (std::max (a.size(), b.size()));", "two snapshots of different sizes read past the end"),
@@ -67,7 +67,7 @@ ROWS = [
      "return partsMatch (other.names, names);", "a pattern on the left matches nothing"),
     ("src/osc/OrvaneDspOscBundle.cpp", "add (value.red).add (value.green).add (value.blue)",
      "add (value.red).add (value.blue).add (value.green)", "a colour's components in a bundle"),
-    ("src/osc/OrvaneDspOscBundle.cpp", "const auto count = other.size(); // the other may be this very bundle\n    for (std::size_t i = 0; i < count; ++i)",
+    ("src/osc/OrvaneDspOscBundle.cpp", "const auto count = other.size(); // the other may be this bundle itself\n    for (std::size_t i = 0; i < count; ++i)",
      "for (std::size_t i = 0; i + 1 < other.size(); ++i)", "the last element of a bundle is not appended"),
 
     # src/registry
@@ -91,7 +91,7 @@ ROWS = [
     ("src/max/PattrState.cpp", "if (*ac > 0 && *av != nullptr)", "if (*av != nullptr)", "memory of size 0 is taken for the caller's"),
     ("src/max/DictionaryState.cpp", "if (object_attr_usercanset (object, key) == 0)",
      "if (object_attr_get (object, key) == nullptr)", "a dictionary overwrites the documentation"),
-    ("src/max/DictionaryState.cpp", "dictionary_clear (dictionary.get()); // receivers have copied what they want", "",
+    ("src/max/DictionaryState.cpp", "dictionary_clear (dictionary.get()); // receivers have copied what they need", "",
      "a dictionary's entries outlive the call of its receivers"),
     ("src/max/AttributeServices.cpp", "if (! force && !", "if (force && !", "reset touches what is not to be reset"),
     ("src/max/AttributeServices.cpp", "dumpOne (x, outlet, atoms.symbol (0));", "dumpAll (x, outlet);", "dump NAME dumps all"),
