@@ -1,7 +1,7 @@
 #include "host/bench/patchbench/Win32WindowDriver.h"
 #include "host/bench/patchbench/Windows.h"
 
-/** Windows always has a desktop: there are none in memory. */
+/** Windows always has a desktop, so there are no windows in memory. */
 std::unique_ptr<bench::WindowDriver> makeWindows (patchbench::WindowPlace)
 {
     return std::make_unique<Win32WindowDriver>();

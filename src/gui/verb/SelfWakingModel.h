@@ -3,7 +3,7 @@
 
 #include <juce_events/juce_events.h>
 
-/** A model whose turns end with JUCE's messages, unless its owner finds another way. Message thread. */
+/** A model whose turns end with a JUCE message, unless its owner sets another waker. Message thread. */
 class SelfWakingModel : public halcyra::ReverbModel, private juce::AsyncUpdater
 {
 public:
