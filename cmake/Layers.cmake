@@ -1,5 +1,5 @@
-# Who may include whom. A target's headers are visible under an include root of its own, which holds
-# links to its folders alone; so an #include compiles only if the target links the layer that it names.
+# Which target may include which. A target's headers are visible only under an include root of its own, which links to
+# its folders alone; so an #include compiles only if the target links the layer that it names.
 
 # halcyra_layer(qel BASE src FOLDERS common text ...): headers as "common/...", "text/...".
 function(halcyra_layer target)

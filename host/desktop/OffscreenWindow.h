@@ -2,8 +2,8 @@
 
 #include "host/desktop/JuceWindow.h"
 
-/** A window held in memory: no display, but the same component, events and pixels.
-    OffscreenDesktop::start() comes first. Menus open inside the window. */
+/** A window in memory: no display, but the same component, events and pixels. Call OffscreenDesktop::start() first.
+    Menus open inside the window. */
 class OffscreenWindow : public JuceWindow
 {
 private:

@@ -2,7 +2,7 @@
 
 #include "host/desktop/JuceWindow.h"
 
-/** A window of the X11 display, with or without a window manager. */
+/** A window on the X11 display, with or without a window manager. */
 class X11Window : public JuceWindow
 {
 public:

@@ -20,6 +20,7 @@ constexpr std::size_t none = SIZE_MAX;
 
 /** Delaunay triangulation by a sweep over points sorted by x, then y. Each new point lies outside the present hull and
     is joined to the hull edges visible from it; then edges are swapped until no circle contains a point.
+
     A triangle is three consecutive half-edges, counterclockwise; each stores its first point and its twin in the
     neighbouring triangle. The hull is a ring of points, counterclockwise. */
 class DelaunaySweep

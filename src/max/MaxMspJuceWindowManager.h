@@ -6,6 +6,7 @@
 #include <memory>
 
 /** Shows a component in a floating window inside the Max process.
+
     The first open() creates the window, close() only hides it. Whatever touches the window is deferred, so that it runs
     after the caller has returned. Main thread; lengths are in physical screen pixels. */
 class MaxMspJuceWindowManager

@@ -2,13 +2,16 @@
 #include <functional>
 
 /** How an object survives its own callbacks.
+
     A patch may delete a box while the box is sending: during an outlet call or a notification, and therefore in the
     middle of the method, setter, deferred call or window event that caused it. The host frees the struct at once. So:
+
     - Every function that the host calls first constructs an ObjectCall (HostFunction does so), and so does every
-    callback of the component that can make the object send.
+      callback of the component that can make the object send.
     - The function that frees the object calls objectGoes() with what these calls may still be using: the component and
-    its window.
+      its window.
     - After sending, check objectIsGone() before touching the struct again.
+
     Calls find each other per thread: objects are freed on the main thread, and all sending happens there. */
 namespace orvanemax
 {

@@ -35,6 +35,7 @@ enum class Edit
 };
 
 /** Stores the reverberator's values, each once: 20 parameters, the room size and four filters.
+
     A parameter is limited by its row and its neighbours and takes effect at once; a filter is only clipped. Non-finite
     values and unknown numbers are ignored. Switches and filters notify at once; number parameters notify once each when
     the turn ends, in the order of their first change. A turn begins with its first change, which calls wakeTurnEnd; the

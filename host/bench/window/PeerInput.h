@@ -4,6 +4,7 @@
 
 /** Simulates the user's pointer and keyboard. Events enter at the component's peer, as from the window system, with
     their own clock: two presses form a double click only if requested.
+
     Positions are in component pixels. Every operation returns false and does nothing while the component is not in a
     visible window. Message thread; does not pump. */
 class PeerInput

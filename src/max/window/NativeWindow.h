@@ -7,6 +7,7 @@
 
 /** A top-level desktop window that shows one component, which it does not own. The native window exists from create()
     to destroy(). Main thread.
+
     makeNativeWindow() creates the platform's window. To use another kind of window, or to monitor the process's
     windows, install a factory with setNativeWindowFactory(). */
 class NativeWindow
