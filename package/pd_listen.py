@@ -349,7 +349,7 @@ def listen():
     route = p.obj("route source direct room early cluster reverb speakers", message)
     sources = p.obj("clone -s 1 halcyra-listen-source~ $1 $2 $0", (route, 0), first, second)
     p.obj("delwrite~ $0-bus 1000", (sources, 2))
-    angles = p.obj("unpack s f f f f", (route, 6))  # aed; azimuth, elevation, distance of the first, azimuth of the second
+    angles = p.obj("unpack s f f f f", (route, 6))  # aed; azimuth, elevation, distance; azimuth of the second
     base = p.obj("expr ($f1+$f2)/2;abs($f2-$f1)/2", (angles, 1), (angles, 4))
     p.obj("s $0-base", p.obj("pack f f", (base, 0), (base, 1)))
 

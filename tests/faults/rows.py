@@ -1,8 +1,8 @@
-"""The faults that the suite must catch: file, a piece of its code that stands there once, what replaces it, what breaks.
+"""The faults that the suite must catch: file, code that occurs there once, its replacement, the consequence.
 
-A row is a kind of fault rather than a place: order, signs, limits, missing notifications, swapped fields, dropped
-guards, off-by-one, the wrong thread, a lost repaint. When the code of a row changes, move the fault along; a row that
-no longer fits fails the suite."""
+A row stands for a kind of fault rather than a place: order, signs, limits, missing notifications, swapped fields,
+dropped guards, off-by-one, wrong thread, lost repaint. When a row's code changes, update the row; a row that no longer
+fits fails the suite."""
 
 ROWS = [
     # src/common, src/memory, src/math
@@ -319,7 +319,7 @@ ROWS = [
     ("host/bench/window/JuceWindowDriver.cpp", "entry->second.component == component)", "true)",
      "a window that goes late takes another's place"),
 
-    # what speaks before what is stored; angles; what belongs to another; the hand on what may not be edited
+    # notifications before the value is stored; angles; other owners' data; edits of what is not editable
     ("src/external/MaxHalcyraListener.cpp", "    mirrorSpeakers (x);\n    qel::Point3Array positions;",
      "    const struct Late {\n        t_halcyra_control* x;\n        ~Late() { mirrorSpeakers (x); }\n    } late{ x };\n"
      "    qel::Point3Array positions;", "the speakers are told before they are stored"),
@@ -346,11 +346,11 @@ ROWS = [
      "! surface.options.listenerSelected || ! altAlone", "the wheel turns a listener that is not editable"),
 ]
 
-# The rows that were planted and seen caught: CI plays five of them. Add a row's number once you have seen it caught.
+# Rows that were planted and seen caught: CI runs five of them. Add a row's number once you have seen it caught.
 CAUGHT = [0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 21, 25, 26, 27, 28, 29, 30, 31, 32, 33, 35,
           63, 64, 65, 66, 67, 68, 69, 70, 71, 72, 83, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112, 113, 114,
           115, 116, 117, 119, 121, 122, 123, 124, 144, 145, 146, 147, 163, 164, 165, 166, 170, 174, 175, 176, 177,
           178]
 
-# Rows that no test catches, with the reason; CI does not play them.
+# Rows that no test catches, with the reason; CI skips them.
 SURVIVORS = {}
