@@ -2,7 +2,7 @@
 #include <juce_gui_basics/juce_gui_basics.h>
 
 /** What we use of JUCE beside its interface. Another version may mean something else by it: look at each part that is
-    named here, and at X11Window and OffscreenDesktop, before you let one in. */
+    named here, and at desktop::X11Window and desktop::OffscreenDesktop, before you let one in. */
 static_assert (JUCE_VERSION == 0x70005, "JUCE's private parts were read in version 7.0.5");
 
 namespace juce

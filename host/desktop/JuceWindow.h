@@ -2,9 +2,12 @@
 
 #include "max/window/NativeWindow.h"
 
+namespace desktop
+{
+
 /** A window that JUCE makes, with the attached component as its content. The window takes the content's size;
     its decoration is the desktop's own. What the peer is, on a display or in memory, is the subclass's choice. */
-class JuceWindow : public NativeWindow
+class JuceWindow : public orvanemax::NativeWindow
 {
 public:
     JuceWindow();
@@ -51,3 +54,5 @@ private:
     juce::Rectangle<int> placeWhenHidden;
     bool isWanted = false;
 };
+
+}

@@ -2,8 +2,11 @@
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
+namespace desktop
+{
+
 /** A desktop in memory: what JUCE asks of a display, answered without one. */
-namespace OffscreenDesktop
+namespace offscreen
 {
 
 /** Starts JUCE on the calling thread, away from any real display, with one screen of 1400 by 900 pixels at
@@ -12,5 +15,7 @@ void start();
 
 /** Where the pointer of this desktop stands, in pixels of the screen. */
 void setPointer (juce::Point<int> position);
+
+}
 
 }

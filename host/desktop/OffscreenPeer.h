@@ -2,6 +2,9 @@
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
+namespace desktop
+{
+
 /** A component's window in memory. Events come in by ComponentPeer's handleMouseEvent, handleMouseWheel and
     handleKeyPress, so hit testing, hovering, focus and capture are JUCE's own; painting goes into an image. */
 class OffscreenPeer : public juce::ComponentPeer
@@ -54,3 +57,5 @@ private:
     juce::RectangleList<int> outOfDate;
     bool minimised = false;
 };
+
+}

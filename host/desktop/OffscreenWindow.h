@@ -2,10 +2,15 @@
 
 #include "host/desktop/JuceWindow.h"
 
+namespace desktop
+{
+
 /** A window held in memory: no display, but the same component, events and pixels.
-    OffscreenDesktop::start() comes first. Menus open inside the window. */
+    offscreen::start() comes first. Menus open inside the window. */
 class OffscreenWindow : public JuceWindow
 {
 private:
     std::unique_ptr<Shell> makeShell (const juce::String& title) override;
 };
+
+}

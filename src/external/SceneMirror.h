@@ -2,6 +2,9 @@
 #include "external/HalcyraControl.h"
 #include "gui/plane/PlaneListener.h"
 
+namespace halcyra
+{
+
 /** Keeps the mirrors of the listener, of the sources' yaw and of their aperture in step with what the hand does on the
     plane, and notifies; nothing leaves by the outlet. Scene updates mirror and notify by themselves. Main thread. */
 class SceneMirror : public lumo::PlaneListener
@@ -46,9 +49,6 @@ private:
     lumo::PlaneComponent* plane;
     int updates = 0; // under way
 };
-
-namespace halcyra
-{
 
 /** Tells those who watch an attribute (an attrui) that its value has changed, unless the call under way has freed the
     object. Main thread. */

@@ -1,7 +1,7 @@
 #pragma once
 #include "reverb/HalcyraParameters.h"
 
-namespace lumo
+namespace halcyra
 {
 
 /** Where gains and frequencies lie on a response curve of a given size in pixels, and back. 20 to 20000 Hz from left to

@@ -4,6 +4,9 @@
 #include <map>
 #include <windows.h>
 
+namespace patchbench
+{
+
 /** The hands and eyes of the bench on Windows. It knows the dialog frames that objects make by the messages that
     Windows sends them, works with the real pointer and the real keyboard, and takes pictures off the screen.
     What a frame holds is drawn by the external: a page is turned by a click at its tab.
@@ -40,3 +43,5 @@ private:
     std::map<HWND, void*> owners;
     bool frontTold = false; // since the last pump
 };
+
+}

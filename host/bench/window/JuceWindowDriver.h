@@ -6,6 +6,9 @@
 
 #include <map>
 
+namespace bench
+{
+
 /** The hands and eyes of the bench for windows that JUCE makes, on the display or in memory. It starts JUCE and ends
     it; between, every window of the product is made by it and tells the bench what happens to it. */
 class JuceWindowDriver : public bench::WindowDriver
@@ -38,7 +41,7 @@ private:
         PeerInput input;
     };
 
-    std::unique_ptr<NativeWindow> makeWindow (const void* object, juce::Component* component);
+    std::unique_ptr<orvanemax::NativeWindow> makeWindow (const void* object, juce::Component* component);
     Entry* find (void* object);
 
     const Place place;
@@ -46,3 +49,5 @@ private:
     Sink tell;
     std::map<const void*, Entry> entries;
 };
+
+}

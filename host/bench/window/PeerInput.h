@@ -2,6 +2,9 @@
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
+namespace bench
+{
+
 /** The pointer and the keyboard of someone who sits before a window. Events enter at the component's peer, as
     from the window system, with a clock of their own: two presses are a double click only when asked for.
 
@@ -37,3 +40,5 @@ private:
     juce::WeakReference<juce::Component> component;
     juce::ModifierKeys heldButton;
 };
+
+}

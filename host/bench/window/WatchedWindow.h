@@ -5,14 +5,17 @@
 #include <functional>
 #include <string>
 
+namespace bench
+{
+
 /** A window that tells what happens to it, in the words of the bench's language, and leaves the doing to another. */
-class WatchedWindow : public NativeWindow
+class WatchedWindow : public orvanemax::NativeWindow
 {
 public:
     using Tell = std::function<void (const std::string& what)>;
 
     /** The second function is called when this object goes. */
-    WatchedWindow (std::unique_ptr<NativeWindow> window, Tell tell, std::function<void()> onEnd);
+    WatchedWindow (std::unique_ptr<orvanemax::NativeWindow> window, Tell tell, std::function<void()> onEnd);
     ~WatchedWindow() override;
 
     bool create (const juce::String& title, juce::Rectangle<int> frame) override;
@@ -25,8 +28,10 @@ public:
     [[nodiscard]] bool isOccupied() const override { return window->isOccupied(); }
 
 private:
-    std::unique_ptr<NativeWindow> window;
+    std::unique_ptr<orvanemax::NativeWindow> window;
     Tell tell;
     std::function<void()> onEnd;
     bool shown = false;
 };
+
+}

@@ -2,7 +2,7 @@
 #include <juce_gui_basics/juce_gui_basics.h>
 
 /** What the pages of the window share. Message thread. */
-namespace editors
+namespace halcyra::editors
 {
 
 /** Behind the controls of each page. */

@@ -1,6 +1,9 @@
 #pragma once
 #include <juce_gui_basics/juce_gui_basics.h>
 
+namespace halcyra
+{
+
 /** A frame around the control that the keyboard has reached, above all pages. It goes when the focus moves on by other
     means than the keyboard. Message thread. */
 class FocusRing : public juce::Component, private juce::FocusChangeListener
@@ -21,3 +24,5 @@ private:
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (FocusRing)
 };
+
+}

@@ -3,7 +3,7 @@
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
-namespace lumo
+namespace halcyra
 {
 
 /** The grid of gains and frequencies behind a response curve. It never changes, and is kept as an image in
@@ -25,7 +25,7 @@ private:
     void paintGains (juce::Graphics& g) const;
     void paintFrequencies (juce::Graphics& g) const;
 
-    Plane::StaticCache picture;
+    lumo::Plane::StaticCache picture;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HLShelfGrid)
 };

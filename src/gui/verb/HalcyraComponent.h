@@ -142,13 +142,13 @@ private:
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 
     const std::uint32_t numsources, numspeakers, numinternals;
-    SelfWakingModel model;
+    halcyra::SelfWakingModel model;
     halcyra::EditHistory history;
     juce::Component* lastPressed = nullptr; // only compared: what the last press was on
     int stepsOfClicks = 0;                  // steps that the presses of one multiple click have made
     qel::Listeners<Listener> listeners;
-    std::unique_ptr<UndoablePlane> planeWithoutPage; // until the pages are made
-    UndoablePlane* const plane;
+    std::unique_ptr<halcyra::UndoablePlane> planeWithoutPage; // until the pages are made
+    halcyra::UndoablePlane* const plane;
 
     struct Pages;
     std::unique_ptr<Pages> pages;

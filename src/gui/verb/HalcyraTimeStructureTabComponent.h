@@ -46,11 +46,11 @@ private:
     /** One number: its slider, and what shows its value. */
     struct NumberControl
     {
-        NumberControl (const juce::String& sliderName, lumo::ValueLabel::Format format)
+        NumberControl (const juce::String& sliderName, halcyra::ValueLabel::Format format)
             : slider (sliderName, value), value (std::move (format))
         {}
-        lumo::NumberSlider slider;
-        lumo::ValueLabel value;
+        halcyra::NumberSlider slider;
+        halcyra::ValueLabel value;
     };
 
     /** Draws its line and its name only where they lie: what stands inside is repainted often. */
@@ -60,7 +60,7 @@ private:
         void paint (juce::Graphics& g) override;
     };
 
-    HalcyraTimeStructureTabComponent (const juce::String& name, std::unique_ptr<SelfWakingModel> own);
+    HalcyraTimeStructureTabComponent (const juce::String& name, std::unique_ptr<halcyra::SelfWakingModel> own);
 
     void reverbChanged (const halcyra::ReverbModel::Change& change) override;
     void parameterTold (HalcyraReverbParameter number) override;
@@ -84,7 +84,7 @@ private:
     [[nodiscard]] NumberControl* controlOf (halcyra::ReverbCell cell) noexcept;
     [[nodiscard]] juce::ToggleButton* toggleOf (HalcyraReverbParameter number) noexcept;
 
-    std::unique_ptr<SelfWakingModel> ownModel; // null for a page of a window
+    std::unique_ptr<halcyra::SelfWakingModel> ownModel; // null for a page of a window
     halcyra::ReverbModel& model;
     qel::Listeners<lumo::HalcyraTimeStructureListener> listeners;
 
@@ -97,7 +97,7 @@ private:
     juce::TextButton reset{ "ResetButton" };
     int numStops = 0; // of the tab key
     std::bitset<halcyra::cell::firstFilter> stale;
-    SightWatcher sight;
+    halcyra::SightWatcher sight;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HalcyraTimeStructureTabComponent)
 };

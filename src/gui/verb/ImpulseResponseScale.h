@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace lumo
+namespace halcyra
 {
 
 /** Where times and levels lie on the picture of an impulse response of a given size in pixels. */

@@ -1,7 +1,7 @@
 #pragma once
 #include "gui/verb/ValueLabel.h"
 
-namespace lumo
+namespace halcyra
 {
 
 /** A slider that also answers to cursor keys and to screen readers: a key moves it by one step, with shift by ten. A

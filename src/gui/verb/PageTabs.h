@@ -1,6 +1,9 @@
 #pragma once
 #include <juce_gui_basics/juce_gui_basics.h>
 
+namespace halcyra
+{
+
 /** The pages and their tabs. A tab is reached by keyboard after the controls of its page, and return turns to it; a
     click on one leaves the keyboard to the page. Message thread. */
 class PageTabs : public juce::TabbedComponent
@@ -17,3 +20,5 @@ private:
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (PageTabs)
 };
+
+}

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-namespace lumo
+namespace halcyra
 {
 
 /** A label that shows a number. The text is made when it is drawn, so that a label in a closed window costs nothing.

@@ -5,6 +5,9 @@
 #include <functional>
 #include <memory>
 
+namespace orvanemax
+{
+
 /** A top-level window of the desktop that shows one component, which it does not own.
     Its object exists from the beginning; the window itself from create() to destroy(). Main thread.
 
@@ -59,3 +62,5 @@ std::unique_ptr<NativeWindow> makePlatformWindow();
     process has done so. The host's own message pump serves it from then on. Elsewhere than on Windows the host defines
     it. */
 void startJuceInHost();
+
+}
