@@ -15,7 +15,7 @@ namespace
 /** Initialises JUCE for the life of the process. */
 void bringUpWindows()
 {
-    static auto& windows = *new JuceWindowDriver (JuceWindowDriver::Place::memory);
+    static auto& windows = *new bench::JuceWindowDriver (bench::JuceWindowDriver::Place::memory);
     bench::setWindowDriver (&windows);
 }
 

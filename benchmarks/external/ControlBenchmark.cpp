@@ -122,7 +122,7 @@ int main (int argc, char** argv)
     benchmark::Initialize (&argc, argv);
     if (benchmark::ReportUnrecognizedArguments (argc, argv))
         return 2;
-    JuceWindowDriver windows (JuceWindowDriver::Place::memory);
+    bench::JuceWindowDriver windows (bench::JuceWindowDriver::Place::memory);
     bench::setWindowDriver (&windows);
     benchmark::RunSpecifiedBenchmarks();
     bench::setWindowDriver (nullptr);

@@ -1,5 +1,8 @@
 #include "host/desktop/JuceWindow.h"
 
+namespace desktop
+{
+
 JuceWindow::Shell::Shell (JuceWindow& windowToServe, const juce::String& title)
     : juce::DocumentWindow (title, juce::Colours::lightgrey, minimiseButton | closeButton, false),
       window (windowToServe)
@@ -99,3 +102,5 @@ void JuceWindow::attach (juce::Component* component)
 }
 
 bool JuceWindow::isOccupied() const { return shell != nullptr && shell->getContentComponent() != nullptr; }
+
+}

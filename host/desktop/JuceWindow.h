@@ -2,9 +2,12 @@
 
 #include "max/window/NativeWindow.h"
 
+namespace desktop
+{
+
 /** A JUCE window with the attached component as its content. The window takes the content's size; the desktop draws its
     decoration. The subclass chooses the peer, on a display or in memory. */
-class JuceWindow : public NativeWindow
+class JuceWindow : public orvanemax::NativeWindow
 {
 public:
     JuceWindow();
@@ -51,3 +54,5 @@ private:
     juce::Rectangle<int> placeWhenHidden;
     bool isWanted = false;
 };
+
+}

@@ -5,7 +5,10 @@
 
 #include <cstdlib>
 
-namespace OffscreenDesktop
+namespace desktop
+{
+
+namespace offscreen
 {
 
 namespace
@@ -58,5 +61,7 @@ void start()
 }
 
 void setPointer (juce::Point<int> position) { pointer() = position; }
+
+}
 
 }

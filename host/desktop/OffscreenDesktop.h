@@ -2,8 +2,11 @@
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
+namespace desktop
+{
+
 /** A desktop in memory, which replaces JUCE's display. */
-namespace OffscreenDesktop
+namespace offscreen
 {
 
 /** Initialises JUCE on the calling thread without a real display, as the foreground application on a screen of 1400 by
@@ -12,5 +15,7 @@ void start();
 
 /** Sets the pointer's position, in screen pixels. */
 void setPointer (juce::Point<int> position);
+
+}
 
 }

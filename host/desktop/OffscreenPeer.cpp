@@ -1,5 +1,8 @@
 #include "host/desktop/OffscreenPeer.h"
 
+namespace desktop
+{
+
 OffscreenPeer* OffscreenPeer::focusedPeer = nullptr;
 
 OffscreenPeer::OffscreenPeer (juce::Component& componentToShow, int flags) : ComponentPeer (componentToShow, flags)
@@ -86,4 +89,6 @@ void OffscreenPeer::performAnyPendingRepaintsNow()
         image.clear (region);
     juce::LowLevelGraphicsSoftwareRenderer renderer (image, {}, regions);
     handlePaint (renderer);
+}
+
 }

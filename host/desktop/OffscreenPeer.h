@@ -2,6 +2,9 @@
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
+namespace desktop
+{
+
 /** A component's window in memory. Events enter through ComponentPeer's handleMouseEvent, handleMouseWheel and
     handleKeyPress, so JUCE does hit testing, hovering, focus and capture; painting goes into an image. */
 class OffscreenPeer : public juce::ComponentPeer
@@ -54,3 +57,5 @@ private:
     juce::RectangleList<int> outOfDate;
     bool minimised = false;
 };
+
+}

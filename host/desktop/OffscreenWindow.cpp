@@ -2,6 +2,9 @@
 
 #include "host/desktop/OffscreenPeer.h"
 
+namespace desktop
+{
+
 std::unique_ptr<JuceWindow::Shell> OffscreenWindow::makeShell (const juce::String& title)
 {
     struct ShellInMemory : Shell
@@ -14,4 +17,6 @@ std::unique_ptr<JuceWindow::Shell> OffscreenWindow::makeShell (const juce::Strin
     };
 
     return std::make_unique<ShellInMemory> (*this, title);
+}
+
 }

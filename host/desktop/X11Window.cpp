@@ -51,9 +51,12 @@ int passOverError (::Display*, XErrorEvent*) { return 0; }
 
 }
 
-std::unique_ptr<NativeWindow> makePlatformWindow() { return std::make_unique<X11Window>(); }
+std::unique_ptr<orvanemax::NativeWindow> orvanemax::makePlatformWindow()
+{
+    return std::make_unique<desktop::X11Window>();
+}
 
-void startJuceInHost()
+void orvanemax::startJuceInHost()
 {
     if (juce::MessageManager::getInstanceWithoutCreating() == nullptr)
         juce::MessageManager::getInstance();
@@ -67,6 +70,9 @@ void startJuceInHost()
     juce::Desktop::getInstance();
     juce::XWindowSystem::getInstance();
 }
+
+namespace desktop
+{
 
 bool X11Window::isDisplayAvailable() { return DisplayConnection().isOpen(); }
 
@@ -90,4 +96,6 @@ std::unique_ptr<JuceWindow::Shell> X11Window::makeShell (const juce::String& tit
         }
     };
     return std::make_unique<RestingShell> (*this, title);
+}
+
 }

@@ -2,6 +2,9 @@
 
 #include "host/desktop/JuceWindow.h"
 
+namespace desktop
+{
+
 /** A window on the X11 display, with or without a window manager. */
 class X11Window : public JuceWindow
 {
@@ -14,3 +17,5 @@ public:
 private:
     std::unique_ptr<Shell> makeShell (const juce::String& title) override;
 };
+
+}

@@ -68,6 +68,6 @@ void serveSoon()
         host.soon();
 }
 
-bool hasDisplay() { return X11Window::isDisplayAvailable(); }
+bool hasDisplay() { return desktop::X11Window::isDisplayAvailable(); }
 
 }

@@ -72,7 +72,7 @@ bool makeParts (t_halcyra_control* x)
         x->plane = x->component->getPlane();
         x->component->setTurnWaker ([x] { defer_low (x, orvanemax::hostFunction<endTurn>(), nullptr, 0, nullptr); });
         x->listener = new MaxHalcyraListener (x);
-        x->scene = new SceneMirror (x);
+        x->scene = new halcyra::SceneMirror (x);
         x->window = new MaxMspJuceWindowManager (&x->object, x->component, false);
     });
     return x->component != nullptr && x->plane != nullptr && x->listener != nullptr && x->scene != nullptr &&

@@ -9,7 +9,6 @@
 class HalcyraComponent;
 class MaxHalcyraListener;
 class MaxMspJuceWindowManager;
-class SceneMirror;
 
 namespace lumo
 {
@@ -18,6 +17,8 @@ class PlaneComponent;
 
 namespace halcyra
 {
+class SceneMirror;
+
 inline constexpr t_clong maxSources = 250; // array capacity; numsources and numspeakers go up to 64
 inline constexpr t_clong maxColours = 4 * maxSources;
 inline constexpr t_clong maxPositions = 3 * maxSources;
@@ -96,7 +97,7 @@ struct t_halcyra_control
     float windowtopleft[2];
     t_symbol* windowtitle;
 
-    SceneMirror* scene;
+    halcyra::SceneMirror* scene;
 };
 
 static_assert (std::is_standard_layout_v<t_halcyra_control> && std::is_trivial_v<t_object>);

@@ -210,7 +210,7 @@ void registerControlClass()
 {
     using namespace halcyra;
     orvanemax::buildSymbols();
-    startJuceInHost();
+    orvanemax::startJuceInHost();
     auto* c = class_new (className, hostConstructor<halcyra_control_new>(), hostDestructor<halcyra_control_free>(),
                          static_cast<t_clong> (sizeof (t_halcyra_control)), nullptr, A_GIMME, 0);
     c->c_flags |= CLASS_FLAG_NEWDICTIONARY;

@@ -140,10 +140,6 @@ void mirrorListenerAngles (t_halcyra_control* x)
     mirror (x->listenerroll, listener.roll, symbols().listenerroll);
 }
 
-}
-
-using namespace halcyra;
-
 SceneMirror::SceneMirror (t_halcyra_control* owner) : x (owner), plane (owner->plane) { plane->AddListener (this); }
 SceneMirror::~SceneMirror() { plane->RemoveListener (this); }
 
@@ -180,4 +176,6 @@ void SceneMirror::SourceYawChanged (std::size_t source, float)
 void SceneMirror::SourceApertureChanged (std::size_t source, float)
 {
     follow ([&] { mirrorSourceAperture (x, source); });
+}
+
 }

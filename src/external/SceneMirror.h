@@ -2,6 +2,9 @@
 #include "external/HalcyraControl.h"
 #include "gui/plane/PlaneListener.h"
 
+namespace halcyra
+{
+
 /** Updates the mirrors of the listener and of the sources' yaw and aperture after the user's edits on the plane, and
     notifies; sends nothing. Scene updates mirror and notify by themselves. Main thread. */
 class SceneMirror : public lumo::PlaneListener
@@ -46,9 +49,6 @@ private:
     lumo::PlaneComponent* plane;
     int updates = 0; // in progress
 };
-
-namespace halcyra
-{
 
 /** Notifies clients of an attribute (such as an attrui) that its value has changed, unless the call in progress has
     freed the object. Main thread. */

@@ -49,7 +49,7 @@ MaxMspJuceWindowManager* managerIn (t_object* owner, short argc, t_atom* argv)
 }
 
 MaxMspJuceWindowManager::MaxMspJuceWindowManager (t_object* ownerToUse, juce::Component* componentToShow, bool)
-    : window (makeNativeWindow (ownerToUse, componentToShow)),
+    : window (orvanemax::makeNativeWindow (ownerToUse, componentToShow)),
       owner (ownerToUse),
       component (componentToShow),
       title (gensym ("window"))

@@ -47,7 +47,7 @@ private:
     void takeOut();
     void hide();
 
-    std::unique_ptr<NativeWindow> window;
+    std::unique_ptr<orvanemax::NativeWindow> window;
     int top = 50;
     int left = 800;
     t_object* owner;

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace lumo
+namespace halcyra
 {
 
 namespace

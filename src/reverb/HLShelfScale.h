@@ -1,7 +1,7 @@
 #pragma once
 #include "reverb/HalcyraParameters.h"
 
-namespace lumo
+namespace halcyra
 {
 
 /** Maps gains and frequencies to pixels on a response curve of a given size, and back: 20 to 20000 Hz from left to

@@ -6,7 +6,7 @@
 int main (int argc, char** argv)
 {
     testing::InitGoogleMock (&argc, argv);
-    JuceWindowDriver windows (JuceWindowDriver::Place::memory);
+    bench::JuceWindowDriver windows (bench::JuceWindowDriver::Place::memory);
     bench::setWindowDriver (&windows);
     const auto result = RUN_ALL_TESTS();
     bench::setWindowDriver (nullptr);

@@ -432,7 +432,7 @@ protected:
         EXPECT_EQ (x.zoffset, view.zOffset);
     }
 
-    static void showsValue (const juce::Slider& slider, const lumo::ValueLabel& label,
+    static void showsValue (const juce::Slider& slider, const halcyra::ValueLabel& label,
                             const halcyra::SliderRange& range, float value, const juce::String& text)
     {
         EXPECT_EQ (static_cast<float> (slider.getValue()), range.stepped (value)) << "slider " << slider.getName();
@@ -448,7 +448,7 @@ protected:
             return;
         if (tabs->getCurrentTabIndex() == 0) {
             const auto sliders = partsOf<juce::Slider> (*page);
-            const auto labels = partsOf<lumo::ValueLabel> (*page);
+            const auto labels = partsOf<halcyra::ValueLabel> (*page);
             ASSERT_EQ (sliders.size(), labels.size());
             showsValue (*sliders[0], *labels[0], halcyra::roomRange, model.roomSize(),
                         juce::String (static_cast<int> (model.roomSize())) + " m^3");
@@ -471,7 +471,7 @@ protected:
         HalcyraFilter filter = 0;
         for (auto* column : partsOf<lumo::HLShelfComponent> (*page)) {
             const auto sliders = partsOf<juce::Slider> (*column);
-            const auto labels = partsOf<lumo::ValueLabel> (*column);
+            const auto labels = partsOf<halcyra::ValueLabel> (*column);
             for (std::size_t i = 0; i < halcyra::shelfTable.size(); ++i) {
                 const auto& row = halcyra::shelfTable[i];
                 const auto value = model.value (cell::ofFilter (filter, i));

@@ -71,7 +71,7 @@ TEST (HLShelfResponse, StaysFiniteAtTheEdges)
 
 TEST (HLShelfScale, PutsTheEndsAtTheEdges)
 {
-    const lumo::HLShelfScale scale{ 192, 150 };
+    const halcyra::HLShelfScale scale{ 192, 150 };
     EXPECT_NEAR (scale.x (20), 0, 1e-9);
     EXPECT_NEAR (scale.x (std::sqrt (20.0 * 20000.0)), 96, 1e-9);
     EXPECT_NEAR (scale.x (20000), 192, 1e-9);
@@ -82,7 +82,7 @@ TEST (HLShelfScale, PutsTheEndsAtTheEdges)
 
 TEST (HLShelfScale, LeadsBackFromPixels)
 {
-    const lumo::HLShelfScale scale{ 192, 150 };
+    const halcyra::HLShelfScale scale{ 192, 150 };
     for (double x = -10; x <= 200; x += 7)
         EXPECT_NEAR (scale.x (scale.frequency (x)), x, 1e-9);
     for (double y = -10; y <= 160; y += 7)

@@ -233,7 +233,7 @@ int main (int argc, char** argv)
         std::cerr << "usage: soak SECONDS\n";
         return 2;
     }
-    JuceWindowDriver windows (JuceWindowDriver::Place::memory);
+    bench::JuceWindowDriver windows (bench::JuceWindowDriver::Place::memory);
     bench::setWindowDriver (&windows);
     int faults = 0;
     {

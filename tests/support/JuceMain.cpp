@@ -9,10 +9,10 @@ int main (int argc, char** argv)
 {
     testing::InitGoogleMock (&argc, argv);
 
-    OffscreenDesktop::start();
+    desktop::offscreen::start();
     const juce::ScopedJuceInitialiser_GUI juceEndsWithMain;
     const auto result = RUN_ALL_TESTS();
     juce::PopupMenu::dismissAllActiveMenus();
-    pumpGui();
+    bench::pumpGui();
     return result;
 }

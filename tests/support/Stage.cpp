@@ -9,45 +9,45 @@ Stage::Stage (juce::Component& componentToShow) : component (componentToShow), i
     window.create ("stage", { 100, 50, component.getWidth(), component.getHeight() });
     window.attach (&component);
     window.show();
-    pumpGui();
+    bench::pumpGui();
 }
 
 Stage::~Stage()
 {
     juce::PopupMenu::dismissAllActiveMenus();
-    pumpGui();
+    bench::pumpGui();
     window.destroy();
-    pumpGui();
+    bench::pumpGui();
 }
 
 void Stage::move (juce::Point<int> position, juce::ModifierKeys keys)
 {
     ASSERT_TRUE (input.move (position.toFloat(), keys));
-    pumpGui();
+    bench::pumpGui();
 }
 
 void Stage::press (juce::Point<int> position, juce::ModifierKeys keys)
 {
     ASSERT_TRUE (input.press (position.toFloat(), keys));
-    pumpGui();
+    bench::pumpGui();
 }
 
 void Stage::drag (juce::Point<int> position, juce::ModifierKeys keys)
 {
     ASSERT_TRUE (input.drag (position.toFloat(), keys));
-    pumpGui();
+    bench::pumpGui();
 }
 
 void Stage::release (juce::Point<int> position, juce::ModifierKeys keys)
 {
     ASSERT_TRUE (input.release (position.toFloat(), keys));
-    pumpGui();
+    bench::pumpGui();
 }
 
 void Stage::click (juce::Point<int> position, juce::ModifierKeys keys)
 {
     ASSERT_TRUE (input.click (position.toFloat(), keys));
-    pumpGui();
+    bench::pumpGui();
 }
 
 void Stage::rightClick (juce::Point<int> position) { click (position, juce::ModifierKeys::rightButtonModifier); }
@@ -55,13 +55,13 @@ void Stage::rightClick (juce::Point<int> position) { click (position, juce::Modi
 void Stage::doubleClick (juce::Point<int> position, juce::ModifierKeys keys)
 {
     ASSERT_TRUE (input.doubleClick (position.toFloat(), keys));
-    pumpGui();
+    bench::pumpGui();
 }
 
 void Stage::wheel (juce::Point<int> position, float delta, juce::ModifierKeys keys)
 {
     ASSERT_TRUE (input.wheel (position.toFloat(), delta, keys));
-    pumpGui();
+    bench::pumpGui();
 }
 
 void Stage::dragFromTo (juce::Point<int> from, juce::Point<int> to, juce::ModifierKeys keys)
@@ -75,7 +75,7 @@ void Stage::dragFromTo (juce::Point<int> from, juce::Point<int> to, juce::Modifi
 void Stage::key (const juce::String& description)
 {
     ASSERT_TRUE (input.key (juce::KeyPress::createFromDescription (description)));
-    pumpGui();
+    bench::pumpGui();
 }
 
 juce::Point<int> Stage::at (const juce::Component& part, juce::Point<int> point) const
@@ -87,5 +87,5 @@ juce::Point<int> Stage::at (const juce::Component& part) const { return at (part
 
 juce::Image Stage::picture() const
 {
-    return dynamic_cast<OffscreenPeer&> (*component.getPeer()).picture().createCopy();
+    return dynamic_cast<desktop::OffscreenPeer&> (*component.getPeer()).picture().createCopy();
 }

@@ -42,6 +42,6 @@ public:
 
 private:
     juce::Component& component;
-    OffscreenWindow window;
-    PeerInput input;
+    desktop::OffscreenWindow window;
+    bench::PeerInput input;
 };

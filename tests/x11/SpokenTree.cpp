@@ -9,21 +9,21 @@
     if a control lacks something. */
 int main()
 {
-    startJuceInHost();
+    orvanemax::startJuceInHost();
     const juce::ScopedJuceInitialiser_GUI juceEndsWithMain;
     HalcyraComponent component{ 2, 2, 8 };
-    const auto window = makePlatformWindow();
+    const auto window = orvanemax::makePlatformWindow();
     window->create ("Halcyra", { 40, 60, 930, 440 });
     window->attach (&component);
     window->show();
     component.SetOpenGLEnabled (true);
-    pumpGui();
+    bench::pumpGui();
 
     bool isWhole = component.IsOpenGLEnabled() && component.getAccessibilityHandler() != nullptr;
     auto& tabs = *dynamic_cast<juce::TabbedComponent*> (component.getChildComponent (0));
     for (int page = 0; isWhole && page < tabs.getNumTabs(); ++page) {
         tabs.setCurrentTabIndex (page);
-        pumpGui();
+        bench::pumpGui();
         auto& root = *component.getAccessibilityHandler();
         spoken::walk (root, [&] (const juce::AccessibilityHandler& handler) {
             std::printf ("%d %s %s: %s\n", page, spoken::nameOf (handler.getRole()), handler.getTitle().toRawUTF8(),

@@ -45,8 +45,8 @@ public:
     }
 
     PlaneComponent plane;
-    OffscreenWindow window;
-    PeerInput input;
+    desktop::OffscreenWindow window;
+    bench::PeerInput input;
 
 private:
     std::mt19937 random{ 1 };

@@ -143,7 +143,7 @@ BENCHMARK (DragWithHullAndTriangulation)->Arg (0)->Arg (1)->Unit (benchmark::kMi
 
 int main (int argc, char** argv)
 {
-    OffscreenDesktop::start();
+    desktop::offscreen::start();
     const juce::ScopedJuceInitialiser_GUI juce;
     benchmark::Initialize (&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -69,7 +69,7 @@ struct Canvas
     renderer's slowest case. */
 juce::Path decayOf (float ratio, float control)
 {
-    const lumo::ImpulseResponseScale scale{ 904, 144 };
+    const halcyra::ImpulseResponseScale scale{ 904, 144 };
     const float x = scale.x (95.37f), width = scale.x (2000 * ratio);
     juce::Path path;
     path.startNewSubPath (x, 144);
@@ -96,7 +96,7 @@ void impulseResponseFrame (benchmark::State& state)
     Ambrel::Delgen early (taps, 20, 40, 0.5f), cluster (taps, 20, 40, 0.5f);
     early.setMinMax (22.22f, 39.71f, 0.5f);
     cluster.setMinMax (42.47f, 105.64f, 0.5f);
-    const lumo::ImpulseResponseScale scale{ 904, 144 };
+    const halcyra::ImpulseResponseScale scale{ 904, 144 };
     std::vector<juce::Rectangle<float>> axis, lines;
     juce::GlyphArrangement texts;
     for (int ms = 20; ms < 400; ms += 20) {
@@ -147,7 +147,7 @@ void responseCurveFrame (benchmark::State& state)
 
     HLShelfResponse response;
     response.design (filter);
-    const lumo::HLShelfScale scale{ 192, 150 };
+    const halcyra::HLShelfScale scale{ 192, 150 };
     juce::Path path;
     path.startNewSubPath (0, static_cast<float> (scale.y (response.decibelsAt (20))));
     for (int x = 3; x <= 192; x += 3)
@@ -214,7 +214,7 @@ BENCHMARK (hiddenSetting);
 
 int main (int argc, char** argv)
 {
-    OffscreenDesktop::start();
+    desktop::offscreen::start();
     const juce::ScopedJuceInitialiser_GUI juceEndsWithMain;
     benchmark::Initialize (&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

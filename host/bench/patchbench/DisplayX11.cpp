@@ -2,6 +2,9 @@
 #include <X11/Xlib.h>
 #include <cstdlib>
 
+namespace patchbench
+{
+
 bool canOpenDisplay()
 {
     const auto* name = std::getenv ("DISPLAY");
@@ -11,4 +14,6 @@ bool canOpenDisplay()
     if (display != nullptr)
         XCloseDisplay (display);
     return display != nullptr;
+}
+
 }

@@ -3,6 +3,9 @@
 #include <string>
 #include <vector>
 
+namespace patchbench
+{
+
 /** The entry point of the external for a class, or null. On Linux externals are linked in; on Windows it loads
     CLASS.mxe64, as Max does. */
 bench::Entry findExternal (const std::string& className);
@@ -12,3 +15,5 @@ std::vector<std::string> namesOfExternals();
 
 /** The syntax of those classes' messages: the text of package/messages.txt. */
 const char* messageTable();
+
+}

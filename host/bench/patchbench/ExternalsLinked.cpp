@@ -1,5 +1,8 @@
 #include "host/bench/patchbench/Externals.h"
 
+namespace patchbench
+{
+
 MAX_EXPORT t_clong ext_main (void*);
 
 bench::Entry findExternal (const std::string& className)
@@ -8,3 +11,5 @@ bench::Entry findExternal (const std::string& className)
 }
 
 std::vector<std::string> namesOfExternals() { return { "halcyra~.control" }; }
+
+}

@@ -3,6 +3,9 @@
 #include <filesystem>
 #include <windows.h>
 
+namespace patchbench
+{
+
 namespace
 {
 std::filesystem::path folderOfThisProgram()
@@ -43,4 +46,6 @@ std::vector<std::string> namesOfExternals()
                 names.push_back (entry.path().stem().u8string());
     }
     return names;
+}
+
 }

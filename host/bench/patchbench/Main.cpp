@@ -14,6 +14,8 @@ int main (int argc, char** argv)
     for (auto* stream : { stdout, stderr })
         _setmode (_fileno (stream), _O_BINARY); // same line ends on every platform
 #endif
-    return patchbench::run (
-        argc, argv, { { findExternal, namesOfExternals, patchbench::readMessageForms (messageTable()) }, makeWindows });
+    return patchbench::run (argc, argv,
+                            { { patchbench::findExternal, patchbench::namesOfExternals,
+                                patchbench::readMessageForms (patchbench::messageTable()) },
+                              patchbench::makeWindows });
 }

@@ -5,6 +5,9 @@
 #include <utility>
 #include <vector>
 
+namespace patchbench
+{
+
 namespace
 {
 constexpr DWORD betweenMoves = 20;     // ms; a GUI may skip moves that come faster than frames
@@ -271,4 +274,6 @@ bool Win32Input::key (HWND window, const std::string& description)
         sendKey (code, false);
     }
     return true;
+}
+
 }

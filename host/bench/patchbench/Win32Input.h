@@ -2,6 +2,9 @@
 #include "host/bench/WindowDriver.h"
 #include <windows.h>
 
+namespace patchbench
+{
+
 /** Delivers this thread's pending messages; returns whether there were any. */
 bool pumpMessages();
 
@@ -24,3 +27,5 @@ private:
     POINT lastPlace{};   // of that press, on the screen
     DWORD release = 0;   // the flag that releases the held button
 };
+
+}

@@ -4,6 +4,9 @@
 
 #include <gdiplus.h>
 
+namespace patchbench
+{
+
 namespace
 {
 /** Keeps GDI+ initialised for its lifetime. */
@@ -54,4 +57,6 @@ bool writePictureOf (HWND window, const std::string& file)
     DeleteDC (memory);
     ReleaseDC (window, screen);
     return status == Gdiplus::Ok;
+}
+
 }

@@ -3,6 +3,9 @@
 #include <iterator>
 #include <utility>
 
+namespace patchbench
+{
+
 namespace
 {
 Win32WindowDriver* current = nullptr; // a hook has no context pointer
@@ -174,4 +177,6 @@ std::string Win32WindowDriver::writePicture (void* object, const std::string& fi
         if (! writePictureOf (content, file))
             complaint = "cannot write " + file;
     return complaint;
+}
+
 }

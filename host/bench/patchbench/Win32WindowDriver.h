@@ -4,6 +4,9 @@
 #include <map>
 #include <windows.h>
 
+namespace patchbench
+{
+
 /** The bench's window driver on Windows. It recognises the objects' dialog frames by the messages that Windows sends
     them, uses the real pointer and keyboard, and takes pictures off the screen. The external draws the frame's
     contents, so pages are switched by clicking their tabs. At most one driver at a time; main thread. */
@@ -39,3 +42,5 @@ private:
     std::map<HWND, void*> owners;
     bool frontTold = false; // since the last pump
 };
+
+}

@@ -3,6 +3,9 @@
 #include <JucePrivateParts.h>
 #include <juce_events/native/juce_linux_EventLoopInternal.h>
 
+namespace bench
+{
+
 bool pumpGui()
 {
     bool worked = false;
@@ -12,3 +15,5 @@ bool pumpGui()
 }
 
 std::vector<int> guiDescriptors() { return juce::LinuxEventLoopInternal::getRegisteredFds(); }
+
+}

@@ -4,6 +4,9 @@
 #include "host/desktop/OffscreenDesktop.h"
 #include "host/desktop/OffscreenWindow.h"
 
+namespace bench
+{
+
 namespace
 {
 
@@ -13,17 +16,17 @@ const char* const notOpen = "it is not on the screen";
 std::unique_ptr<juce::ScopedJuceInitialiser_GUI> startJuce (JuceWindowDriver::Place place)
 {
     if (place == JuceWindowDriver::Place::memory)
-        OffscreenDesktop::start();
+        desktop::offscreen::start();
     else
-        startJuceInHost();
+        orvanemax::startJuceInHost();
     return std::make_unique<juce::ScopedJuceInitialiser_GUI>();
 }
 
-std::unique_ptr<NativeWindow> makeWindowAt (JuceWindowDriver::Place place)
+std::unique_ptr<orvanemax::NativeWindow> makeWindowAt (JuceWindowDriver::Place place)
 {
     if (place == JuceWindowDriver::Place::memory)
-        return std::make_unique<OffscreenWindow>();
-    return makePlatformWindow();
+        return std::make_unique<desktop::OffscreenWindow>();
+    return orvanemax::makePlatformWindow();
 }
 
 juce::ModifierKeys keysOf (const bench::PointerEvent& event)
@@ -75,13 +78,13 @@ bool writePng (const juce::Image& picture, const juce::File& file)
 JuceWindowDriver::JuceWindowDriver (Place placeOfWindows)
     : place (placeOfWindows), juceRuns (startJuce (placeOfWindows))
 {
-    setNativeWindowFactory (
+    orvanemax::setNativeWindowFactory (
         [this] (const void* object, juce::Component* component) { return makeWindow (object, component); });
 }
 
 JuceWindowDriver::~JuceWindowDriver()
 {
-    setNativeWindowFactory ({});
+    orvanemax::setNativeWindowFactory ({});
     pumpGui();
 }
 
@@ -152,7 +155,7 @@ std::string JuceWindowDriver::writePicture (void* object, const std::string& fil
     return writePng (pictureOf (*entry->component), path) ? "" : "cannot write " + file;
 }
 
-std::unique_ptr<NativeWindow> JuceWindowDriver::makeWindow (const void* object, juce::Component* component)
+std::unique_ptr<orvanemax::NativeWindow> JuceWindowDriver::makeWindow (const void* object, juce::Component* component)
 {
     entries.insert_or_assign (object, Entry{ component, PeerInput (*component) });
     return std::make_unique<WatchedWindow> (
@@ -173,4 +176,6 @@ JuceWindowDriver::Entry* JuceWindowDriver::find (void* object)
 {
     const auto entry = entries.find (object);
     return entry == entries.end() ? nullptr : &entry->second;
+}
+
 }

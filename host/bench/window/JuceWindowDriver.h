@@ -6,6 +6,9 @@
 
 #include <map>
 
+namespace bench
+{
+
 /** The bench's window driver for JUCE windows, on the display or in memory. Initialises JUCE and shuts it down;
     meanwhile it creates every window of the product and reports its events to the bench. */
 class JuceWindowDriver : public bench::WindowDriver
@@ -38,7 +41,7 @@ private:
         PeerInput input;
     };
 
-    std::unique_ptr<NativeWindow> makeWindow (const void* object, juce::Component* component);
+    std::unique_ptr<orvanemax::NativeWindow> makeWindow (const void* object, juce::Component* component);
     Entry* find (void* object);
 
     const Place place;
@@ -46,3 +49,5 @@ private:
     Sink tell;
     std::map<const void*, Entry> entries;
 };
+
+}

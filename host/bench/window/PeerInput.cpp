@@ -2,6 +2,9 @@
 
 #include "host/desktop/OffscreenDesktop.h"
 
+namespace bench
+{
+
 namespace
 {
 
@@ -117,7 +120,7 @@ bool PeerInput::deliver (juce::Point<float> position, juce::ModifierKeys keys)
         return false;
 
     const auto inPeer = target->getComponent().getLocalPoint (component.get(), position);
-    OffscreenDesktop::setPointer (target->localToGlobal (inPeer).roundToInt());
+    desktop::offscreen::setPointer (target->localToGlobal (inPeer).roundToInt());
     // JUCE takes only the buttons from the event; shift, ctrl and alt come from process-wide state.
     juce::ModifierKeys::currentModifiers = keys;
     target->handleMouseEvent (juce::MouseInputSource::InputSourceType::mouse, inPeer, keys,
@@ -125,4 +128,6 @@ bool PeerInput::deliver (juce::Point<float> position, juce::ModifierKeys keys)
                               eventTime());
     juce::ModifierKeys::currentModifiers = keys.withOnlyMouseButtons();
     return true;
+}
+
 }

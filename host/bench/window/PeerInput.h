@@ -2,6 +2,9 @@
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
+namespace bench
+{
+
 /** Simulates the user's pointer and keyboard. Events enter at the component's peer, as from the window system, with
     their own clock: two presses form a double click only if requested.
 
@@ -37,3 +40,5 @@ private:
     juce::WeakReference<juce::Component> component;
     juce::ModifierKeys heldButton;
 };
+
+}

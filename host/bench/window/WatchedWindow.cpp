@@ -1,6 +1,10 @@
 #include "host/bench/window/WatchedWindow.h"
 
-WatchedWindow::WatchedWindow (std::unique_ptr<NativeWindow> windowToWatch, Tell tellWhat, std::function<void()> atEnd)
+namespace bench
+{
+
+WatchedWindow::WatchedWindow (std::unique_ptr<orvanemax::NativeWindow> windowToWatch, Tell tellWhat,
+                              std::function<void()> atEnd)
     : window (std::move (windowToWatch)), tell (std::move (tellWhat)), onEnd (std::move (atEnd))
 {
     window->onCloseButton = [this] {
@@ -47,4 +51,6 @@ void WatchedWindow::setTitle (const juce::String& title)
 {
     window->setTitle (title);
     tell ("title " + title.toStdString());
+}
+
 }

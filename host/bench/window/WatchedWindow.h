@@ -5,14 +5,17 @@
 #include <functional>
 #include <string>
 
+namespace bench
+{
+
 /** A window that reports its events in the bench's language and forwards all work to another one. */
-class WatchedWindow : public NativeWindow
+class WatchedWindow : public orvanemax::NativeWindow
 {
 public:
     using Tell = std::function<void (const std::string& what)>;
 
     /** Calls onEnd on destruction. */
-    WatchedWindow (std::unique_ptr<NativeWindow> window, Tell tell, std::function<void()> onEnd);
+    WatchedWindow (std::unique_ptr<orvanemax::NativeWindow> window, Tell tell, std::function<void()> onEnd);
     ~WatchedWindow() override;
 
     bool create (const juce::String& title, juce::Rectangle<int> frame) override;
@@ -25,8 +28,10 @@ public:
     [[nodiscard]] bool isOccupied() const override { return window->isOccupied(); }
 
 private:
-    std::unique_ptr<NativeWindow> window;
+    std::unique_ptr<orvanemax::NativeWindow> window;
     Tell tell;
     std::function<void()> onEnd;
     bool shown = false;
 };
+
+}

@@ -2,7 +2,7 @@
 #include <juce_gui_basics/juce_gui_basics.h>
 
 /** Style shared by the window's pages. Message thread. */
-namespace editors
+namespace halcyra::editors
 {
 
 /** Background of each page. */

@@ -1,5 +1,8 @@
 #include "gui/verb/FocusRing.h"
 
+namespace halcyra
+{
+
 namespace
 {
 
@@ -40,4 +43,6 @@ void FocusRing::globalFocusChanged (juce::Component* focused)
 {
     if (focused != surrounded)
         surround (nullptr);
+}
+
 }

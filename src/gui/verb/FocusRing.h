@@ -1,6 +1,9 @@
 #pragma once
 #include <juce_gui_basics/juce_gui_basics.h>
 
+namespace halcyra
+{
+
 /** A frame around the control focused by keyboard, above all pages. Hidden when the focus moves by any other means.
     Message thread. */
 class FocusRing : public juce::Component, private juce::FocusChangeListener
@@ -21,3 +24,5 @@ private:
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (FocusRing)
 };
+
+}

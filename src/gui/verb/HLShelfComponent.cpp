@@ -37,23 +37,23 @@ juce::String frequencyText (float hz)
 HLShelfComponent::Field::Field (const halcyra::ShelfRow& row)
     : slider (row.name, value), label ({}, row.label), value (row.isFrequency ? frequencyText : gainText)
 {
-    editors::styleSlider (slider, juce::Slider::LinearVertical, 100);
+    halcyra::editors::styleSlider (slider, juce::Slider::LinearVertical, 100);
     slider.setColour (juce::Slider::trackColourId, juce::Colour (0x7FFFFFFF));
     slider.setRange (row.range.lowest, row.range.highest, row.range.step);
     slider.setDoubleClickReturnValue (true, row.defaultValue());
     if (row.midPoint > 0)
         slider.setSkewFactorFromMidPoint (row.midPoint);
-    styleLabel (label, 11, juce::Justification::centred);
-    styleLabel (value, 11, juce::Justification::centred);
+    halcyra::styleLabel (label, 11, juce::Justification::centred);
+    halcyra::styleLabel (value, 11, juce::Justification::centred);
     label.setBorderSize ({ 0, 0, 0, 0 });
     value.setBorderSize ({ 0, 1, 0, 1 });
 }
 
 HLShelfComponent::HLShelfComponent (const juce::String& name)
-    : HLShelfComponent (name, std::make_unique<SelfWakingModel> (0))
+    : HLShelfComponent (name, std::make_unique<halcyra::SelfWakingModel> (0))
 {}
 
-HLShelfComponent::HLShelfComponent (const juce::String& name, std::unique_ptr<SelfWakingModel> own)
+HLShelfComponent::HLShelfComponent (const juce::String& name, std::unique_ptr<halcyra::SelfWakingModel> own)
     : HLShelfComponent (name, *own, 0)
 {
     ownModel = std::move (own);
@@ -195,6 +195,6 @@ void HLShelfComponent::resized()
     reset.setBounds (8, 352, 56, 16);
 }
 
-void HLShelfComponent::paint (juce::Graphics& g) { g.fillAll (editors::pageColour); }
+void HLShelfComponent::paint (juce::Graphics& g) { g.fillAll (halcyra::editors::pageColour); }
 
 }

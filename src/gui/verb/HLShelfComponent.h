@@ -42,12 +42,12 @@ private:
     struct Field
     {
         explicit Field (const halcyra::ShelfRow& row);
-        NumberSlider slider;
+        halcyra::NumberSlider slider;
         juce::Label label;
-        ValueLabel value;
+        halcyra::ValueLabel value;
     };
 
-    HLShelfComponent (const juce::String& name, std::unique_ptr<SelfWakingModel> own);
+    HLShelfComponent (const juce::String& name, std::unique_ptr<halcyra::SelfWakingModel> own);
 
     void reverbChanged (const halcyra::ReverbModel::Change& change) override;
     void sliderValueChanged (juce::Slider* slider) override;
@@ -61,7 +61,7 @@ private:
     void showField (std::size_t field);
     [[nodiscard]] std::size_t fieldOf (const juce::Slider* slider) const noexcept;
 
-    std::unique_ptr<SelfWakingModel> ownModel; // null inside a window
+    std::unique_ptr<halcyra::SelfWakingModel> ownModel; // null inside a window
     halcyra::ReverbModel& model;
     const HalcyraFilter number;
 
@@ -70,7 +70,7 @@ private:
     std::array<std::unique_ptr<Field>, halcyra::shelfTable.size()> fields;
     juce::TextButton reset{ "ResetButton" };
     bool stale = true;
-    SightWatcher sight;
+    halcyra::SightWatcher sight;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HLShelfComponent)
 };

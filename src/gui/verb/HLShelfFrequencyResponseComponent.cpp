@@ -19,12 +19,13 @@ juce::Colour curveLineColour() { return curveColour.darker (0.4f); }
 
 float limitedGain (double dB)
 {
-    return static_cast<float> (std::clamp (dB, HLShelfScale::lowestGain, HLShelfScale::highestGain));
+    return static_cast<float> (std::clamp (dB, halcyra::HLShelfScale::lowestGain, halcyra::HLShelfScale::highestGain));
 }
 
 float limitedFrequency (double hz)
 {
-    return static_cast<float> (std::clamp (hz, HLShelfScale::lowestFrequency, HLShelfScale::highestFrequency));
+    return static_cast<float> (
+        std::clamp (hz, halcyra::HLShelfScale::lowestFrequency, halcyra::HLShelfScale::highestFrequency));
 }
 
 void drawVertical (juce::Graphics& g, double x, float thickness, float height)
@@ -35,11 +36,11 @@ void drawVertical (juce::Graphics& g, double x, float thickness, float height)
 }
 
 HLShelfFrequencyResponseComponent::HLShelfFrequencyResponseComponent (const juce::String& name)
-    : HLShelfFrequencyResponseComponent (name, std::make_unique<SelfWakingModel> (0))
+    : HLShelfFrequencyResponseComponent (name, std::make_unique<halcyra::SelfWakingModel> (0))
 {}
 
 HLShelfFrequencyResponseComponent::HLShelfFrequencyResponseComponent (const juce::String& name,
-                                                                      std::unique_ptr<SelfWakingModel> own)
+                                                                      std::unique_ptr<halcyra::SelfWakingModel> own)
     : HLShelfFrequencyResponseComponent (name, *own, 0)
 {
     ownModel = std::move (own);
@@ -114,7 +115,7 @@ void HLShelfFrequencyResponseComponent::requestClose()
     tellListeners ([] (Listener& l) { l.filterClose(); });
 }
 
-HLShelfScale HLShelfFrequencyResponseComponent::scale() const noexcept
+halcyra::HLShelfScale HLShelfFrequencyResponseComponent::scale() const noexcept
 {
     return { static_cast<double> (getWidth()), static_cast<double> (getHeight()) };
 }
@@ -226,7 +227,7 @@ void HLShelfFrequencyResponseComponent::resized() { grid.setBounds (getLocalBoun
 void HLShelfFrequencyResponseComponent::paintOverChildren (juce::Graphics& g)
 {
     bringUpToDate();
-    g.setFont (juce::Font (HLShelfGrid::fontHeight));
+    g.setFont (juce::Font (halcyra::HLShelfGrid::fontHeight));
     paintCurve (g);
     if (hovered)
         paintHandles (g);
@@ -251,7 +252,7 @@ juce::Path HLShelfFrequencyResponseComponent::curve() const
         return static_cast<float> (std::clamp (s.y (response.decibelsAt (hz)), 0.0, s.height));
     };
     juce::Path path;
-    path.startNewSubPath (0, y (HLShelfScale::lowestFrequency));
+    path.startNewSubPath (0, y (halcyra::HLShelfScale::lowestFrequency));
     for (int x = 3; x <= getWidth(); x += 3)
         path.lineTo (static_cast<float> (x), y (s.frequency (x)));
     return path;

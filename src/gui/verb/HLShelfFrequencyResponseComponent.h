@@ -73,14 +73,14 @@ private:
         numHandles
     };
 
-    HLShelfFrequencyResponseComponent (const juce::String& name, std::unique_ptr<SelfWakingModel> own);
+    HLShelfFrequencyResponseComponent (const juce::String& name, std::unique_ptr<halcyra::SelfWakingModel> own);
 
     template <typename Call>
     void tellListeners (Call&& tell);
     void reverbChanged (const halcyra::ReverbModel::Change& change) override;
     void filterTold (HalcyraFilter told) override;
     void setField (std::size_t field, float value, halcyra::Edit edit);
-    [[nodiscard]] HLShelfScale scale() const noexcept;
+    [[nodiscard]] halcyra::HLShelfScale scale() const noexcept;
     [[nodiscard]] juce::Point<double> handleCentre (int handle) const noexcept;
     [[nodiscard]] int handleRadius() const noexcept;
     [[nodiscard]] int handleAt (juce::Point<double> position) const noexcept;
@@ -90,11 +90,11 @@ private:
     void paintCurve (juce::Graphics& g) const;
     void paintHandles (juce::Graphics& g) const;
 
-    std::unique_ptr<SelfWakingModel> ownModel; // null inside a window
+    std::unique_ptr<halcyra::SelfWakingModel> ownModel; // null inside a window
     halcyra::ReverbModel& model;
     const HalcyraFilter number;
 
-    HLShelfGrid grid;
+    halcyra::HLShelfGrid grid;
     HLShelfResponse response;
     bool stale = true; // recompute the response at the next paint
     int selectedHandle = none;

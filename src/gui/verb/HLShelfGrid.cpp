@@ -3,7 +3,7 @@
 #include "gui/verb/EditorStyle.h"
 #include "reverb/HLShelfScale.h"
 
-namespace lumo
+namespace halcyra
 {
 
 namespace
@@ -21,8 +21,8 @@ HLShelfGrid::HLShelfGrid()
 
 void HLShelfGrid::paint (juce::Graphics& g)
 {
-    picture.Draw (g, Plane::PixelGrid::Of (*this, g), true, [this] (juce::Graphics& onPicture) {
-        onPicture.fillAll (editors::pageColour);
+    picture.Draw (g, lumo::Plane::PixelGrid::Of (*this, g), true, [this] (juce::Graphics& onPicture) {
+        onPicture.fillAll (halcyra::editors::pageColour);
         paintGains (onPicture);
         paintFrequencies (onPicture);
     });

@@ -3,7 +3,7 @@
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
-namespace lumo
+namespace halcyra
 {
 
 /** Grid of gains and frequencies behind a response curve. Static, so cached as an image at the screen's resolution. */
@@ -24,7 +24,7 @@ private:
     void paintGains (juce::Graphics& g) const;
     void paintFrequencies (juce::Graphics& g) const;
 
-    Plane::StaticCache picture;
+    lumo::Plane::StaticCache picture;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HLShelfGrid)
 };

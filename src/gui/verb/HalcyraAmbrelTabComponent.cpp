@@ -12,4 +12,4 @@ HalcyraAmbrelTabComponent::HalcyraAmbrelTabComponent (std::unique_ptr<lumo::Plan
 
 void HalcyraAmbrelTabComponent::resized() { plane->setBounds (planeX, planeY, planeSize, planeSize); }
 
-void HalcyraAmbrelTabComponent::paint (juce::Graphics& g) { g.fillAll (editors::pageColour); }
+void HalcyraAmbrelTabComponent::paint (juce::Graphics& g) { g.fillAll (halcyra::editors::pageColour); }

@@ -50,7 +50,7 @@ halcyra::EditHistory::Gesture presentGesture()
 /** Created only for a window. */
 struct HalcyraComponent::Pages
 {
-    Pages (HalcyraComponent& owner, std::unique_ptr<UndoablePlane> plane)
+    Pages (HalcyraComponent& owner, std::unique_ptr<halcyra::UndoablePlane> plane)
     {
         tabs.setTabBarDepth (30);
         tabs.addPage ("Time Structure", tabColour,
@@ -61,8 +61,8 @@ struct HalcyraComponent::Pages
     }
 
     juce::SharedResourcePointer<widgets::TooltipWindow> tooltipWindow;
-    PageTabs tabs;
-    FocusRing focusRing;
+    halcyra::PageTabs tabs;
+    halcyra::FocusRing focusRing;
 };
 
 HalcyraComponent::HalcyraComponent (std::uint32_t sources, std::uint32_t speakers, std::uint32_t internals)
@@ -70,7 +70,7 @@ HalcyraComponent::HalcyraComponent (std::uint32_t sources, std::uint32_t speaker
       numspeakers (speakers),
       numinternals (internals),
       model (static_cast<int> (internals)),
-      planeWithoutPage (std::make_unique<UndoablePlane> (
+      planeWithoutPage (std::make_unique<halcyra::UndoablePlane> (
           sources, speakers, 400, [this] (const Poses& before, const Poses& after) { sceneMoved (before, after); },
           [this] { history.closeRun(); })),
       plane (planeWithoutPage.get())

@@ -141,13 +141,13 @@ private:
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
 
     const std::uint32_t numsources, numspeakers, numinternals;
-    SelfWakingModel model;
+    halcyra::SelfWakingModel model;
     halcyra::EditHistory history;
     juce::Component* lastPressed = nullptr; // only compared, never dereferenced: what was last pressed
     int stepsOfClicks = 0;                  // steps made by the presses of one multiple click
     qel::Listeners<Listener> listeners;
-    std::unique_ptr<UndoablePlane> planeWithoutPage; // until the pages are created
-    UndoablePlane* const plane;
+    std::unique_ptr<halcyra::UndoablePlane> planeWithoutPage; // until the pages are created
+    halcyra::UndoablePlane* const plane;
 
     struct Pages;
     std::unique_ptr<Pages> pages;

@@ -24,4 +24,4 @@ void HalcyraFiltersTabComponent::resized()
     }
 }
 
-void HalcyraFiltersTabComponent::paint (juce::Graphics& g) { g.fillAll (editors::pageColour); }
+void HalcyraFiltersTabComponent::paint (juce::Graphics& g) { g.fillAll (halcyra::editors::pageColour); }

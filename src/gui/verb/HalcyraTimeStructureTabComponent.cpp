@@ -37,7 +37,7 @@ Edit editOf (int notification) { return notification == 1 ? Edit::message : Edit
 
 juce::String roomText (float cubicMetres) { return juce::String (static_cast<int> (cubicMetres)) + " m^3"; }
 
-lumo::ValueLabel::Format textOf (const halcyra::ParameterRow& row)
+halcyra::ValueLabel::Format textOf (const halcyra::ParameterRow& row)
 {
     return [&row] (float value) { return juce::String (value, row.decimals) + row.unit; };
 }
@@ -54,11 +54,11 @@ void setRange (juce::Slider& slider, const halcyra::SliderRange& range, double m
 }
 
 HalcyraTimeStructureTabComponent::HalcyraTimeStructureTabComponent (const juce::String& name, int numinternals)
-    : HalcyraTimeStructureTabComponent (name, std::make_unique<SelfWakingModel> (numinternals))
+    : HalcyraTimeStructureTabComponent (name, std::make_unique<halcyra::SelfWakingModel> (numinternals))
 {}
 
 HalcyraTimeStructureTabComponent::HalcyraTimeStructureTabComponent (const juce::String& name,
-                                                                    std::unique_ptr<SelfWakingModel> own)
+                                                                    std::unique_ptr<halcyra::SelfWakingModel> own)
     : HalcyraTimeStructureTabComponent (name, *own)
 {
     ownModel = std::move (own);
@@ -125,7 +125,7 @@ void HalcyraTimeStructureTabComponent::makeControls()
     }
     auto& gain = numbers[parameter::gain]->slider;
     gain.setSliderStyle (juce::Slider::LinearBar);
-    gain.setColour (juce::Slider::backgroundColourId, editors::pageColour);
+    gain.setColour (juce::Slider::backgroundColourId, halcyra::editors::pageColour);
     gain.setColour (juce::Slider::trackColourId, juce::Colour (0x00DBDBDB));
 }
 
@@ -142,8 +142,8 @@ void HalcyraTimeStructureTabComponent::makeLabel (const juce::String& text, cons
                                                   juce::Rectangle<int> box, float fontHeight, bool onRight)
 {
     auto& label = *labels.emplace_back (std::make_unique<juce::Label>());
-    lumo::styleLabel (label, fontHeight,
-                      onRight ? juce::Justification::centredRight : juce::Justification::centredLeft);
+    halcyra::styleLabel (label, fontHeight,
+                         onRight ? juce::Justification::centredRight : juce::Justification::centredLeft);
     label.setName (name);
     label.setText (text, juce::dontSendNotification);
     label.setBounds (box);
@@ -153,13 +153,13 @@ void HalcyraTimeStructureTabComponent::makeLabel (const juce::String& text, cons
 void HalcyraTimeStructureTabComponent::place (NumberControl& control, juce::Rectangle<int> sliderBox,
                                               juce::Rectangle<int> valueBox, int textBoxWidth)
 {
-    editors::styleSlider (control.slider, juce::Slider::LinearHorizontal, textBoxWidth);
+    halcyra::editors::styleSlider (control.slider, juce::Slider::LinearHorizontal, textBoxWidth);
     control.slider.setBounds (sliderBox);
     control.slider.addListener (this);
     control.slider.onGestureBoundary = [this] { model.boundGesture(); };
     addStop (control.slider);
 
-    lumo::styleLabel (control.value, 12, juce::Justification::centredLeft);
+    halcyra::styleLabel (control.value, 12, juce::Justification::centredLeft);
     control.value.setBorderSize ({ 1, 5, 1, 0 });
     control.value.setBounds (valueBox);
     addAndMakeVisible (control.value);
@@ -315,7 +315,7 @@ void HalcyraTimeStructureTabComponent::resized()
     reset.setBounds (halcyra::resetBox.rectangle());
 }
 
-void HalcyraTimeStructureTabComponent::paint (juce::Graphics& g) { g.fillAll (editors::pageColour); }
+void HalcyraTimeStructureTabComponent::paint (juce::Graphics& g) { g.fillAll (halcyra::editors::pageColour); }
 
 void HalcyraTimeStructureTabComponent::Group::paint (juce::Graphics& g)
 {

@@ -45,11 +45,11 @@ private:
     /** A number: its slider and value label. */
     struct NumberControl
     {
-        NumberControl (const juce::String& sliderName, lumo::ValueLabel::Format format)
+        NumberControl (const juce::String& sliderName, halcyra::ValueLabel::Format format)
             : slider (sliderName, value), value (std::move (format))
         {}
-        lumo::NumberSlider slider;
-        lumo::ValueLabel value;
+        halcyra::NumberSlider slider;
+        halcyra::ValueLabel value;
     };
 
     /** Repaints only its line and title: the contents repaint often. */
@@ -59,7 +59,7 @@ private:
         void paint (juce::Graphics& g) override;
     };
 
-    HalcyraTimeStructureTabComponent (const juce::String& name, std::unique_ptr<SelfWakingModel> own);
+    HalcyraTimeStructureTabComponent (const juce::String& name, std::unique_ptr<halcyra::SelfWakingModel> own);
 
     void reverbChanged (const halcyra::ReverbModel::Change& change) override;
     void parameterTold (HalcyraReverbParameter number) override;
@@ -83,7 +83,7 @@ private:
     [[nodiscard]] NumberControl* controlOf (halcyra::ReverbCell cell) noexcept;
     [[nodiscard]] juce::ToggleButton* toggleOf (HalcyraReverbParameter number) noexcept;
 
-    std::unique_ptr<SelfWakingModel> ownModel; // null inside a window
+    std::unique_ptr<halcyra::SelfWakingModel> ownModel; // null inside a window
     halcyra::ReverbModel& model;
     qel::Listeners<lumo::HalcyraTimeStructureListener> listeners;
 
@@ -96,7 +96,7 @@ private:
     juce::TextButton reset{ "ResetButton" };
     int numStops = 0; // of the tab key
     std::bitset<halcyra::cell::firstFilter> stale;
-    SightWatcher sight;
+    halcyra::SightWatcher sight;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HalcyraTimeStructureTabComponent)
 };

@@ -45,7 +45,7 @@ juce::Path decayShape (juce::Point<float> corner, float width, float bottom, flo
     return path;
 }
 
-void drawTap (juce::Graphics& g, const ImpulseResponseScale& scale, float ms, float gain)
+void drawTap (juce::Graphics& g, const halcyra::ImpulseResponseScale& scale, float ms, float gain)
 {
     const float x = scale.x (ms), top = scale.top (gain);
     if (x < scale.width + 1)
@@ -136,7 +136,7 @@ void ImpulseResponseComponent::setClusterDistr (float distribution)
     store (shown.clusterDistr, distribution, clusterDelays);
 }
 
-ImpulseResponseScale ImpulseResponseComponent::scale() const noexcept
+halcyra::ImpulseResponseScale ImpulseResponseComponent::scale() const noexcept
 {
     return { static_cast<float> (getWidth()), static_cast<float> (getHeight()), zoom };
 }
@@ -167,7 +167,7 @@ void ImpulseResponseComponent::buildDecay (float pixelScale)
     const auto shape = [&] (float ratio, float control) {
         return decayShape (corner, s.x (seconds * ratio * 1000), s.height, control, s.width);
     };
-    const std::vector<OverlaidFill> bands{
+    const std::vector<halcyra::OverlaidFill> bands{
         { shape (shown.trl, 67.0f / 193), juce::Colour (0x80FF0000) },
         { shape (shown.trm, 42.0f / 134), juce::Colour (0x80AEFF00) },
         { shape (shown.trh, 37.0f / 84), juce::Colour (0x800057FF) },
@@ -192,7 +192,7 @@ void ImpulseResponseComponent::buildDecay (float pixelScale)
         g.addTransform (toScreen.translated (-decayArea.getPosition().toFloat()));
         paintGround (g);
     }
-    overlayFills (decayImage, decayArea, evenGround, backgroundColour, bands, toScreen);
+    halcyra::overlayFills (decayImage, decayArea, evenGround, backgroundColour, bands, toScreen);
 }
 
 void ImpulseResponseComponent::paintGround (juce::Graphics& g) const
@@ -288,7 +288,7 @@ void ImpulseResponseComponent::resized() { stale |= decay | ticks; }
 void ImpulseResponseComponent::mouseWheelMove (const juce::MouseEvent&, const juce::MouseWheelDetails& wheel)
 {
     if (std::isfinite (wheel.deltaY))
-        store (zoom, ImpulseResponseScale::zoomed (zoom, wheel.deltaY), decay | ticks);
+        store (zoom, halcyra::ImpulseResponseScale::zoomed (zoom, wheel.deltaY), decay | ticks);
 }
 
 bool ImpulseResponseComponent::keyPressed (const juce::KeyPress& key)
@@ -296,7 +296,7 @@ bool ImpulseResponseComponent::keyPressed (const juce::KeyPress& key)
     const bool in = key == juce::KeyPress::upKey || key == juce::KeyPress::rightKey;
     const bool out = key == juce::KeyPress::downKey || key == juce::KeyPress::leftKey;
     if (in || out)
-        store (zoom, ImpulseResponseScale::zoomed (zoom, in ? 1.0f : -1.0f), decay | ticks);
+        store (zoom, halcyra::ImpulseResponseScale::zoomed (zoom, in ? 1.0f : -1.0f), decay | ticks);
     return in || out;
 }
 
@@ -317,14 +317,16 @@ public:
     {
         const auto range = getRange();
         const auto span = static_cast<float> (juce::jlimit (range.getMinimumValue(), range.getMaximumValue(), ms));
-        display.store (display.zoom, ImpulseResponseScale{ 0, 0, 1 }.span() / span, decay | ticks);
+        display.store (display.zoom, halcyra::ImpulseResponseScale{ 0, 0, 1 }.span() / span, decay | ticks);
     }
     AccessibleValueRange getRange() const override
     {
         const auto spanAt = [] (float zoomed) {
-            return static_cast<double> (ImpulseResponseScale{ 0, 0, zoomed }.span());
+            return static_cast<double> (halcyra::ImpulseResponseScale{ 0, 0, zoomed }.span());
         };
-        return { { spanAt (ImpulseResponseScale::greatestZoom), spanAt (ImpulseResponseScale::leastZoom) }, 1 };
+        return { { spanAt (halcyra::ImpulseResponseScale::greatestZoom),
+                   spanAt (halcyra::ImpulseResponseScale::leastZoom) },
+                 1 };
     }
 
 private:

@@ -58,7 +58,7 @@ private:
 
     void store (float& field, float value, unsigned makesStale);
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
-    [[nodiscard]] ImpulseResponseScale scale() const noexcept;
+    [[nodiscard]] halcyra::ImpulseResponseScale scale() const noexcept;
     [[nodiscard]] juce::Point<float> decayCorner() const noexcept;
     [[nodiscard]] juce::Rectangle<int> decayExtent() const noexcept;
     [[nodiscard]] juce::Rectangle<int> coveredByDecay() const;
@@ -72,7 +72,7 @@ private:
     void paintTaps (juce::Graphics& g) const;
 
     HalcyraTimeStructure shown; // cluster times are relative to the early stage's once they have been set
-    float zoom = ImpulseResponseScale::defaultZoom;
+    float zoom = halcyra::ImpulseResponseScale::defaultZoom;
 
     Ambrel::Delgen early, cluster;
     qel::Vector<float> gains; // of the early taps

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace lumo
+namespace halcyra
 {
 
 /** Maps times and levels to pixels in an impulse response of a given size. */

@@ -1,6 +1,6 @@
 #include "gui/verb/NumberSlider.h"
 
-namespace lumo
+namespace halcyra
 {
 
 namespace

@@ -1,7 +1,7 @@
 #pragma once
 #include "gui/verb/ValueLabel.h"
 
-namespace lumo
+namespace halcyra
 {
 
 /** A slider with cursor keys and screen reader support: a key moves it by one step, with shift by ten. Screen readers

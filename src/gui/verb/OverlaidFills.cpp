@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace lumo
+namespace halcyra
 {
 
 namespace

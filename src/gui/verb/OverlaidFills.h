@@ -3,7 +3,7 @@
 
 #include <vector>
 
-namespace lumo
+namespace halcyra
 {
 
 /** A path and the translucent colour that fills it. */

@@ -1,5 +1,8 @@
 #include "gui/verb/PageTabs.h"
 
+namespace halcyra
+{
+
 namespace
 {
 
@@ -71,4 +74,6 @@ juce::TabBarButton* PageTabs::createTabButton (const juce::String& name, int)
 std::unique_ptr<juce::AccessibilityHandler> PageTabs::createAccessibilityHandler()
 {
     return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::ignored);
+}
+
 }

@@ -1,6 +1,9 @@
 #pragma once
 #include <juce_gui_basics/juce_gui_basics.h>
 
+namespace halcyra
+{
+
 /** The pages and their tabs. The tab key reaches a tab after its page's controls, and return switches to it; clicking a
     tab leaves the focus on the page. Message thread. */
 class PageTabs : public juce::TabbedComponent
@@ -17,3 +20,5 @@ private:
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (PageTabs)
 };
+
+}

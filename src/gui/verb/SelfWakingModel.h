@@ -3,6 +3,9 @@
 
 #include <juce_events/juce_events.h>
 
+namespace halcyra
+{
+
 /** A model whose turns end with a JUCE message, unless its owner sets another waker. Message thread. */
 class SelfWakingModel : public halcyra::ReverbModel, private juce::AsyncUpdater
 {
@@ -15,3 +18,5 @@ public:
 private:
     void handleAsyncUpdate() override { endTurn(); }
 };
+
+}

@@ -3,6 +3,9 @@
 
 #include <functional>
 
+namespace halcyra
+{
+
 /** Calls back when a component comes into or goes out of sight, for any reason. Message thread. */
 class SightWatcher : private juce::ComponentMovementWatcher
 {
@@ -20,3 +23,5 @@ private:
 
     Callback changed;
 };
+
+}

@@ -5,6 +5,9 @@
 #include <functional>
 #include <utility>
 
+namespace halcyra
+{
+
 /** A window's scene editor; reports what each of the user's events moved. Message thread. */
 class UndoablePlane : public lumo::PlaneComponent
 {
@@ -54,3 +57,5 @@ private:
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (UndoablePlane)
 };
+
+}

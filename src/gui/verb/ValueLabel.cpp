@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace lumo
+namespace halcyra
 {
 
 ValueLabel::ValueLabel (Format numberToText) : format (std::move (numberToText))

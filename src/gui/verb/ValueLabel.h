@@ -3,7 +3,7 @@
 
 #include <functional>
 
-namespace lumo
+namespace halcyra
 {
 
 /** A label that shows a number. Formats it only when drawn, so that labels in a closed window cost nothing. Message

@@ -1,5 +1,8 @@
 #include "max/window/NativeWindow.h"
 
+namespace orvanemax
+{
+
 namespace
 {
 
@@ -18,3 +21,5 @@ std::unique_ptr<NativeWindow> makeNativeWindow (const void* owner, juce::Compone
 }
 
 void setNativeWindowFactory (NativeWindowFactory factory) { installedFactory() = std::move (factory); }
+
+}

@@ -5,6 +5,9 @@
 #include <functional>
 #include <memory>
 
+namespace orvanemax
+{
+
 /** A top-level desktop window that shows one component, which it does not own. The native window exists from create()
     to destroy(). Main thread.
 
@@ -58,3 +61,5 @@ std::unique_ptr<NativeWindow> makePlatformWindow();
 /** Initialises JUCE on the calling thread, which becomes its message thread, unless another external of the process
     already has. The host's message pump then serves it. On platforms other than Windows the host defines this. */
 void startJuceInHost();
+
+}

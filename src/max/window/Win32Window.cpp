@@ -2,6 +2,9 @@
 
 #include <windows.h>
 
+namespace orvanemax
+{
+
 namespace
 {
 
@@ -120,3 +123,5 @@ void Win32Window::attach (juce::Component* component)
 }
 
 bool Win32Window::isOccupied() const { return content != nullptr && content->isOnDesktop(); }
+
+}

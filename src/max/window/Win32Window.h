@@ -2,6 +2,9 @@
 
 #include "max/window/NativeWindow.h"
 
+namespace orvanemax
+{
+
 /** A native Windows window: a plain dialog frame with the component as a child window.
     The component keeps its size whatever the user does to the frame. */
 class Win32Window : public NativeWindow
@@ -23,3 +26,5 @@ private:
     void* handle = nullptr;
     juce::Component::SafePointer<juce::Component> content;
 };
+
+}

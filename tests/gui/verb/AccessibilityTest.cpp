@@ -30,10 +30,10 @@ public:
     ~HandledWindow() override { removeFromDesktop(); }
 
 private:
-    class Peer : public OffscreenPeer
+    class Peer : public desktop::OffscreenPeer
     {
     public:
-        using OffscreenPeer::OffscreenPeer;
+        using desktop::OffscreenPeer::OffscreenPeer;
         void* getNativeHandle() const override { return const_cast<Peer*> (this); }
     };
     juce::ComponentPeer* createNewPeer (int style, void*) override { return new Peer (*this, style); }
@@ -42,7 +42,7 @@ private:
 class Accessibility : public testing::Test
 {
 protected:
-    Accessibility() : window ((component.setSize (930, 440), component)) { pumpGui(); }
+    Accessibility() : window ((component.setSize (930, 440), component)) { bench::pumpGui(); }
 
     juce::TabbedComponent& tabs() { return *dynamic_cast<juce::TabbedComponent*> (component.getChildComponent (0)); }
 
@@ -50,7 +50,7 @@ protected:
     std::vector<std::string> onPage (int page)
     {
         tabs().setCurrentTabIndex (page);
-        pumpGui();
+        bench::pumpGui();
         std::vector<std::string> found;
         spoken::walk (*component.getAccessibilityHandler(), [&] (juce::AccessibilityHandler& handler) {
             found.push_back (
@@ -156,7 +156,7 @@ TEST_F (Accessibility, MakesNothingForObjectsUntilAScreenReaderAsksAndFollowsThe
 {
     auto& plane = *component.getPlane();
     tabs().setCurrentTabIndex (2);
-    pumpGui();
+    bench::pumpGui();
     plane.grabKeyboardFocus();
     const juce::KeyPress next (juce::KeyPress::tabKey);
     plane.keyPressed (next);

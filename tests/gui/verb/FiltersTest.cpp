@@ -32,7 +32,7 @@ protected:
     [[nodiscard]] const HLShelfParameters& filter() { return curve.getParameters(); }
     [[nodiscard]] juce::Point<int> handle (double hz, double dB) const
     {
-        const lumo::HLShelfScale s{ 192, 150 };
+        const halcyra::HLShelfScale s{ 192, 150 };
         return stage.at (curve, { juce::roundToInt (s.x (hz)), juce::roundToInt (s.y (dB)) });
     }
     [[nodiscard]] juce::Point<int> slider (int field) const
@@ -180,7 +180,7 @@ TEST_F (Filters, LabelsShowWhatTheFilterHoldsThoughASliderEndsBefore)
     const auto texts = [this] {
         juce::StringArray shown;
         for (auto* child : column.getChildren())
-            if (const auto* label = dynamic_cast<lumo::ValueLabel*> (child))
+            if (const auto* label = dynamic_cast<halcyra::ValueLabel*> (child))
                 shown.add (label->shownText());
         return shown.joinIntoString (", ");
     };
@@ -226,8 +226,8 @@ TEST_F (Filters, TheCurveIsFilledUpToItsGain)
 
 TEST (HLShelfGrid, TheTextsOfNeighbouringFrequenciesKeepApart)
 {
-    const lumo::HLShelfScale s{ 192, 150 };
-    const auto font = lumo::HLShelfGrid::frequencyFont();
+    const halcyra::HLShelfScale s{ 192, 150 };
+    const auto font = halcyra::HLShelfGrid::frequencyFont();
     const auto half = [&] (const char* text) { return 0.5 * static_cast<double> (font.getStringWidthFloat (text)); };
     struct
     {

@@ -48,7 +48,7 @@ class Halcyra : public testing::Test
 protected:
     Halcyra()
     {
-        pumpGui();
+        bench::pumpGui();
         ear.take(); // notifications left from construction
     }
 
@@ -86,11 +86,11 @@ TEST_F (Halcyra, ASettingActsAtOnceAndIsToldWhenTheTurnEnds)
     component.setAir (false);
     EXPECT_THAT (ear.take(), ElementsAre ("reverb 17")) << "switches at once";
     EXPECT_EQ (component.getReverbGain(), 3);
-    pumpGui();
+    bench::pumpGui();
     EXPECT_THAT (ear.take(), ElementsAre ("reverb 0"));
     EXPECT_EQ (component.getReverbGain(), 3);
     component.setReverbGain (3);
-    pumpGui();
+    bench::pumpGui();
     EXPECT_THAT (ear.take(), IsEmpty()) << "no change, no message";
 }
 
@@ -120,7 +120,7 @@ TEST_F (Halcyra, EachNamedSetterReachesItsFieldAndNoOther)
            Row{ 16, &H::setModalDensity, &H::getModalDensity, 2 },
            Row{ 19, &H::setAirFrequency, &H::getAirFrequency, 5000 } }) {
         (component.*row.set) (row.value);
-        pumpGui();
+        bench::pumpGui();
         EXPECT_THAT (ear.take(), ElementsAre ("reverb " + std::to_string (row.number)));
         EXPECT_NEAR ((component.*row.get)(), row.value, 1e-3f) << row.number;
         EXPECT_EQ ((component.*row.get)(), component.reverbParameter (row.number));
@@ -153,11 +153,11 @@ TEST_F (Halcyra, ResetReturnsFiltersFirst)
 {
     component.setReverbGain (5);
     component.setDirectFilter ({ 1, 2, 3, 4, 500, 600 }, false);
-    pumpGui();
+    bench::pumpGui();
     ear.take();
     component.resetAll();
     EXPECT_THAT (ear.take(), ElementsAre ("filter 0", "filter 1", "filter 2", "filter 3"));
-    pumpGui();
+    bench::pumpGui();
     EXPECT_THAT (ear.take(), testing::Contains ("reverb 0"));
     EXPECT_EQ (component.getReverbGain(), 0);
     EXPECT_EQ (component.getDirectFilter(), HLShelfParameters{});
@@ -171,7 +171,7 @@ TEST_F (Halcyra, WhatIsNotFiniteNeverEnters)
         component.setRoomSize (bad, 1);
         component.setDirectFilter ({ 0, bad, 0, 0, 250, 4000 }, true);
     }
-    pumpGui();
+    bench::pumpGui();
     EXPECT_THAT (ear.take(), IsEmpty());
 }
 
@@ -225,9 +225,9 @@ TEST_F (Halcyra, AHiddenSettingShowsWhenItsPageIsTurnedTo)
     const auto before = stage.picture().createCopy();
     tabs->setCurrentTabIndex (1);
     component.setReverbGain (20);
-    pumpGui();
+    bench::pumpGui();
     tabs->setCurrentTabIndex (0);
-    pumpGui();
+    bench::pumpGui();
     const auto after = stage.picture();
     const auto differ = [&] (juce::Rectangle<int> area) { return differIn (area, before, after); };
     const auto page = stage.at (*tabs->getCurrentContentComponent(), {});

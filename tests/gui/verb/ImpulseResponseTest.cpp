@@ -7,11 +7,11 @@
 namespace
 {
 
-using lumo::ImpulseResponseScale;
+using halcyra::ImpulseResponseScale;
 
 TEST (ImpulseResponseScale, CoversTimesFromTheLeftEdgeToTheSpan)
 {
-    const ImpulseResponseScale s{ 904, 144, 0.5f };
+    const halcyra::ImpulseResponseScale s{ 904, 144, 0.5f };
     EXPECT_EQ (s.span(), 400);
     EXPECT_EQ (s.x (0), 0);
     EXPECT_EQ (s.x (100), 226);
@@ -23,10 +23,10 @@ TEST (ImpulseResponseScale, CoversTimesFromTheLeftEdgeToTheSpan)
 
 TEST (ImpulseResponseScale, ZoomsBetweenAHundredAndEightHundredMs)
 {
-    float zoom = ImpulseResponseScale::defaultZoom;
-    EXPECT_FLOAT_EQ (ImpulseResponseScale::zoomed (zoom, 1), 0.5f * std::pow (2.0f, 0.15f));
-    EXPECT_EQ (ImpulseResponseScale::zoomed (zoom, 1000), 2);
-    EXPECT_EQ (ImpulseResponseScale::zoomed (zoom, -1000), 0.25f);
+    float zoom = halcyra::ImpulseResponseScale::defaultZoom;
+    EXPECT_FLOAT_EQ (halcyra::ImpulseResponseScale::zoomed (zoom, 1), 0.5f * std::pow (2.0f, 0.15f));
+    EXPECT_EQ (halcyra::ImpulseResponseScale::zoomed (zoom, 1000), 2);
+    EXPECT_EQ (halcyra::ImpulseResponseScale::zoomed (zoom, -1000), 0.25f);
 }
 
 /** A display of the same size as on its page. */
@@ -37,7 +37,7 @@ protected:
 
     [[nodiscard]] juce::Colour at (float ms, int y) const
     {
-        const ImpulseResponseScale s{ 904, 144, display.getZoom() };
+        const halcyra::ImpulseResponseScale s{ 904, 144, display.getZoom() };
         return stage.picture().getPixelAt (static_cast<int> (s.x (ms)), y);
     }
     [[nodiscard]] static bool isGreenish (juce::Colour c)
@@ -116,7 +116,7 @@ TEST (OverlaidFills, AreThePixelsOfFillsOneOverAnother)
     for (int turn = 0; turn < 60; ++turn) {
         const float scale = turn % 3 == 0 ? 1.0f : turn % 3 == 1 ? 2.0f : 1.25f;
         const auto transform = juce::AffineTransform::scale (scale);
-        std::vector<lumo::OverlaidFill> fills;
+        std::vector<halcyra::OverlaidFill> fills;
         for (const auto colour : { 0x80FF0000, 0x80AEFF00, 0x800057FF }) {
             juce::Path path;
             path.startNewSubPath (random.nextFloat() * 200 - 20, random.nextFloat() * 60);
@@ -138,8 +138,8 @@ TEST (OverlaidFills, AreThePixelsOfFillsOneOverAnother)
             g.setColour (fill.colour);
             g.fillPath (fill.path, transform.translated (-area.getPosition().toFloat()));
         }
-        lumo::overlayFills (image, area, area.withTrimmedRight (1).withTrimmedBottom (1), juce::Colour (0xFFB5B5B5),
-                            fills, transform);
+        halcyra::overlayFills (image, area, area.withTrimmedRight (1).withTrimmedBottom (1), juce::Colour (0xFFB5B5B5),
+                               fills, transform);
         EXPECT_LE (levelsApart (image, wanted), 2) << turn;
     }
 }

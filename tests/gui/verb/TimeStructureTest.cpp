@@ -35,9 +35,9 @@ protected:
     TimeStructure()
     {
         tab.setLookAndFeel (look);
-        pumpGui();
+        bench::pumpGui();
         tab.setDefaults(); // at first the controls were at their low ends
-        pumpGui();
+        bench::pumpGui();
         tab.addListener (this);
     }
 
@@ -61,13 +61,13 @@ protected:
     void set (HalcyraReverbParameter number, float wish)
     {
         tab.setParameter (number, wish, 1);
-        pumpGui();
+        bench::pumpGui();
     }
 
     [[nodiscard]] juce::String textAt (halcyra::Box box) const
     {
         for (auto* child : tab.getChildren())
-            if (const auto* label = dynamic_cast<lumo::ValueLabel*> (child);
+            if (const auto* label = dynamic_cast<halcyra::ValueLabel*> (child);
                 label != nullptr && label->getBounds() == box.rectangle())
                 return label->shownText();
         return "no label";
@@ -105,7 +105,7 @@ TEST_P (Sliders, AreDraggedToTheEndsThatTheirNeighboursLeaveAndTellOfNothingElse
     EXPECT_NEAR (value (GetParam().number), GetParam().low, 1e-3f);
     EXPECT_THAT (heard, testing::AllOf (testing::Not (IsEmpty()), Each (GetParam().number)));
     tab.setDefaults();
-    pumpGui();
+    bench::pumpGui();
     heard.clear();
     stage.dragFromTo (box.getCentre(), { box.getRight() + 40, box.getCentreY() });
     EXPECT_NEAR (value (GetParam().number), GetParam().high, 1e-3f);
@@ -136,7 +136,7 @@ TEST_F (TimeStructure, ADoubleClickReturnsASliderAndTheAirFrequencyFallsToItsLow
                                                                       : row.doubleClick();
         EXPECT_NEAR (static_cast<double> (value (row.number)), expected, 1e-4) << row.key;
         tab.setDefaults();
-        pumpGui();
+        bench::pumpGui();
     }
 }
 
@@ -175,7 +175,7 @@ TEST_F (TimeStructure, ASilentSetterTellsNothingAndANotifyingOneOnlyOfAChange)
     tab.setParameter (parameter::gain, 5, 0);
     tab.setParameter (parameter::tr0, 7, 2);
     tab.setParameter (parameter::air, 0, 0);
-    pumpGui();
+    bench::pumpGui();
     EXPECT_THAT (heard, IsEmpty());
     set (parameter::gain, 5);
     EXPECT_THAT (heard, IsEmpty());
@@ -192,7 +192,7 @@ TEST_F (TimeStructure, WhatIsNotFiniteOrNoParameterIsIgnored)
         tab.setRoomSize (bad, 1);
     }
     set (99, 1);
-    pumpGui();
+    bench::pumpGui();
     EXPECT_THAT (heard, IsEmpty());
     EXPECT_NEAR (value (parameter::earlyStart), 22.22f, 1e-4f);
 }
@@ -242,7 +242,7 @@ TEST_F (TimeStructure, ValuesAreShownWithTheirDecimalsAndUnits)
 TEST_F (TimeStructure, TheRoomSizeTellsOfEightParametersInOrder)
 {
     tab.setRoomSize (15000, 1);
-    pumpGui();
+    bench::pumpGui();
     EXPECT_THAT (heard, ElementsAre (7, 8, 9, 12, 13, 14, 15, 16));
     EXPECT_NEAR (value (parameter::reverbStart), 349.36f, 0.01f);
     EXPECT_EQ (value (parameter::clusterEnd), 300);

@@ -139,8 +139,8 @@ TEST_F (OffscreenWindowTest, PictureFollowsWhatWasRepaintedAndNothingElse)
 
 TEST_F (OffscreenWindowTest, HiddenWindowTakesNoEventsAndComesBackAsItWas)
 {
-    OffscreenWindow window;
-    PeerInput input (back);
+    desktop::OffscreenWindow window;
+    bench::PeerInput input (back);
     EXPECT_FALSE (input.click ({ 60, 30 }));
 
     window.create ("title", { 800, 50, 205, 122 });
@@ -187,7 +187,7 @@ TEST_F (OffscreenWindowTest, TwoWindowsShareOneFocus)
 
 TEST_F (OffscreenWindowTest, CloseButtonIsHandedOn)
 {
-    OffscreenWindow window;
+    desktop::OffscreenWindow window;
     int pressed = 0;
     window.onCloseButton = [&pressed] { ++pressed; };
     window.create ("title", { 0, 0, 200, 100 });
@@ -216,7 +216,7 @@ TEST_F (OffscreenWindowTest, MenusOpenInsideTheWindowAndTakeTheKeys)
     int chosen = -1;
     menu.showMenuAsync (juce::PopupMenu::Options().withTargetComponent (back).withMousePosition(),
                         [&chosen] (int id) { chosen = id; });
-    pumpGui();
+    bench::pumpGui();
     ASSERT_NE (juce::Component::getCurrentlyModalComponent(), nullptr);
     stage.key ("cursor down");
     stage.key ("cursor down");
