@@ -1,4 +1,4 @@
-"""The bench as a process, a display of its own, and a hand on it: what run and peers measure with."""
+"""Runs the bench as a process on its own X display with a simulated pointer; shared by run and peers."""
 
 import contextlib
 import ctypes
@@ -11,13 +11,13 @@ import time
 
 
 def processor_seconds(pid):
-    """What a process has used, over all its threads that live."""
+    """CPU time of a process, summed over its living threads."""
     tasks = pathlib.Path(f"/proc/{pid}/task").glob("*/schedstat")
     return sum(int(task.read_text().split()[0]) for task in tasks) * 1e-9
 
 
 class Bench:
-    """A patchbench that is told lines, with what the system knows of it."""
+    """A patchbench process that takes lines, and its CPU time and memory."""
 
     def __init__(self, build, place):
         self.process = subprocess.Popen([build / "bin" / "patchbench", "--window", place], stdin=subprocess.PIPE,
@@ -27,7 +27,7 @@ class Bench:
         threading.Thread(target=self.listen, daemon=True).start()
 
     def listen(self):
-        """Takes all that it says, so that it never waits for us."""
+        """Drains its output, so that it never blocks."""
         for line in self.process.stdout:
             if " assist " in line:
                 self.answers.put(line.split()[0])
@@ -46,7 +46,7 @@ class Bench:
         self.process.stdin.flush()
 
     def settle(self, box):
-        """Waits until all that it was told has been done."""
+        """Waits until all commands sent so far are done."""
         self.tell(f"assist {box} inlet 0")
         while self.answers.get(timeout=120) != box:
             pass
@@ -62,7 +62,7 @@ class Bench:
 
 
 class Display:
-    """An X server of our own, its pointer, and the colours of its screen."""
+    """A private X server, its pointer, and the colours on its screen."""
 
     def __enter__(self):
         ends = os.pipe()
@@ -98,12 +98,12 @@ class Display:
         self.x11.XFlush(self.connection)
 
 
-PAUSE = 1 / 60  # s between two steps of a hand
-LEFT, TOP = 800, 50  # where a window without a window manager stands
+PAUSE = 1 / 60  # s between two pointer steps
+LEFT, TOP = 800, 50  # where a window appears without a window manager
 
 
 def milliseconds_a_step(pid, display, places, steps=300):
-    """Of the processor, for each move of a hand that holds what stands at the first place."""
+    """CPU time per move while dragging from the first place."""
     time.sleep(0.5)
     display.move(*places[0])
     time.sleep(0.1)
@@ -120,7 +120,7 @@ def milliseconds_a_step(pid, display, places, steps=300):
 
 
 def scene_drag(build, display, sources):
-    """The source in front of the listener is dragged to and fro."""
+    """Drags the source in front of the listener to and fro."""
     with Bench(build, "native") as bench:
         bench.tell(f"new h halcyra~.control @numsources {sources} @numspeakers {sources}", "send h open", "page h 2",
                    "send h source 1 xyz 0. 1. 0.")

@@ -1,4 +1,4 @@
-# JUCE, compiled once into one static library with the modules that the product uses and no others.
+# JUCE, compiled once into a static library with only the modules that the product uses.
 
 find_path(JUCE_MODULES_DIR juce_core/juce_core.h PATHS /usr/share/juce/modules NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 
@@ -27,7 +27,7 @@ foreach(module IN LISTS juceModules)
     target_compile_definitions(halcyra_juce PUBLIC JUCE_MODULE_AVAILABLE_${module}=1)
 endforeach()
 target_compile_options(halcyra_juce PRIVATE -w)
-if(HALCYRA_FUZZ) # what is looked for stands in our own code, and inputs are played faster
+if(HALCYRA_FUZZ) # fuzzing targets our own code, and inputs run faster without instrumentation
     target_compile_options(halcyra_juce PRIVATE -fno-sanitize=all -O2)
 endif()
 if(WIN32)

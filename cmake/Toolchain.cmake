@@ -1,4 +1,4 @@
-# The language, the warnings and the sanitizers that all of our own code is built with.
+# Language standard, warnings and sanitizers for all of our own code.
 
 option(HALCYRA_TESTS "Build the test suite" ON)
 option(HALCYRA_BENCHMARKS "Build the benchmarks" OFF)
@@ -18,7 +18,7 @@ set(CMAKE_C_FLAGS_RELEASE "-O2 -DNDEBUG")
 set(CMAKE_CXX_FLAGS_SANITIZED "-O1 -g1 -fno-omit-frame-pointer")
 set(CMAKE_C_FLAGS_SANITIZED "-O1 -g1 -fno-omit-frame-pointer")
 
-# Results in single precision must not depend on what the compiler fuses.
+# Single-precision results must not depend on fused multiply-adds.
 add_compile_options(-ffp-contract=off)
 
 if(HALCYRA_SANITIZE)
@@ -27,13 +27,13 @@ if(HALCYRA_SANITIZE)
 endif()
 
 if(WIN32)
-    # The C++ runtime is linked in, and what nobody calls is left out.
+    # Link the C++ runtime statically, and drop unused code.
     add_compile_options(-ffunction-sections -fdata-sections)
     add_link_options(-static -Wl,--gc-sections)
 endif()
 
-# A shared cache of objects, so that several work trees compile a file once; also the file of JUCE that holds the time of
-# its compilation.
+# A shared object cache, so that several work trees compile a file once; includes the JUCE file that embeds its compile
+# time.
 find_program(HALCYRA_CCACHE ccache)
 if(HALCYRA_CCACHE)
     set(launcher "${CMAKE_COMMAND};-E;env;CCACHE_BASEDIR=${CMAKE_SOURCE_DIR};CCACHE_NOHASHDIR=1;CCACHE_SLOPPINESS=time_macros;${HALCYRA_CCACHE}")
@@ -41,10 +41,10 @@ if(HALCYRA_CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${launcher}")
 endif()
 
-# Link privately: our own code compiles without a single warning, third-party code is none of our business.
+# Link privately: our own code compiles without warnings; third-party code is not checked.
 add_library(halcyra_warnings INTERFACE)
 add_library(halcyra::warnings ALIAS halcyra_warnings)
 target_compile_options(halcyra_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wno-sign-conversion
-    $<$<CXX_COMPILER_ID:GNU>:-Wdouble-promotion> # clang complains of deliberate ones too
+    $<$<CXX_COMPILER_ID:GNU>:-Wdouble-promotion> # clang also warns of deliberate ones
     -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wformat=2 -Wundef)

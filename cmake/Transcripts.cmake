@@ -1,4 +1,4 @@
-# Scripts of the bench with their expected output beside them, one CTest entry each.
+# Bench scripts with their expected output beside them; one CTest entry each.
 
 # halcyra_add_transcripts(PREFIX transcripts PROGRAM patchbench): every *.bench of the current folder.
 function(halcyra_add_transcripts)

@@ -1,7 +1,7 @@
-# Sourced by the commands at the root: gets the packages, configures and builds. Chatter goes to standard error.
-# Expects $root, the folder of the project.
+# Sourced by the commands at the root: installs packages, configures and builds. Progress goes to standard error.
+# Expects $root, the project's folder.
 
-# need_packages run test ...: installs what is missing of these groups, or names it and ends.
+# need_packages run test ...: installs what is missing from these groups, or lists it and exits.
 need_packages()
 {
     local groups missing
@@ -10,7 +10,7 @@ need_packages()
         dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || echo "$package"
     done)
     [ -z "$missing" ] && return
-    # shellcheck disable=SC2086 # one word a package
+    # shellcheck disable=SC2086 # one word per package
     set -- $missing
     if [ "$(id -u)" = 0 ]; then
         install_packages "$@"
@@ -35,7 +35,7 @@ install_packages_by()
         { tail -n 20 "${TMPDIR:-/tmp}/halcyra-install.log" >&2; echo "The packages could not be installed." >&2; exit 1; }
 }
 
-# configured PRESET [OPTION ...]: configures the preset's tree with these options, unless that has been done.
+# configured PRESET [OPTION ...]: configures the preset's build tree with these options, unless already done.
 configured()
 {
     local preset=$1 tree=$root/build/$1
@@ -56,7 +56,7 @@ holds_options()
     done
 }
 
-# build PRESET [TARGET ...]: brings the targets of a configured tree up to date, all of them if none is named.
+# build PRESET [TARGET ...]: builds the targets of a configured tree; all of them by default.
 build()
 {
     local tree=$root/build/$1

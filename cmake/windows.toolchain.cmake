@@ -1,4 +1,4 @@
-# 64-bit Windows, cross-built on Debian with MinGW-w64; threads are C++11's own (the posix flavour).
+# 64-bit Windows, cross-compiled on Debian with MinGW-w64 and C++11 threads (the posix flavour).
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR AMD64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
@@ -6,7 +6,7 @@ set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 set(CMAKE_DLLTOOL x86_64-w64-mingw32-dlltool)
 
-# What package/libraries has built for this target; the rest comes with the compiler.
+# Built by package/libraries for this target; the rest comes with the compiler.
 if(NOT DEFINED HALCYRA_WINDOWS_LIBRARIES)
     set(cache "$ENV{XDG_CACHE_HOME}")
     if(cache STREQUAL "")
@@ -18,5 +18,5 @@ set(CMAKE_FIND_ROOT_PATH "${HALCYRA_WINDOWS_LIBRARIES}" /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-# JUCE's sources are those of the build machine.
+# JUCE's sources are the build machine's.
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)

@@ -12,14 +12,14 @@
 namespace
 {
 
-/** JUCE runs as long as the process. */
+/** Initialises JUCE for the life of the process. */
 void bringUpWindows()
 {
     static auto& windows = *new bench::JuceWindowDriver (bench::JuceWindowDriver::Place::memory);
     bench::setWindowDriver (&windows);
 }
 
-/** The folder that objects write to; it goes when the process ends. */
+/** The folder that objects write to; removed when the process ends. */
 struct FolderOfProcess
 {
     ~FolderOfProcess() { std::filesystem::remove_all (path); }
@@ -33,7 +33,7 @@ struct Vocabulary
     std::vector<std::string> words, selectors, attributes;
 };
 
-/** Asks the class itself, and adds the words of its symbol table. */
+/** Queries the class itself, and adds the words of its symbol table. */
 const Vocabulary& vocabulary()
 {
     static const Vocabulary all = [] {
@@ -75,7 +75,7 @@ const std::vector<std::string>& ControlFuzz::selectors() { return vocabulary().s
 const std::vector<std::string>& ControlFuzz::attributes() { return vocabulary().attributes; }
 
 ControlFuzz::ControlFuzz (bench::DeferMedium deferMedium)
-    : patch ((bringUpWindows(), vocabulary(), deferMedium)) // the vocabulary takes a bench of its own before
+    : patch ((bringUpWindows(), vocabulary(), deferMedium)) // the vocabulary needs a bench of its own first
 {
     patch.setListener ([] (const bench::Event&) {});
 }

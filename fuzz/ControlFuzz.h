@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/** While it lives, an empty folder is the current one: what objects write, and read. */
+/** Makes an empty folder the current one for its lifetime, for the objects' files. */
 class ScratchFolder
 {
 public:
@@ -20,23 +20,23 @@ private:
     const std::filesystem::path before;
 };
 
-/** The object on the bench, with windows in memory. Events are thrown away. */
+/** The object on the bench, with windows in memory. Events are discarded. */
 class ControlFuzz
 {
 public:
     explicit ControlFuzz (bench::DeferMedium deferMedium = bench::DeferMedium::queue);
 
-    /** All words that the class knows: messages, attributes, symbols. Without those that name paths. */
+    /** All words of the class: messages, attributes, symbols; except those that name paths. */
     static const std::vector<std::string>& words();
-    /** Those that can be sent: messages and attributes. */
+    /** The words that can be sent: messages and attributes. */
     static const std::vector<std::string>& selectors();
     static const std::vector<std::string>& attributes();
 
-    /** Ends the process if one number of the object's state is infinite or none. */
+    /** Aborts if any number in the object's state is infinite or NaN. */
     static void requireFiniteState (const bench::Box& box);
 
     bench::Bench patch;
 };
 
-/** Ends the process, as a sanitizer does, if something does not hold. */
+/** Aborts, as a sanitizer does, if the condition is false. */
 void require (bool holds);

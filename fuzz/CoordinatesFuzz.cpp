@@ -11,7 +11,7 @@ namespace
 
 bool areEqual (const qel::Point3& a, const qel::Point3& b) { return a.x == b.x && a.y == b.y && a.z == b.z; }
 
-/** One object for the life of the process: reading positions changes nothing of it. */
+/** One object for the whole process: parsing positions does not change it. */
 t_halcyra_control* control()
 {
     static auto& fuzz = *new ControlFuzz;
@@ -23,7 +23,7 @@ t_halcyra_control* control()
 using ReadOne = bool (*) (t_halcyra_control*, qel::Point3&, Atoms);
 constexpr ReadOne readersOfOne[] = { halcyra::parseOnePoint, halcyra::parseOneSource, halcyra::parseOneSpeaker };
 
-/** What was read is finite; what was refused is as it was. */
+/** Accepted points are finite; rejected input leaves the point unchanged. */
 void readOne (FuzzBytes& input, Atoms atoms)
 {
     qel::Point3 point{ 1, 2, 3 };
@@ -41,7 +41,7 @@ void readMany (FuzzBytes& input, Atoms atoms)
             require (qel::isFinite (point));
 }
 
-/** Formats are set by any word, and any finite point is written in them as finite numbers or not at all. */
+/** Any word may select a format; any finite point is written as finite numbers or not at all. */
 void write (FuzzBytes& input)
 {
     auto* x = control();
@@ -57,7 +57,7 @@ void write (FuzzBytes& input)
 
 }
 
-/** Lists of atoms as positions, through each reader of messages, and points written in each format. */
+/** Parses lists of atoms as positions with each message reader, and writes points in each format. */
 extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t size)
 {
     control();

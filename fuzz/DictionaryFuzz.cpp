@@ -1,8 +1,8 @@
 #include "ControlFuzz.h"
 #include "FuzzBytes.h"
 
-/** Dictionaries of any entries, given to an object: it lives on, its state holds finite numbers, and its own dictionary,
-    once given to it, changes nothing. */
+/** Applies arbitrary dictionaries to an object: it survives, its state stays finite, and applying its own dictionary
+    changes nothing. */
 extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t size)
 {
     FuzzBytes input (data, size);

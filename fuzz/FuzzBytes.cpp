@@ -72,7 +72,7 @@ t_atom FuzzBytes::atom()
     case 0:
         return longAtom (static_cast<std::int64_t> (bytes (8)));
     case 1:
-        return t_atom{}; // of no type
+        return t_atom{}; // without a type
     case 2:
     case 3:
     case 4:
@@ -103,7 +103,7 @@ std::string FuzzBytes::word()
     return chosen % 32 == 31 ? anyText() : words[(chosen / 32 * 31 + chosen % 32) % words.size()];
 }
 
-/** Not a path: files stay in the folder of the run. */
+/** Never a path: files stay in the run's folder. */
 std::string FuzzBytes::anyText()
 {
     std::string text;

@@ -5,8 +5,7 @@
 #include <cstdint>
 #include <string>
 
-/** An input of a fuzz target, read from its front: what it chooses, a byte or a few each. Behind its end it chooses
-    zeros. */
+/** Draws choices from the front of a fuzz input, a byte or a few each. Past its end all choices are zero. */
 class FuzzBytes
 {
 public:
@@ -25,14 +24,14 @@ public:
         return table[choice (std::size (table))];
     }
 
-    /** Any number, bits and all: also those that are none, or infinite, or too large. */
+    /** Any number from raw bits, including NaN, infinite and out-of-range ones. */
     double number();
 
-    /** Anything that a message may hold; mostly numbers, and words that the class knows. */
+    /** Anything a message can contain; mostly numbers, and words of the class. */
     t_atom atom();
     bench::Atoms atoms (std::size_t most);
 
-    /** A word that the class knows, of its messages, its attributes or its symbols; rarely any text. */
+    /** A word of the class: a message, an attribute or a symbol; rarely arbitrary text. */
     std::string word();
 
 private:

@@ -7,7 +7,7 @@
 namespace
 {
 
-/** Declares a size that is quick to decode, whatever the input says: where PNG's header holds width and height. */
+/** Overwrites width and height in a PNG header with a size that decodes quickly. */
 std::string withSmallSize (std::string bytes)
 {
     constexpr std::size_t width = 16, height = 20;
@@ -19,7 +19,7 @@ std::string withSmallSize (std::string bytes)
 
 }
 
-/** Any bytes as the file of a picture: read whole or refused, and every pixel of what was read is there. */
+/** Reads arbitrary bytes as a picture file: accepted as a whole or rejected, with every pixel accessible. */
 extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t size)
 {
     const ScratchFolder folder;
@@ -34,7 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t siz
     for (int y = 0; y < pixels.height; ++y)
         for (int x = 0; x < pixels.width; ++x)
             sum += pixels.getPixelColour (x, y).getARGB();
-    volatile const auto seen = sum; // so that the reads stay
+    volatile const auto seen = sum; // keeps the reads
     juce::ignoreUnused (seen);
     return 0;
 }

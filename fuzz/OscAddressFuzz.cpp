@@ -25,8 +25,8 @@ bool isLiteral (const qel::String& text)
 
 }
 
-/** An address is refused, or has one form that is read back as itself; a literal one names itself, and wildcards that
-    match do so from either side. */
+/** An address is rejected, or has one form that parses back to itself; a literal address matches itself, and wildcard
+    matches are symmetric. */
 extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t size)
 {
     const std::string input (reinterpret_cast<const char*> (data), size);
@@ -43,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t siz
             require (address.matches (other) == other.matches (address));
         if (address.matches (other))
             require (address.startsWith (other) && address.parts().size() == other.parts().size());
-    } catch (const qel::Exception&) { // refused
+    } catch (const qel::Exception&) { // rejected
     }
     return 0;
 }

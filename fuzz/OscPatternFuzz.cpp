@@ -16,7 +16,7 @@ void require (bool holds)
 
 }
 
-/** Any pattern comes to an end on any text; a plain text matches itself alone, and a last star whatever begins so. */
+/** Matching terminates for any pattern and text; plain text matches only itself, and a final star any continuation. */
 extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t size)
 {
     const std::string input (reinterpret_cast<const char*> (data), size);

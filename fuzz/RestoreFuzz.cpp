@@ -15,7 +15,7 @@ std::string stateTextOf (const bench::Box& box)
 
 }
 
-/** Whatever was done to an object, a new one that is given its state has the same state. */
+/** A new object that is given another object's state has the same state, whatever was done to the other. */
 extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t size)
 {
     FuzzBytes input (data, size);

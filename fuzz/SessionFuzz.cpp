@@ -87,7 +87,7 @@ constexpr const char* goodMessages[] = {
 constexpr const char* keys[] = { "w",      "ctrl + w",     "cursor left", "cursor up", "escape", "delete",
                                  "return", "shift + home", "tab",         "a",         "5",      "alt + z" };
 
-/** A patch of a few objects, and what an input does to them. */
+/** A patch of a few objects, driven by an input. */
 class Session
 {
 public:
@@ -129,7 +129,7 @@ private:
 
     void settle() { fuzz.patch.settle(); }
 
-    /** A small part of each window, as a window system asks for what was covered. */
+    /** Paints a small part of each window, as when it is uncovered. */
     void paint()
     {
         constexpr int side = 48;
@@ -142,7 +142,7 @@ private:
         }
     }
 
-    /** Valid but for what may be replaced, left out or repeated. */
+    /** A valid message, except for what may be replaced, omitted or repeated. */
     void sendGood()
     {
         auto message = bench::messageOf (bench::wordsOf (input.oneOf (goodMessages)));
@@ -231,7 +231,7 @@ private:
         }
     }
 
-    /** To a younger one alone: no loops. */
+    /** Only to a newer one: no loops. */
     void connect()
     {
         auto names = fuzz.patch.names();
@@ -267,8 +267,8 @@ private:
 
 }
 
-/** A long session with the object: whatever is sent, clicked, typed, freed and made, in whatever order, nothing harms,
-    and the state of what is left holds finite numbers. */
+/** A long session with arbitrary messages, clicks, keys, deletions and creations in any order: nothing crashes, and the
+    remaining objects' state stays finite. */
 extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t size)
 {
     FuzzBytes input (data, size);

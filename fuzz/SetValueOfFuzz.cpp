@@ -1,8 +1,8 @@
 #include "ControlFuzz.h"
 #include "FuzzBytes.h"
 
-/** A state with some of its values replaced, cut off or drawn out, given to an object: the object lives on, its state
-    keeps its length, and no number in it is infinite or none. */
+/** Applies a state with values replaced, truncated or added: the object survives, its state keeps its length, and every
+    number in it stays finite. */
 extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t size)
 {
     FuzzBytes input (data, size);

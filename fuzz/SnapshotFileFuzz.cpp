@@ -14,7 +14,7 @@
 namespace
 {
 
-/** The file that the reader is given; it goes when the process ends. */
+/** The reader's input file; removed when the process ends. */
 struct InputFile
 {
     ~InputFile() { std::filesystem::remove (path); }
@@ -40,7 +40,7 @@ void require (bool holds)
 
 }
 
-/** Whatever a file holds, only finite positions enter the store, and what entered is written and read back equal. */
+/** Whatever a file contains, only finite positions enter the store, and its contents survive a write and a read. */
 extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t size)
 {
     static const InputFile input;
@@ -49,7 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t siz
     qel::CoordinatesSnapshotStore store, back;
     try {
         store.read (input.file);
-    } catch (const qel::Exception&) { // what was read before the fault stays
+    } catch (const qel::Exception&) { // keeps what was read before the fault
     }
     if (store.empty())
         return 0;

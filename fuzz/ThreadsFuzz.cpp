@@ -20,8 +20,8 @@ std::vector<Message> messages (FuzzBytes& input)
 
 }
 
-/** Any messages from the main thread and the scheduler's at the same time: the object lives on, and its state holds
-    finite numbers. */
+/** Arbitrary messages from the main and the scheduler thread at the same time: the object survives, and its state stays
+    finite. */
 extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t size)
 {
     FuzzBytes input (data, size);

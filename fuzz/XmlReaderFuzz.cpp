@@ -11,7 +11,7 @@ qel::String rewritten (const qel::String& document)
 {
     const auto root = qel::XmlReader().read (document);
     if (root == nullptr)
-        std::abort(); // the writer's own text must be XML
+        std::abort(); // the writer's own text must be valid XML
     qel::MemoryOutput output;
     qel::XmlElement::Layout layout;
     layout.allOnOneLine = true;
@@ -21,8 +21,8 @@ qel::String rewritten (const qel::String& document)
 
 }
 
-/** Any text is read or refused; what is read can be written and read again, and settles after one turn: empty and
-    blank pieces of text are lost in it. */
+/** Any text is read or rejected; what is read can be written and read again, and is stable after one round: that drops
+    empty and blank pieces of text. */
 extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t size)
 {
     qel::XmlReader reader;

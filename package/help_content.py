@@ -1,14 +1,14 @@
-"""What the package's patchers say: one table of rows for each page. patchers.py lays them out.
+"""Contents of the package's patchers: one table of rows per page. patchers.py lays them out.
 
-A page: tab (help only), title, digest, columns of sections (heading, rows), and the object's text. What its outlets say
-appears in message boxes; answers: a chain below the right outlet instead.
+A page: tab (help only), title, digest, columns of sections (heading, rows), and the object's text. Outlet messages
+appear in message boxes; answers replaces the right outlet's by a chain.
 
 Rows:
     ("say", text)                        a comment
     ("send", message, remark)            a message box to our object
     ("attr", attribute, remark)          a control for one attribute
-    ("from", feeders, message, remark)   controls that fill ($1) or fire a message to our object; known by their text
-    ("object", name, text, remark)       another box, known by a name
+    ("from", feeders, message, remark)   controls that fill ($1) or trigger a message to our object; named by their text
+    ("object", name, text, remark)       another box, identified by a name
     ("to", name, message, remark)        a message box to that box
 """
 
@@ -720,7 +720,7 @@ EXAMPLES = {
     "halcyra-angles": WRAP,
 }
 
-# Pasted into a patcher by its menu: small, and whole.
+# Pasted into a patcher from its menu: small and self-contained.
 CLIPPINGS = {
     "control with a display": {
         "title": "halcyra~.control",

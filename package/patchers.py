@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Writes the package's patchers (help, overview, examples) into a package folder: patchers.py FOLDER
 
-What they say stands in help_content.py as rows; here is how rows become boxes and cords. The files are written when
-the package is made and are not checked in: thousands of lines of coordinates would hide the hundred that matter, and
-nobody could review them.
+Their contents are rows in help_content.py; this file turns rows into boxes and cords. The patchers are generated
+when the package is built and not checked in: thousands of lines of coordinates would hide the hundred that matter,
+and could not be reviewed.
 """
 
 import json
@@ -17,15 +17,15 @@ import help_content
 COLUMN_WIDTH = 470
 ROW = 26
 MARGIN = 20
-GUTTER = 12  # between a column's left edge and its boxes; the cords run down here
+GUTTER = 12  # between a column's left edge and its boxes; room for the cords
 COMMENT_GAP = 10
 CONTROL_WIDTH = 240
 NAME_WIDTH = 150  # of an attribute's name in its control
 OBJECT = "halcyra~.control"
-WINDOW_PLACE = " @windowtopleft 60 60"  # on every screen; the default lies mostly beyond the edge of a small one
-DISPLAY_WIDTH = 330  # of the message boxes that show what comes out
+WINDOW_PLACE = " @windowtopleft 60 60"  # visible on every screen; the default is mostly off a small one
+DISPLAY_WIDTH = 330  # of the message boxes that show the output
 
-# Class of a box: inlets, and the type of each outlet. `route` and `t` depend on their words.
+# Class of a box: inlets, and the type of each outlet. Those of `route` and `t` depend on their arguments.
 PORTS = {
     "comment": (1, []),
     "message": (2, [""]),
@@ -55,7 +55,7 @@ PORTS = {
     "prepend": (1, [""]),
     "print": (1, []),
 }
-# Classes that draw themselves: their size.
+# Classes with a fixed look: their size.
 PICTURES = {"toggle": (22, 22), "button": (22, 22), "flonum": (60, 22), "number": (60, 22), "preset": (100, 40), "dict.view": (300, 60), "fpic": (279, 139)}
 
 
@@ -91,7 +91,7 @@ class Page:
         self.lines = []
         self.named = {}
         self.place = {}
-        self.pending = []  # messages to other boxes than our object, with their column's left edge
+        self.pending = []  # messages to other boxes, with their column's left edge
 
     def box(self, maxclass, x, y, width, height, **own):
         kind = own.get("text", maxclass) if maxclass == "newobj" else maxclass
@@ -114,7 +114,7 @@ class Page:
         self.lines.append({"patchline": line})
 
     def cord_by_gutter(self, source, destination, left, above):
-        """A cord past the boxes in between: down the gutter of the column, and in from so far above its end."""
+        """Routes a cord around the boxes in between: down the column's gutter, then in from this far above its end."""
         fx, fy, _, height = self.place[source]
         x, y, _, _ = self.place[destination]
         turn, gutter, bus = fy + height + 4, left + 4, y - above
@@ -126,7 +126,7 @@ class Page:
         return height
 
     def object(self, text, x, y, **own):
-        """A box by what it says: a class that draws itself, or an object with arguments."""
+        """Creates a box from its text: a class with its own look, or an object with arguments."""
         kind = text.split()[0]
         if kind in PICTURES:
             width, height = PICTURES[kind]
@@ -141,7 +141,7 @@ class Page:
         return self.place[name][3]
 
     def row(self, row, x, y):
-        """Lays one row out; returns what it feeds our object with, or None, and its height."""
+        """Lays out one row; returns the box that feeds our object, or None, and the row's height."""
         kind, *rest = row
         room = COLUMN_WIDTH - 2 * GUTTER
         if kind == "say":
@@ -159,7 +159,7 @@ class Page:
             target, text, remark = rest
             made = self.box("message", x, y, text_width(text), 22, text=text)
             self.pending.append((made, target, x - GUTTER))
-        elif kind == "from":  # feeders one above the other, then the message that they fill or fire
+        elif kind == "from":  # feeders below each other, then the message that they fill or trigger
             feeders, text, remark = rest
             top, above = y, None
             for feeder in feeders:
@@ -181,7 +181,7 @@ class Page:
         return max(ROW, height + 4, used + 4)
 
     def column(self, sections, x, y):
-        """Lays sections out one below the other; returns the boxes that feed our object and the lower edge."""
+        """Lays out sections below each other; returns the boxes that feed our object and the lower edge."""
         feeds = []
         for heading, rows in sections:
             self.comment(heading, x + GUTTER, y, COLUMN_WIDTH - 2 * GUTTER, 14.0, bold=True)
@@ -195,7 +195,7 @@ class Page:
         return feeds, y
 
     def fill(self, content):
-        """Title and digest, our object with what its outlets say, then the columns that feed it."""
+        """Title and digest, our object with its output, then the columns that feed it."""
         self.comment(content["title"], MARGIN, 8, COLUMN_WIDTH, 20.0, bold=True)
         y = 44 + self.comment(content["digest"], MARGIN, 40, max(len(content["columns"]), content.get("width", 1)) * COLUMN_WIDTH) + 18
         if "object" in content:
@@ -228,7 +228,7 @@ class Page:
         return max(lower, y + ROW)
 
     def display(self, source, outlet, x, y, remark):
-        """A message box that shows what comes out of an outlet; returns its lower edge."""
+        """A message box that shows an outlet's output; returns its lower edge."""
         shown = self.object("prepend set", x, y)
         self.comment(remark, x + self.place[shown][2] + COMMENT_GAP, y, 260)
         box = self.box("message", x, y + ROW, DISPLAY_WIDTH, 22, text="")
@@ -263,7 +263,7 @@ def single(content):
 
 
 def tabbed(contents):
-    """Each content becomes a tab of its own; a tab sees no other tab's boxes. The last one is called "?"."""
+    """Turns each content into a tab; a tab cannot refer to another tab's boxes. The last one is called "?"."""
     root, tabs = Page(), []
     for content in contents:
         page = Page()
@@ -295,7 +295,7 @@ def main():
         write(folder / "examples" / f"{name}.maxpat", single(content))
     for name, content in help_content.CLIPPINGS.items():
         write(folder / "clippings" / "Halcyra" / f"{name}.maxpat", single(content))
-    # What the host's search of objects shows.
+    # Shown by the host's object search.
     write(folder / "interfaces" / "halcyra-obj-qlookup.json", {OBJECT: help_content.LOOKUP})
 
 

@@ -1,14 +1,14 @@
-"""Where the patches for Pure Data differ from those for Max: classes, words, and pages of their own."""
+"""How the patches for Pure Data differ from those for Max: classes, words, and separate pages."""
 
 import help_content
 
-# Boxes that are called differently.
+# Boxes with other names.
 CLASSES = {"line 0. 50": "line 0 50", "gate 1 1": "spigot 1", "gate 1 0": "spigot 0"}
 
-# Classes whose two inlets stand the other way round.
+# Classes whose two inlets are swapped.
 SWAPPED = {"spigot"}
 
-# Words of the rows in help_content.py and what stands in their place.
+# Phrases in help_content.py and their replacements.
 WORDS = {
     "a double click on the box does the same": "a click on the box, or Properties of its menu, does the same",
     "posts the version in the Max window": "posts the version in the Pd window",
@@ -36,7 +36,7 @@ def adapt(text):
 
 
 def check_all_used():
-    """A phrase that is nowhere any more would leave Max's words in Pd's help."""
+    """Fails on a phrase that no longer occurs: Max's words would remain in Pd's help."""
     if missing := WORDS.keys() - _used:
         raise SystemExit(f"pd_content.py: not in the help: {sorted(missing)}")
 
@@ -88,7 +88,7 @@ NOTES = {
     ],
 }
 
-# Pages that take the place of those of the same tab.
+# Pages that replace those of the same tab.
 PAGES = {"state": STATE, "?": NOTES}
 
 OSC = {
@@ -118,14 +118,14 @@ OSC = {
     ],
 }
 
-# Vanilla Pd has no scripts that could compute layouts or read them.
+# Vanilla Pd has no scripts to compute or read layouts.
 LAYOUTS = {
     **help_content.LAYOUTS,
     "columns": [[(heading, rows) for heading, rows in column if not any("js " in str(row[2]) for row in rows)] for column in help_content.LAYOUTS["columns"]],
     "cords": [],
 }
 
-# Examples that take the place of those of the same name.
+# Examples that replace those of the same name.
 EXAMPLES = {"halcyra-osc": OSC, "halcyra-speaker-layouts": LAYOUTS}
 
 META = {

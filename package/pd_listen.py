@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Writes halcyra-listen~.pd, the abstractions it consists of, and the example that plays it: pd_listen.py FOLDER
+"""Writes halcyra-listen~.pd, its abstractions, and the example that uses it: pd_listen.py FOLDER
 
-The listening aid makes what halcyra~.control sends audible, by objects of plain Pd. It is not the reverberator. It is
-written by a program because its stages come in rows of eight.
+The listening aid makes the output of halcyra~.control audible with plain Pd objects. It is not the reverberator. It is
+generated because its stages come in rows of eight.
 """
 
 import sys
@@ -10,14 +10,14 @@ from pathlib import Path
 
 sys.dont_write_bytecode = True
 
-TAPS = 8  # of the early reflections and of the cluster, as numinternals is by default
-# The delay generator's places of eight taps between a stage's start and its end, for an even distribution.
+TAPS = 8  # of the early reflections and of the cluster, like numinternals by default
+          # The delay generator's positions for eight taps between a stage's start and end, at an even distribution.
 TABLE = [2, 5, 7, 11, 18, 23, 29, 37]
 PLACES = [(entry - TABLE[0]) / (TABLE[-1] - TABLE[0]) for entry in TABLE]
 MEAN = sum(PLACES) / TAPS
 SMALLEST_SPAN = 3.2879817  # ms
 SIGNS = "-++---++"
-# The loop delays of the late reverberation relative to each other. Their sum is the modal density, in seconds.
+# Relative loop delays of the late reverberation. Their sum is the modal density, in seconds.
 LOOPS = [0.61, 0.71, 0.79, 0.89, 1.01, 1.13, 1.27, 1.59]
 STAGGER = 2.3  # ms between the entries of the loops
 SPEED_OF_SOUND = 343  # m/s
@@ -25,7 +25,7 @@ FADE = 30  # ms
 
 
 class Patch:
-    """Boxes in sections side by side; in a section each box stands below those that feed it."""
+    """Boxes in sections side by side; within a section each box is below those that feed it."""
 
     ROW, CHARACTER = 34, 6  # pixels
     WIDEST = 1400
@@ -42,7 +42,7 @@ class Patch:
         return len(self.boxes) - 1
 
     def obj(self, text, *inlets):
-        """An object with what its inlets are connected to: a box, (box, outlet), or None."""
+        """Creates an object and connects its inlets: each to a box, a (box, outlet), or None."""
         text = text.replace("$", "\\$").replace(",", " \\,").replace(";", " \\;")
         box = self.put("obj", text)
         for number, source in enumerate(inlets):
@@ -64,11 +64,11 @@ class Patch:
         self.cords.append((source, outlet, destination, inlet))
 
     def smooth(self, source):
-        """A control value as a signal without steps."""
+        """Converts a control value to a smoothed signal."""
         return self.obj("line~", self.obj(f"pack f {FADE}", source))
 
     def formula(self, text, *names):
-        """An expression of values that are received by these names; it is computed whenever one of them arrives."""
+        """An expression of values received by these names, recomputed whenever one arrives."""
         first, *others = [self.obj(f"r $0-{name}") for name in names]
         orders = [self.obj("t b f", value) for value in others]
         box = self.obj(f"expr {text}", first)
@@ -84,7 +84,7 @@ class Patch:
         return first
 
     def layers(self):
-        """How far each box stands below what feeds it; what leads back to an older box does not count."""
+        """Depth of each box below what feeds it, ignoring feedback to older boxes."""
         depth = [1] * len(self.boxes)
         for box, (_, text) in enumerate(self.boxes):
             feeders = [depth[source] for source, _, destination, _ in self.cords if destination == box and source < box]
@@ -93,7 +93,8 @@ class Patch:
         return [lowest if text.startswith("outlet") else layer for layer, (_, text) in zip(depth, self.boxes)]
 
     def places(self):
-        """Row by row, a long row going on below; Pd orders inlets and outlets by their places, so they keep theirs."""
+        """Places boxes row by row, wrapping long rows. Pd numbers inlets and outlets by position, so they keep their
+        order."""
         layers, places, top = self.layers(), [None] * len(self.boxes), 10
         ends = [first for _, first in self.sections[1:]] + [len(self.boxes)]
         titles = []
@@ -113,14 +114,14 @@ class Patch:
         return places, titles, top
 
     def sub(self, name, inner, *inlets):
-        """A subpatch with what its inlets are connected to."""
+        """Creates a subpatch and connects its inlets."""
         box = self.put(inner, f"pd {name}")
         for number, source in enumerate(inlets):
             self.cord(source, box, number)
         return box
 
     def lines(self, frame):
-        """The statements of the file; a frame of subpatches tells their name and that they are closed."""
+        """The file's statements; a subpatch's frame gives its name and closes it."""
         places, titles, bottom = self.places()
         lines = [f"#N canvas 40 40 {self.WIDEST if bottom > 500 else 900} {min(bottom + 40, 900)} {frame};"]
         for (kind, text), (x, y) in zip(self.boxes, places):
@@ -138,7 +139,7 @@ class Patch:
 
 
 def bands():
-    """Three bands of the first order. Received by the name of the argument: fl fh and the gain of each band."""
+    """First-order three-band filter. The argument names the receiver of fl, fh and each band's gain."""
     p = Patch("Three bands: below fl, between, above fh. The argument names the receiver of fl, fh and three gains")
     x = p.port("inlet~")
     values = p.obj("unpack f f f f f", p.obj("r $1"))
@@ -146,7 +147,7 @@ def bands():
     both = p.obj("rzero~ -1", x)
 
     def below(outlet):
-        """A lowpass by the bilinear transform, so that a band reaches up to the end of the spectrum."""
+        """Lowpass by the bilinear transform, so that a band extends to the Nyquist frequency."""
         tangent = p.obj("expr tan(3.14159265*min(max($f1,20),$f2*0.49)/$f2)", (values, outlet), rate)
         scaled = p.obj("*~", both, p.obj("expr $f1/(1+$f1)", tangent))
         return p.obj("rpole~", scaled, p.obj("expr (1-$f1)/(1+$f1)", tangent))
@@ -160,14 +161,14 @@ def bands():
 
 
 def tap():
-    """Reads a delay line; when the time changes, it fades from one reader to another."""
+    """Reads a delay line; when the time changes, crossfades to a second reader."""
     p = Patch("A reader of the delay line that the argument names. A new time is faded to, so it does not click")
     time = p.obj("change -1", p.port("inlet"))
     latest, idle = p.obj("f"), p.obj("spigot 1")
     order = p.obj("t b f", time)
     p.cord((order, 1), latest, 1)
     p.cord((order, 0), idle)
-    start = p.obj("t b b b", idle)  # take the side, then the time, then wait until the fade is over
+    start = p.obj("t b b b", idle)  # store the side, then the time, then wait for the fade
     p.cord((start, 1), latest)
     side = p.obj("f", (start, 2))
     p.cord(p.obj("== 0", side), side, 1)
@@ -184,7 +185,7 @@ def tap():
     p.cord(p.msg("0", (start, 0)), idle, 1)
     done = p.obj("t b b", p.obj(f"delay {FADE + 5}", (start, 0)))
     p.cord(p.msg("1", (done, 1)), idle, 1)
-    # What came meanwhile is next.
+    # Continue with what arrived meanwhile.
     ask = p.obj("t b b", (done, 0))
     differs = p.obj("!=")
     p.cord((ask, 1), current)
@@ -201,7 +202,7 @@ def tap():
 
 
 def source():
-    """One source: its direct sound, and what it sends to the room."""
+    """One source: its direct sound, and its send to the room."""
     p = Patch("One source of halcyra-listen~, made by clone: its number, the name for throw~, the id of the whole")
     message, first, second = p.port("inlet"), p.port("inlet~"), p.port("inlet~")
     number = p.obj("f $1", p.obj("loadbang"))
@@ -229,7 +230,7 @@ def source():
     again = p.obj("t b", (base, 0))
     p.cord(again, place)
     values = p.obj("unpack f f f", place)
-    # Behind the listener mirrored to the front, beside the base at its end; then the law of tangents.
+    # Mirrors sources behind the listener to the front, clamps to the base, then applies the tangent law.
     turned = p.obj("expr sin(($f1-$f2)*0.01745329);max($f3,5)*0.01745329", (values, 0), (values, 1), (values, 2))
     ratio = p.obj("expr tan(max(min(asin(max(min($f1,1),-1)),$f2),-$f2))/tan(min($f2,1.5533))", (turned, 0), (turned, 1))
     gains = p.obj("expr (1-$f1)/sqrt(2*(1+$f1*$f1));(1+$f1)/sqrt(2*(1+$f1*$f1))", ratio)
@@ -241,7 +242,7 @@ def source():
 
 
 def filters(p, route):
-    """What the four filters get: G0 Gl Gm Gh in dB, fl and fh in Hz."""
+    """The four filters' settings: G0 Gl Gm Gh in dB, fl and fh in Hz."""
     for outlet, name in enumerate(("direct", "room", "early", "cluster"), 1):
         values = p.obj("unpack f f f f f f", p.obj("route list", (route, outlet)))
         gains = p.obj("expr $f5;$f6;pow(10,($f1+$f2)/20);pow(10,($f1+$f3)/20);pow(10,($f1+$f4)/20)")
@@ -254,7 +255,7 @@ def filters(p, route):
 
 
 def echo(prefix, number, shaped):
-    """One tap of a stage: left and right of an early reflection, or the one side of the cluster's."""
+    """One tap of a stage: left and right for an early reflection, one side for the cluster."""
     p = Patch(f"Echo {number + 1} of {TAPS}, where the delay generator puts it between start and end")
     place = PLACES[number]
     if place == 0:
@@ -280,7 +281,7 @@ def echo(prefix, number, shaped):
 
 
 def stage(p, prefix, shaped):
-    """The echoes of the early reflections or of the cluster, as left and right."""
+    """The echoes of the early reflections or the cluster, left and right."""
     left, right = [], []
     for number in range(TAPS):
         box = p.sub(f"{prefix}-{number + 1}", echo(prefix, number, shaped))
@@ -293,7 +294,7 @@ def stage(p, prefix, shaped):
 
 
 def ramp():
-    """The exponent of the early shape's ramp, as the early gains have it."""
+    """The exponent of the early shape's ramp, as in the early gains."""
     p = Patch("The ramp of the early reflections' gains: whether it rises, its exponent, its sum")
     text = "if($f1<=0.25,1/max(4*$f1,0.000001),if($f1<=0.5,1-4*($f1-0.25),if($f1<=0.75,4*($f1-0.5),1/(1-min(4*($f1-0.75),0.9999)))))"
     exponent = p.formula(text, "early-shape")
@@ -306,7 +307,7 @@ def ramp():
 
 
 def loop(number):
-    """One loop of the late reverberation: what comes out of it, and what enters it from the room."""
+    """One loop of the late reverberation: its output, and its input from the room."""
     share = LOOPS[number] / sum(LOOPS)
     p = Patch(f"Loop {number + 1} of {len(LOOPS)}: absorption in three bands at every turn, and by the air")
     is_open, air = p.port("inlet~"), p.port("inlet~")
@@ -331,7 +332,7 @@ def loop(number):
 
 
 def late(p):
-    """Eight loops that feed each other by a reflection. A frozen tail takes nothing in and loses nothing to the air."""
+    """Eight loops coupled by a reflection matrix. A frozen tail has no input and no loss to the air."""
     is_open = p.smooth(p.formula("$f1==0", "infinite"))
     air = p.smooth(p.formula("$f1!=0&&$f2==0", "air", "infinite"))
     loops = [p.sub(f"loop-{number + 1}", loop(number), is_open, air) for number in range(len(LOOPS))]
@@ -348,7 +349,7 @@ def listen():
     route = p.obj("route source direct room early cluster reverb speakers", message)
     sources = p.obj("clone -s 1 halcyra-listen-source~ $1 $2 $0", (route, 0), first, second)
     p.obj("delwrite~ $0-bus 1000", (sources, 2))
-    angles = p.obj("unpack s f f f f", (route, 6))  # aed, and azimuth, elevation, distance of the first, azimuth of the second
+    angles = p.obj("unpack s f f f f", (route, 6))  # aed; azimuth, elevation, distance; azimuth of the second
     base = p.obj("expr ($f1+$f2)/2;abs($f2-$f1)/2", (angles, 1), (angles, 4))
     p.obj("s $0-base", p.obj("pack f f", (base, 0), (base, 1)))
 
@@ -383,7 +384,7 @@ def listen():
 
 
 def example():
-    """A page on which one click plays a short percussive sound."""
+    """A page that plays a short percussive sound on one click."""
     items = []
 
     def add(text):

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Writes the patches for Pure Data (help and examples) into a folder: pd_patches.py FOLDER PATCHBENCH
 
-The rows are those of the Max help (help_content.py); pd_content.py tells where Pd differs. An attribute gets the box
-that suits its value, which the object itself tells on the bench.
+The rows are those of the Max help (help_content.py); pd_content.py has the differences. Each attribute gets a box that
+suits its value, which the object reports on the bench.
 """
 
 import json
@@ -18,26 +18,26 @@ import help_content
 import pd_content
 
 OBJECT = "halcyra~.control"
-# Pd's font of size 12, in pixels, and what a box adds around its text.
+# Pd's font of size 12, in pixels, and the padding of a box.
 CHAR_WIDTH, LINE_HEIGHT = 7, 16
 BOX_FRAME_WIDTH, BOX_FRAME_HEIGHT = 10, 6
-LONGEST_LINE = 60  # characters, where Pd itself breaks the text of a box
+LONGEST_LINE = 60  # characters; Pd itself wraps a box's text here
 
 COLUMN_WIDTH = 520
 MARGIN = 24
-INDENT = 16  # of comments, beside the rail of cords at a column's left edge
+INDENT = 16  # of comments, beside the column's rail of cords
 REMARK = 250  # from the column's left edge to the remarks
 GAP = 6
 PICTURE_SIZES = {"toggle": (20, 20), "number": (7 * CHAR_WIDTH + 6, LINE_HEIGHT + BOX_FRAME_HEIGHT), "symbol": (17 * CHAR_WIDTH + 6, LINE_HEIGHT + BOX_FRAME_HEIGHT)}
 
 
 def escaped(text):
-    """A text as a patch file writes it."""
+    """Escapes text for a patch file."""
     return text.replace("\\", "\\\\").replace(",", " \\,").replace(";", " \\;").replace("$", "\\$").replace("  ", " ")
 
 
 def spoken(text):
-    """A comment as Pd keeps it: a semicolon would break the line, and a number would lose the point behind it."""
+    """A comment that survives Pd: a semicolon would break the line, and a number would lose the full stop after it."""
     text = re.sub(r"(\d)\.(?=\s+[A-Z])", r"\1 -", text.replace(";", ","))
     return re.sub(r"(\d)\.(?=[\s,]|$)", r"\1", text)
 
@@ -47,7 +47,7 @@ def wrapped(text, width):
 
 
 class Attributes:
-    """What the bench tells about an object's attributes: their values right after creation, and how they are shown."""
+    """An object's attributes as the bench reports them: values right after creation, and how they are shown."""
 
     def __init__(self, bench, names):
         script = [f"new a {OBJECT} @numsources 2 @numspeakers 4 @numareas 1"]
@@ -63,7 +63,7 @@ class Attributes:
                 self.styles[words[2]] = words[4:]
 
     def boxes(self, name):
-        """The feeders and the message of an attribute's row."""
+        """The feeders and message for an attribute's row."""
         values = self.values[name]
         if len(values) != 1:
             return [], " ".join([name, *(value.rstrip(".") for value in values)])
@@ -105,7 +105,7 @@ class Page:
         return len(lines) * LINE_HEIGHT + 4
 
     def heading(self, text, x, y, size=18):
-        """A canvas that shows nothing but its label."""
+        """A canvas that shows only its label."""
         width = int(len(text) * size * 0.62) + 8
         label = text.replace(",", "\\,").replace(" ", "\\ ")
         self.add(f"#X obj {x} {y} cnv 5 5 {size + 4} empty empty {label} 0 {size // 2 + 2} 0 {size} #fcfcfc #202020 0;", x, y, width, size + 6)
@@ -123,7 +123,7 @@ class Page:
         return self.box("obj", " ".join([kind, *limits]), x, y)
 
     def chain(self, feeders, message, x, y):
-        """Feeders one above the other and the message below; returns the message and its lower edge."""
+        """Feeders below each other and the message below them; returns the message and its lower edge."""
         above = None
         for feeder in feeders:
             received = self.box("obj", f"r $0-{feeder.split()[0]}", x, y) if feeder in self.receivers else None
@@ -140,7 +140,7 @@ class Page:
         return made, y + self.place[made][3]
 
     def object(self, name, text, x, y):
-        """Another object than ours, below what receives the messages for it; returns it and its upper edge."""
+        """Another object, below the boxes that send messages to it; returns it and its upper edge."""
         above = None
         if name in self.receivers:
             above = self.box("obj", f"r $0-{name}", x, y)
@@ -151,11 +151,11 @@ class Page:
         return made, y
 
     def inlet(self, box, number):
-        """The inlet of a box that has the number in Max."""
+        """The inlet for a Max inlet number."""
         return 1 - number if self.items[box].split()[4].rstrip(";") in pd_content.SWAPPED else number
 
     def row(self, row, x, y):
-        """Lays a row out; returns the message for our object, or None, and the row's lower edge."""
+        """Lays out a row; returns the message for our object, or None, and the row's lower edge."""
         kind, *rest = row
         if kind == "say":
             return None, y + self.comment(rest[0], x + INDENT, y, COLUMN_WIDTH - 3 * INDENT) + GAP
@@ -177,7 +177,7 @@ class Page:
             made, y = self.object(name, text, x + INDENT, y)
             beside, y = made, y + self.place[made][3]
         if remark:
-            # Beside all boxes of the row, or below them where they leave no room.
+            # To the right of the row's boxes, or below them if there is no room.
             widest = max(px + width for px, py, width, _ in self.place if px < x + COLUMN_WIDTH and px >= x and py >= top)
             left = max(x + REMARK, widest + 10)
             if left > x + COLUMN_WIDTH - 140:
@@ -203,7 +203,7 @@ class Page:
         return y
 
     def fill(self, content):
-        """Lays a page out; returns its lower edge, and its right edge."""
+        """Lays out a page; returns its lower and its right edge."""
         self.receivers = {row[1] for column in content["columns"] for _, rows in column for row in rows if row[0] == "to"}
         y = 12 + self.heading(content["title"], MARGIN, 10, 20)
         width = max(1.4, len(content["columns"])) * COLUMN_WIDTH
@@ -220,7 +220,7 @@ class Page:
         return max(x + w for x, _, w, _ in self.place) + MARGIN, bottom + MARGIN
 
     def check_apart(self):
-        """Ends with a message if two boxes overlap."""
+        """Exits with a message if two boxes overlap."""
         for number, (ax, ay, aw, ah) in enumerate(self.place):
             for other, (bx, by, bw, bh) in enumerate(self.place[number + 1 :], number + 1):
                 if ax < bx + bw and bx < ax + aw and ay < by + bh and by < ay + ah:
@@ -240,7 +240,7 @@ class Page:
         return y - top + (LINE_HEIGHT + BOX_FRAME_HEIGHT + 12 if content.get("pages") else 0)
 
     def tail(self, content, y):
-        """Our object, and what its outlets go to."""
+        """Our object, and what its outlets are connected to."""
         x = MARGIN
         self_in = self.box("obj", "r $0-in", x, y)
         y += self.place[self_in][3] + GAP
@@ -274,14 +274,14 @@ def write(path, page, width, height):
 
 
 def meta(version):
-    """What Pd's help browser reads about a library."""
+    """A library's entry in Pd's help browser."""
     rows = [f"{key} {text}" for key, text in {**pd_content.META, "VERSION": version}.items()]
     texts = [f"#X text 12 {20 + 30 * number} {escaped(row)};" for number, row in enumerate(rows)]
     return "\n".join(["#N canvas 10 10 300 200 12;", "#N canvas 20 20 600 400 META 0;", *texts, "#X restore 30 30 pd META;"]) + "\n"
 
 
 def adapted(content):
-    """A page with the words and rows of Pd where they differ."""
+    """Replaces words and rows of a page where Pd differs."""
     return json.loads(pd_content.adapt(json.dumps(content, ensure_ascii=False)))
 
 

@@ -1,4 +1,4 @@
-"""The tables that the documents are made from: messages.txt and attributes.txt, read; the object's own answers, asked.
+"""The tables behind the documents: parses messages.txt and attributes.txt, and queries the object itself.
 
 Used by docs/make, package/enrich and package/patchers.py."""
 
@@ -54,20 +54,19 @@ def attributes():
 
 
 def tidy(value):
-    """Numbers without the digits that single precision adds, and without a bare point."""
+    """Removes the extra digits of single precision, and a trailing point."""
     return " ".join(f"{float(word):.6g}" if re.fullmatch(r"-?\d*\.\d*(e-?\d+)?", word) else word for word in value.split())
 
 
 def short_default(value):
-    """A default for people: tidy numbers, and a list of one value over and over, for the 250 objects that there can be,
-    as that value."""
+    """A default for readers: tidy numbers, and a list of equal values, up to 250 of them, as that single value."""
     value = tidy(value)
     words = value.split()
     return f"{words[0]} for each" if len(words) > 20 and len(set(words)) == 1 else value
 
 
 def facts(bench):
-    """What the object says of its attributes: name -> {type, default, minvalue, maxvalue, units, category, choices}."""
+    """The attributes as the object reports them: name -> {type, default, minvalue, maxvalue, units, category, choices}."""
     with tempfile.TemporaryDirectory() as folder:
         subprocess.run([bench, "--window", "offscreen"], input=f"new page {OBJECT}\nsend page generatexml\n", cwd=folder, text=True, capture_output=True, check=True)
         root = ElementTree.parse(Path(folder) / f"{OBJECT}.maxref.xml").getroot()
@@ -84,7 +83,7 @@ def facts(bench):
 
 
 def setup_of(example):
-    """Bench commands that an example of a message needs before it: the answer of a dialog, a dictionary to read."""
+    """Bench commands required before a message's example: a dialog's answer, a dictionary to read."""
     word = example.split()[0]
     if example in ("writesnapshot", "readsnapshot"):
         return ["dialog scenes.xml"]

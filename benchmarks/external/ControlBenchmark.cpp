@@ -13,7 +13,7 @@ namespace
 
 std::atomic<long> news{ 0 };
 
-/** While it lives the host pumps no windows. */
+/** Stops the host from pumping windows for its lifetime. */
 class WithoutWindows
 {
 public:

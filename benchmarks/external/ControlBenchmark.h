@@ -8,33 +8,33 @@
 #include <chrono>
 #include <vector>
 
-/** Where the window of the measured object is. */
+/** State of the measured object's window. */
 enum class Window
 {
     never,
-    closed, // was open, and hides
+    closed, // was opened, and is hidden
     open,
-    scene // open, and shows the scene's page
+    scene // open, showing the scene's page
 };
 
-/** An object with 64 sources and 64 speakers on the bench, its window in memory, and beside it a minimal class that
-    only defers and sends one message. */
+/** An object with 64 sources and 64 speakers on the bench, its window in memory, plus a minimal class that only defers
+    and sends one message. */
 class ControlBenchmark
 {
 public:
     explicit ControlBenchmark (Window window = Window::never);
 
-    /** Sends a message and pumps until all that it caused is over, repaints included. */
+    /** Sends a message and pumps until everything it caused is done, including repaints. */
     void send (t_symbol* selector, const bench::Atoms& atoms);
     void send (const char* text);
 
-    /** The floor: the minimal class's deferred message, in a host without windows to pump. */
+    /** Floor: the minimal class's deferred message, in a host without windows to pump. */
     void sendMinimal();
 
-    /** The floor of an attribute: the minimal class's `level`, in this very host with its windows. */
+    /** Floor of an attribute: the minimal class's `level`, in the same host with its windows. */
     void sendMinimalAttribute();
 
-    /** The floor of an answer of many messages: the minimal class sends so many. */
+    /** Floor of an answer of many messages: the minimal class sends this many. */
     void sendMinimalMany (int messages);
 
     [[nodiscard]] t_halcyra_control& record() const;
@@ -55,17 +55,17 @@ inline double seconds()
     return std::chrono::duration<double> (std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-/** Draws what is out of date in the windows, as a window system asks for from time to time. */
+/** Paints the windows' invalid areas, as a window system requests from time to time. */
 void paintWindows();
 
-/** Operator new so far. */
+/** Calls of operator new so far. */
 long allocations();
 
-/** The middle one, which a busy machine does not shift as it does a mean. */
+/** The median, which a busy machine shifts less than a mean. */
 double median (std::vector<double>& times);
 
-/** Does the work and its floor in turn. The columns, of medians: `ratio` of their times; both times in
-    microseconds; and in the mean the work's allocations less the floor's. */
+/** Alternates the work and its floor. Columns: `ratio` of their median times; both median times in microseconds; and
+    the mean of the work's allocations minus the floor's. */
 template <typename Work, typename Floor>
 void compare (benchmark::State& state, Work&& work, Floor&& floor)
 {

@@ -5,13 +5,13 @@
 #include <cmath>
 #include <string>
 
-// Messages from the inlet to the outlet, against what a minimal class pays in the same host: a parameter against an
-// attribute, a message against a deferred message.
+// Messages from inlet to outlet, relative to a minimal class in the same host: a parameter to an attribute, a message
+// to a deferred message.
 
 namespace
 {
 
-/** A message whose last number goes up and down, so that every one changes something. */
+/** A message whose last number alternates, so that each one changes something. */
 class Moving
 {
 public:
@@ -37,7 +37,7 @@ void measure (benchmark::State& state, Window window, const char* text)
         state, [&] { message.sendTo (bench); }, [&] { bench.sendMinimal(); });
 }
 
-/** A parameter is an attribute, so its floor is one, in a host with the same windows. */
+/** A parameter is an attribute, so its floor is an attribute in a host with the same windows. */
 void measureParameter (benchmark::State& state, Window window, const char* text)
 {
     ControlBenchmark bench (window);
@@ -69,7 +69,7 @@ std::string repeated (const char* selector, const char* values, int times)
     return text;
 }
 
-/** The positions of all 64 on a circle that the view shows, turned by an angle in radians. */
+/** The positions of all 64 on a visible circle, rotated by an angle in radians. */
 bench::Message circle (double turn)
 {
     std::string text = "sourcespositions";
@@ -79,7 +79,7 @@ bench::Message circle (double turn)
     return bench::messageOf (bench::wordsOf (text));
 }
 
-/** All 64 at once, each in view and moving; the floor is one of them. */
+/** Moves all 64 at once, all visible; the floor is one of them. */
 void sourcesPositions (benchmark::State& state, Window window)
 {
     ControlBenchmark bench (window);
@@ -95,7 +95,7 @@ void sourcesPositions (benchmark::State& state, Window window)
 BENCHMARK_CAPTURE (sourcesPositions, closed, Window::closed)->UseManualTime()->Unit (benchmark::kMicrosecond);
 BENCHMARK_CAPTURE (sourcesPositions, scene_open, Window::scene)->UseManualTime()->Unit (benchmark::kMicrosecond);
 
-/** Meters of all sources; shown or not. */
+/** Levels of all sources; shown or not. */
 void sourcesLevels (benchmark::State& state, Window window, const char* setting)
 {
     ControlBenchmark bench (window);
@@ -109,7 +109,7 @@ BENCHMARK_CAPTURE (sourcesLevels, other_page_open, Window::open, "showsourceslev
 BENCHMARK_CAPTURE (sourcesLevels, scene_open_hidden, Window::scene, "showsourceslevels 0")->UseManualTime();
 BENCHMARK_CAPTURE (sourcesLevels, scene_open, Window::scene, "showsourceslevels 1")->UseManualTime();
 
-/** 64 sources, 4 filters, 20 parameters and the speakers: 89 messages leave, and so many leave the floor. */
+/** 64 sources, 4 filters, 20 parameters and the speakers: 89 messages, as many as the floor sends. */
 void bang (benchmark::State& state, Window window)
 {
     constexpr int messages = 89;

@@ -4,7 +4,7 @@
 
 #include <ctime>
 
-// The life and the state of an object, each against the least that it stands on.
+// An object's creation and state, each relative to the least it requires.
 
 namespace
 {
@@ -26,14 +26,14 @@ BENCHMARK_CAPTURE (createAndFree, largest, "halcyra~.control @numsources 64 @num
     ->UseManualTime()
     ->Unit (benchmark::kMillisecond);
 
-/** Draws the whole component once: what no window does without. */
+/** Draws the whole component once: the least that any window does. */
 void drawFrame (ControlBenchmark& bench, juce::Image& frame)
 {
     juce::Graphics g (frame);
     bench.record().component->paintEntireComponent (g, true);
 }
 
-/** Opens a window whose object was prepared before; the `ratio` is to one frame of the page that it shows. */
+/** Opens the window of a prepared object; `ratio` is relative to one frame of the page that it shows. */
 template <typename Prepare, typename Open>
 void measureOpen (benchmark::State& state, ControlBenchmark& shown, Prepare&& prepare, Open&& open)
 {
@@ -85,7 +85,7 @@ double processorSeconds()
     return static_cast<double> (now.tv_sec) + static_cast<double> (now.tv_nsec) * 1e-9;
 }
 
-/** A second in which nothing happens: the share of a processor, window open and never opened. */
+/** An idle second: share of a processor, with the window open and never opened. */
 void idle (benchmark::State& state)
 {
     const auto share = [] (Window window) {
@@ -106,7 +106,7 @@ void idle (benchmark::State& state)
 }
 BENCHMARK (idle)->Iterations (3)->Unit (benchmark::kMillisecond);
 
-/** The floor of all that walks the attributes: the host reads, or sets, each of them once. */
+/** Floor of everything that loops over the attributes: the host reads, or sets, each of them once. */
 void readEach (ControlBenchmark& bench)
 {
     for (const auto& name : bench::visibleAttributes (*bench.box))

@@ -9,8 +9,8 @@
 #include <new>
 #include <string>
 
-/** Every coordinate format, read from its word and its numbers and written back. "ratio" is the time against that of
-    copying the three numbers. A format that allocates fails. */
+/** Every coordinate format, parsed from its name and numbers and written back. "ratio" is the time relative to copying
+    three numbers. A format that allocates fails. */
 
 namespace
 {
@@ -19,7 +19,7 @@ std::size_t allocations = 0;
 
 }
 
-// Counts what comes from the C library's heap, below the library's own arrays and below operator new alike.
+// Counts C heap allocations, below both the library's own arrays and operator new.
 #if defined(__GLIBC__)
 extern "C" void* __libc_malloc (std::size_t bytes);
 extern "C" void* malloc (std::size_t bytes)
@@ -45,7 +45,7 @@ namespace
 using Clock = std::chrono::steady_clock;
 using Values = std::array<float, qel::maxCoordinateValues>;
 
-constexpr std::size_t numInputs = 64; // in turn, so that the processor learns none by heart
+constexpr std::size_t numInputs = 64; // rotates inputs, so that branch prediction cannot learn one
 
 std::array<Values, numInputs> inputs() noexcept
 {
@@ -62,7 +62,7 @@ double nanosecondsSince (Clock::time_point start)
     return std::chrono::duration<double, std::nano> (Clock::now() - start).count();
 }
 
-/** The time of copying three numbers, measured in the same loop. */
+/** The time to copy three numbers, in the same loop. */
 double floorNanoseconds()
 {
     static const double floor = [] {
@@ -96,7 +96,7 @@ void measure (benchmark::State& state, Step&& step)
         state.SkipWithError ("allocates");
 }
 
-/** Relative formats work on a point that stays where it was, so that a long run does not take it away. */
+/** Resets the point for relative formats, so that it does not drift away in a long run. */
 void read (benchmark::State& state, qel::CoordinateType type)
 {
     const auto values = inputs();

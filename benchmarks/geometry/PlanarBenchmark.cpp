@@ -7,14 +7,14 @@
 #include <random>
 #include <vector>
 
-/** Both should grow with n log n: from 256 to 4,096 points that is a factor of 24. */
+/** Both should be O(n log n): a factor of 24 from 256 to 4,096 points. */
 
 namespace
 {
 
 using qel::Point3Array;
 
-constexpr std::size_t numSets = 50; // in turn, so that the processor learns none by heart
+constexpr std::size_t numSets = 50; // rotates inputs, so that branch prediction cannot learn one
 
 using Random = std::mt19937;
 
@@ -27,7 +27,7 @@ Point3Array scattered (std::size_t count, Random& random)
     return points;
 }
 
-/** All on the hull, but for rounding. */
+/** All on the hull, except for rounding. */
 Point3Array onACircle (std::size_t count, Random& random)
 {
     Point3Array points;
@@ -39,7 +39,7 @@ Point3Array onACircle (std::size_t count, Random& random)
     return points;
 }
 
-/** Four neighbours on one circle each, which the exact tests decide. */
+/** Every four neighbours are cocircular, which the exact predicates decide. */
 Point3Array onAGrid (std::size_t count, Random& random)
 {
     const auto side = static_cast<std::size_t> (std::sqrt (static_cast<double> (count)));

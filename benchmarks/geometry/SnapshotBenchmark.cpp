@@ -14,7 +14,7 @@ namespace
 
 constexpr std::size_t sources = 64;
 
-/** Snapshots as a user's, to be written to or read from a file that goes with them. */
+/** Typical user snapshots and a temporary file to write them to or read them from. */
 struct Saved
 {
     explicit Saved (std::int64_t count)
@@ -54,7 +54,7 @@ void ReadSnapshots (benchmark::State& state)
     }
 }
 
-/** In the middle of many, and stored again at their end. */
+/** Removes one in the middle of many, and stores it again at the end. */
 void RemoveOneSnapshot (benchmark::State& state)
 {
     Saved saved (state.range (0));
@@ -79,14 +79,14 @@ double peakMemory()
     return 0;
 }
 
-/** `over_file`: the most memory while the file is read or written, above what the store holds, to the file's size. */
+/** `over_file`: peak memory while reading or writing, above the store's own, relative to the file's size. */
 template <typename Work>
 void measureMemory (benchmark::State& state, const Saved& saved, Work&& work)
 {
     const auto kilobytes = static_cast<double> (saved.file.size()) / 1024;
     while (state.KeepRunning()) {
         malloc_trim (0);
-        std::ofstream ("/proc/self/clear_refs") << "5"; // forgets the peak so far
+        std::ofstream ("/proc/self/clear_refs") << "5"; // resets the peak
         const double before = peakMemory();
         const double ofStore = work();
         state.counters["over_file"] = (peakMemory() - before - ofStore) / kilobytes;

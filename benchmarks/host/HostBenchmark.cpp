@@ -4,7 +4,7 @@
 
 namespace
 {
-/** A patch whose events are thrown away. */
+/** A patch that discards its events. */
 struct QuietPatch
 {
     QuietPatch()

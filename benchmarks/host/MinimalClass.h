@@ -1,7 +1,7 @@
 #pragma once
 #include "host/api/MaxApi.h"
 
-/** Entry point of "bench.minimal": a class whose message `gain` defers and then sends `reverb gain VALUE` out of its
-    one outlet, whose message `many` defers and sends that so many times, and which has an attribute `level` with a clip filter and a setter that does the same. What any
-    external pays for such a message in this host: the floor that others are measured against. */
+/** Entry point of "bench.minimal", the floor that other classes are measured against: what any external pays for a
+    message in this host. Its message `gain` defers and sends `reverb gain VALUE` from its only outlet, `many` defers
+    and sends it that many times, and the attribute `level` has a clip filter and a setter that sends it too. */
 t_clong minimal_main (void*);

@@ -7,7 +7,7 @@
 namespace
 {
 
-/** A message held against a handler's row of fixed addresses. */
+/** Matches a message against a handler's row of fixed addresses. */
 void rowOfAddresses (benchmark::State& state)
 {
     const char* const row[] = { "/numdelays", "/min", "/max", "/distr", "/sum", "/minmax", "/minsum" };
@@ -17,7 +17,7 @@ void rowOfAddresses (benchmark::State& state)
             benchmark::DoNotOptimize (message.matches (address));
 }
 
-/** A pattern of many stars on a text that it nearly matches: linear in the text. */
+/** A pattern of many stars against a text that nearly matches: linear in the text. */
 void manyStars (benchmark::State& state)
 {
     const qel::String text (std::string (static_cast<std::size_t> (state.range (0)), 'a'));

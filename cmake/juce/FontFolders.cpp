@@ -10,7 +10,7 @@ namespace
 
 namespace fs = std::filesystem;
 
-/** How the files of these families begin, in small letters and without what is no letter. */
+/** Prefixes of these families' file names, lower case, letters only. */
 constexpr const char* families[] = {
     "lucidagrande", "arial", "verdana", "vera", "luxis", "liberationsans", "dejavusans"
 };

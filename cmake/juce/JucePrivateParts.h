@@ -1,27 +1,27 @@
 #pragma once
 #include <juce_gui_basics/juce_gui_basics.h>
 
-/** What we use of JUCE beside its interface. Another version may mean something else by it: look at each part that is
-    named here, and at desktop::X11Window and desktop::OffscreenDesktop, before you let one in. */
+/** The private parts of JUCE that we use. Before allowing another version, check each part named here, and X11Window
+    and OffscreenDesktop. */
 static_assert (JUCE_VERSION == 0x70005, "JUCE's private parts were read in version 7.0.5");
 
 namespace juce
 {
 
-/** One step of the message loop; false when there was nothing to do. */
+/** Runs one step of the message loop; false if there was nothing to do. */
 bool dispatchNextMessageOnSystemQueue (bool returnIfNoPendingMessages);
 
-// The following stand beside what they name, in juce_gui_basics.cpp of this folder. Message thread.
+// Defined in juce_gui_basics.cpp of this folder. Message thread.
 
-/** The timer by which a tooltip window looks for the component under the pointer. */
+/** The timer with which a tooltip window polls for the component under the pointer. */
 [[nodiscard]] Timer& timerOf (TooltipWindow& window);
 
 #if JUCE_LINUX
-/** Says whether this process is the one in front, where no display says it: JUCE's tooltips and menus go by a flag
-    that only its X11 windows ever set. */
+/** Sets whether this process is in front, for when no display reports it: JUCE's tooltips and menus depend on a flag
+    that only its X11 windows set. */
 void setForegroundProcess (bool isForeground);
 
-/** A window's peer on the display that has no timer while nothing is painted. The caller owns it. */
+/** Creates a window's peer without a timer while nothing is painted. The caller owns it. */
 [[nodiscard]] ComponentPeer* createRestingPeer (Component& component, int styleFlags);
 #endif
 

@@ -5,14 +5,14 @@
 namespace juce
 {
 
-/** The timer is a private base, which this form of a cast alone may name. */
+/** The timer is a private base class, which only a C-style cast may access. */
 Timer& timerOf (TooltipWindow& window) { return (Timer&)window; }
 
 #if JUCE_LINUX
 
 void setForegroundProcess (bool isForeground) { LinuxComponentPeer::isActiveApplication = isForeground; }
 
-/** The timer is private to JUCE's peer; an explicit instantiation may name it. */
+/** The timer is a private member of JUCE's peer; an explicit instantiation may name it. */
 template <auto timer>
 struct VBlankTimer
 {
@@ -21,9 +21,9 @@ struct VBlankTimer
 Timer& vBlankTimerOf (LinuxComponentPeer& peer);
 template struct VBlankTimer<&LinuxComponentPeer::vBlankManager>;
 
-/** JUCE's peer ticks at the screen's rate for as long as it lives, which wakes a thread of timers and the main thread
-    whether anything changed or not. This one paints when it is asked to: behind what already waits in the message
-    queue, or when the screen is next due if a frame was painted just before. Message thread. */
+/** JUCE's peer has a timer at the screen's rate for its whole life, which wakes a timer thread and the main thread even
+    if nothing changes. This one paints only on demand: behind the messages already queued, or at the screen's next
+    frame if one was painted just before. Message thread. */
 class RestingPeer : public LinuxComponentPeer, private AsyncUpdater, private ComponentPeer::VBlankListener
 {
 public:
@@ -45,7 +45,7 @@ public:
     }
 
 private:
-    /** In ms; longer than the 3 s after which JUCE drops the image that it paints into. */
+    /** In ms; longer than the 3 s after which JUCE frees the image that it paints into. */
     static constexpr int rest = 3500;
 
     [[nodiscard]] Timer& timer() { return vBlankTimerOf (*this); }
@@ -58,18 +58,18 @@ private:
 
     void handleAsyncUpdate() override { timer().timerCallback(); }
 
-    /** A frame begins: JUCE goes on to paint what was asked for, unless the server still reads the last one. */
+    /** Starts a frame: JUCE then paints the invalid area, unless the server is still reading the last frame. */
     void onVBlank() override
     {
         if (const int set = timer().getTimerInterval(); set != ticks)
-            interval = set; // by JUCE, for the screen that the window is on
+            interval = set; // by JUCE, for the window's screen
         const auto now = Time::getMillisecondCounterHiRes();
         auto& windows = *XWindowSystem::getInstance();
         windows.processPendingPaintsForWindow (getWindowHandle());
         if (windows.getNumPaintsPendingForWindow (getWindowHandle()) > 0)
             return tick (interval);
         if (std::exchange (frameIsAsked, false))
-            due = jmax (due, now - interval) + interval; // keeps the rate although hands are uneven
+            due = jmax (due, now - interval) + interval; // keeps the rate when events arrive unevenly
         else if (now - due > rest)
             return stop();
         if (timer().getTimerInterval() != rest)
@@ -82,9 +82,9 @@ private:
         timer().stopTimer();
     }
 
-    double due = 0;    // when the next frame may be painted, in ms
-    int interval = 10; // of the screen's frames, in ms
-    int ticks = 0;     // what the timer was last set to here, in ms
+    double due = 0;    // time of the next frame, in ms
+    int interval = 10; // the screen's frame interval, in ms
+    int ticks = 0;     // the timer interval last set here, in ms
     bool frameIsAsked = false;
 };
 

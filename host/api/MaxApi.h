@@ -1,7 +1,7 @@
 #pragma once
 
-/** The operations of Max that an external calls, with the binary interface of 64-bit Windows: plain C linkage
-    and declarations alone. In Max they come from the host's library, on the bench from host/bench. */
+/** The Max operations that an external calls, with the binary interface of 64-bit Windows: plain C linkage,
+    declarations only. In Max the host's library defines them, on the bench host/bench. */
 #include "host/api/MaxAtoms.h"
 #include "host/api/MaxCommonSymbols.h"
 #include "host/api/MaxConstants.h"

@@ -1,6 +1,6 @@
 #include "host/api/MaxApi.h"
 
-/** Sizes, offsets and constants that the binary interface fixes, checked on every platform that compiles us. */
+/** Sizes, offsets and constants fixed by the binary interface, checked on every platform. */
 
 #define AT(record, field, bytes) static_assert (offsetof (record, field) == (bytes), #record "." #field)
 #define SIZE(record, bytes) static_assert (sizeof (record) == (bytes), #record)

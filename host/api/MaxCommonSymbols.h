@@ -1,18 +1,18 @@
 #pragma once
 #include "host/api/MaxTypes.h"
 
-/** The symbols that Max keeps ready. The table only ever grew at its end, so an index stays what it is. */
+/** Max's predefined symbols. The table has only ever grown at its end, so indices are stable. */
 struct t_common_symbols_table
 {
     t_clong version;
     t_clong padding;
     t_symbol* symbols[1454];
 
-    /** The symbol at an index, counted from 1 as in CommonSymbol. */
+    /** The symbol at an index, from 1 as in CommonSymbol. */
     [[nodiscard]] t_symbol* at (int index) const { return symbols[index - 1]; }
 };
 
-/** Word and index of each entry that has a name here; the one list behind the enum and the bench's table. */
+/** Word and index of each entry named here; the single list behind the enum and the bench's table. */
 #define MAX_COMMON_SYMBOLS(ROW)                                                                                        \
     ROW (preset_binbuf, "_preset", 1)                                                                                  \
     ROW (anything, "anything", 41)                                                                                     \

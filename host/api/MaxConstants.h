@@ -1,6 +1,6 @@
 #pragma once
 
-/** The numbers of Max's C interface. */
+/** Constants of Max's C interface. */
 
 constexpr long long OB_MAGIC = 1758379419;
 
@@ -27,7 +27,7 @@ enum e_max_atomtypes : short
     A_USURP_LOW
 };
 
-/** A method has at most so many typed arguments. */
+/** The maximum number of typed arguments of a method. */
 constexpr int MAX_TYPED_ARGUMENTS = 7;
 
 enum e_max_errorcodes : long long
@@ -42,9 +42,9 @@ enum e_max_errorcodes : long long
 enum e_max_attrflags : int
 {
     ATTR_FLAGS_NONE = 0,
-    ATTR_GET_OPAQUE = 0x1, // neither messages nor C
+    ATTR_GET_OPAQUE = 0x1, // not from messages or C
     ATTR_SET_OPAQUE = 0x2,
-    ATTR_GET_OPAQUE_USER = 0x100, // C may, messages may not
+    ATTR_GET_OPAQUE_USER = 0x100, // from C, but not from messages
     ATTR_SET_OPAQUE_USER = 0x200,
     ATTR_GET_DEFER = 0x10000,
     ATTR_GET_USURP = 0x20000,
@@ -62,7 +62,7 @@ enum e_max_class_flags : int
 {
     CLASS_FLAG_BOX = 0x1,
     CLASS_FLAG_POLYGLOT = 0x2,
-    CLASS_FLAG_NEWDICTIONARY = 0x4, // `new` gets the attribute dictionary
+    CLASS_FLAG_NEWDICTIONARY = 0x4, // `new` receives the attribute dictionary
     CLASS_FLAG_REGISTERED = 0x8,
     CLASS_FLAG_UIOBJECT = 0x10,
     CLASS_FLAG_ALIAS = 0x20,
@@ -110,7 +110,7 @@ enum e_max_path_types : int
     PATH_TYPE_RELATIVE = 2
 };
 
-/** Sizes of buffers in bytes, the closing zero included. */
+/** Buffer sizes in bytes, including the terminating null. */
 constexpr int MAX_PATH_CHARS = 2048;
 constexpr int MAX_FILENAME_CHARS = 512;
 constexpr int MAX_ASSIST_CHARS = 500;

@@ -3,16 +3,16 @@
 #include <cstddef>
 #include <type_traits>
 
-/** What Max's own header has as macros. */
+/** Replacements for macros of Max's own header. */
 
-/** Any function as a method, the form in which the host takes it. */
+/** Converts any function to a method, the form that the host takes. */
 template <typename Result, typename... Arguments>
 inline method max_method (Result (*function) (Arguments...))
 {
     return reinterpret_cast<method> (reinterpret_cast<void (*)()> (function));
 }
 
-/** A pointer or an integer at pointer width. Floats never travel this way. */
+/** Converts a pointer or an integer to pointer width. Floats cannot be passed this way. */
 template <typename Value>
 inline void* max_pointer (Value value)
 {
@@ -27,7 +27,7 @@ inline void* max_pointer (Value value)
         return reinterpret_cast<void*> (static_cast<std::intptr_t> (value));
 }
 
-/** Calls a method of an object untyped, with exactly ten pointers, and gives its result or null. */
+/** Calls an object's method untyped, with exactly ten pointers, and returns its result or null. */
 template <typename... Arguments>
 inline void* object_method (void* x, t_symbol* selector, Arguments... arguments)
 {
@@ -39,5 +39,5 @@ inline void* object_method (void* x, t_symbol* selector, Arguments... arguments)
 #define CLASS_BOX gensym ("box")
 #define CLASS_NOBOX gensym ("nobox")
 
-/** Offset of a field in an object's record, as attr_offset_new takes it. */
+/** Offset of a field in an object's struct, as attr_offset_new takes it. */
 #define calcoffset(record, field) static_cast<t_clong> (offsetof (record, field))

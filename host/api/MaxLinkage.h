@@ -1,8 +1,8 @@
 #pragma once
 
-/** How an operation of the host is linked. Every declaration starts with MAX_API; the import library's list
-    of names is read off these lines (see CMakeLists.txt). HOST_BUILD is defined only where the bench itself
-    is compiled. Printf-like operations carry MAX_FORMAT so that the compiler checks their arguments. */
+/** Linkage of the host's operations. Every declaration starts with MAX_API; the import library's list of names is read
+    from these lines (see CMakeLists.txt). HOST_BUILD is defined only when compiling the bench itself. Printf-like
+    operations carry MAX_FORMAT, so that the compiler checks their arguments. */
 #if defined(_WIN32) && defined(HOST_BUILD)
 #define MAX_API __declspec(dllexport)
 #elif defined(_WIN32)
@@ -17,7 +17,7 @@
 #define MAX_FORMAT(text, first) __attribute__ ((format (printf, text, first)))
 #endif
 
-/** What an external exports: its entry point. */
+/** An external's export: its entry point. */
 #if defined(_WIN32)
 #define MAX_EXPORT extern "C" __declspec(dllexport)
 #else

@@ -2,8 +2,8 @@
 #include <cstddef>
 #include <cstdint>
 
-/** The types of Max's C interface as the 64-bit Windows version lays them out. The same layout holds on
-    every platform: where Max writes `long` stands t_clong, 32 bits, never the compiler's own long. */
+/** Types of Max's C interface with the layout of its 64-bit Windows version, on every platform: Max's `long` is
+    t_clong, 32 bits, never the compiler's own long. */
 
 using t_clong = std::int32_t;  // Max's `long`
 using t_atom_long = long long; // print with "%lld"
@@ -11,7 +11,7 @@ using t_atom_float = double;
 using t_ptr_int = long long;
 using t_ptr_uint = unsigned long long;
 using t_ptr_size = unsigned long long;
-using t_max_err = long long;    // 64 bits: an accessor that returns less leaves rubbish above
+using t_max_err = long long;    // 64 bits: an accessor that returns less leaves garbage in the upper half
 using t_fourcc = std::uint32_t; // 'JSON' is 0x4A534F4E
 using t_filepath = std::int16_t;
 
@@ -23,11 +23,11 @@ struct t_object;
 using t_outlet = t_object; // opaque: made by outlet_new, known by pointer alone
 using t_qelem = void;      // opaque: made by qelem_new
 
-/** An interned text. Only gensym makes one, so equal texts have equal pointers. */
+/** An interned text. Only gensym creates one, so equal texts have equal pointers. */
 struct t_symbol
 {
     const char* s_name; // read only
-    t_object* s_thing;  // free for what the name stands for
+    t_object* s_thing;  // free for whatever the name refers to
 };
 
 union word
@@ -53,16 +53,16 @@ struct t_messlist
     char m_type[8];
 };
 
-/** The head of every object's record. */
+/** The head of every object's struct. */
 struct t_object
 {
     t_messlist* o_messlist;
-    t_ptr_int o_magic; // OB_MAGIC while the object lives
+    t_ptr_int o_magic; // OB_MAGIC while the object is alive
     t_object* o_inlet;
     t_object* o_outlet;
 };
 
-/** A class. Outsiders touch c_flags alone; everything else goes through functions. */
+/** A class. Externals access only c_flags; everything else goes through functions. */
 struct t_class
 {
     t_symbol* c_sym;

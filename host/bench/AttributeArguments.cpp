@@ -37,7 +37,7 @@ t_dictionary* makeAttributeDictionary (const ClassRecord& type, const BoxArgumen
             putAtoms (d, attribute->visible.name, preset->value);
     }
     for (const auto& group : arguments.groups) {
-        // A name alone says nothing: the default stands.
+        // A name without values keeps the default.
         if (! group.values.empty() || dictionary_hasentry (d, group.attribute) == 0)
             putAtoms (d, group.attribute, group.values);
         dictionaryOf (d)->attributeWords.insert (group.attribute);
@@ -54,7 +54,7 @@ void attr_dictionary_process (void* x, t_dictionary* d)
     const auto* record = dictionaryOf (d);
     if (record == nullptr)
         return;
-    // A copy: what a setter does to the dictionary must not disturb the walk.
+    // A copy: setters may change the dictionary during the loop.
     const auto entries = record->entries;
     for (const auto& entry : entries) {
         const auto* attribute = findAttribute (x, entry.key);

@@ -5,7 +5,7 @@
 namespace bench
 {
 
-/** The words of a box behind its class name: arguments up to the first `@`, then one group an attribute. */
+/** A box's words after its class name: arguments up to the first `@`, then one group per attribute. */
 struct BoxArguments
 {
     struct Group
@@ -21,8 +21,8 @@ struct BoxArguments
 /** An unquoted word that starts with `@` begins a group. */
 BoxArguments splitArguments (const std::vector<Word>& words);
 
-/** The dictionary of a new object: the class name, every attribute's default in order of registration, over it the
-    values that were typed. Owned by the caller. */
+/** The dictionary of a new object: the class name, all attribute defaults in order of registration, overridden by the
+    values typed. Owned by the caller. */
 t_dictionary* makeAttributeDictionary (const ClassRecord& type, const BoxArguments& arguments);
 
 }

@@ -9,7 +9,7 @@ namespace bench
 
 namespace
 {
-/** An atom in the kind of a type: numbers convert into each other, and into the text of a symbol. */
+/** Converts an atom to a type: numbers to one another, and numbers to symbols. */
 t_atom converted (const FieldType& type, t_atom atom)
 {
     const bool isNumber = atom.a_type == A_LONG || atom.a_type == A_FLOAT;
@@ -62,7 +62,7 @@ t_atom objectAtom (void* value)
     return atom;
 }
 
-/** The argument that a small letter stands for. */
+/** Reads the argument for a lower-case letter. */
 t_atom readOne (char letter, va_list& arguments)
 {
     switch (letter) {
@@ -92,7 +92,7 @@ void readItems (int count, va_list& arguments, Atoms& atoms, Make make)
         atoms.push_back (make (items[i]));
 }
 
-/** The count and the array that a capital stands for. */
+/** Reads the count and the array for a capital letter. */
 void readArray (char letter, va_list& arguments, Atoms& atoms)
 {
     const auto count = va_arg (arguments, int);

@@ -27,7 +27,7 @@ t_max_err copyOut (const std::vector<t_atom>& atoms, t_clong* ac, t_atom** av)
     return MAX_ERR_NONE;
 }
 
-/** Asks a getter of the class, and tells of one that takes the count for 64 bits wide. */
+/** Calls a getter of the class, and reports one that writes a 64-bit count. */
 t_max_err askGetter (const Attribute& attribute, void* x, t_clong* ac, t_atom** av)
 {
     t_clong guarded[2] = { *ac, canary };

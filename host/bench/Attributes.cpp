@@ -17,7 +17,7 @@ void freeAttribute (t_object* x)
     destroyHostObject<Attribute> (x);
 }
 
-// What attribute objects answer to object_method.
+// Methods of attribute objects, for object_method.
 void* getName (Attribute* a) { return a->visible.name; }
 void* getType (Attribute* a) { return a->visible.type; }
 void* getFlags (Attribute* a) { return reinterpret_cast<void*> (static_cast<std::intptr_t> (a->visible.flags)); }
@@ -88,7 +88,7 @@ t_atom filtered (const Filter& filter, FieldType::Family family, t_atom atom)
         return atom;
     const auto before = atom_getfloat (&atom);
     if (std::isnan (before))
-        return atom; // within no bounds, and no integer either: the setter's own affair
+        return atom; // within no bounds, and not an integer: left to the setter
     auto value = before * filter.scale;
     if (filter.useMin && value < filter.min)
         value = filter.min;
@@ -111,7 +111,7 @@ struct BoxAttributeRow
     std::size_t size;
 };
 
-// offsetof on a record with a std::string in it is fine with every compiler that builds us.
+// offsetof on a struct with a std::string works with every compiler we use.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Winvalid-offsetof"
 constexpr BoxAttributeRow boxAttributeRows[] = {

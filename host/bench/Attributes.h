@@ -5,7 +5,7 @@
 namespace bench
 {
 
-/** How the values of an attribute type lie in memory, and how they travel as atoms. */
+/** How an attribute type's values are stored, and how they convert to atoms. */
 struct FieldType
 {
     enum class Family
@@ -24,10 +24,10 @@ struct FieldType
     void (*write) (void* field, const t_atom& atom);
 };
 
-/** Null for a type that nobody knows. */
+/** Null for an unknown type. */
 const FieldType* fieldTypeNamed (const t_symbol* name);
 
-/** Scales and clips numbers, as doubles. */
+/** Scales and clips numbers, in double precision. */
 struct Filter
 {
     double scale = 1;
@@ -37,14 +37,14 @@ struct Filter
     bool useMax = false;
 };
 
-/** An attribute of a class: on a field of the object's record, of its box, or, as a property of another attribute,
-    with a value of its own. */
+/** An attribute of a class: stored in a field of the object's struct or of its box, or, as another attribute's
+    property, in a value of its own. */
 struct Attribute
 {
     t_attr visible{};
     const FieldType* type = nullptr;
     std::size_t offset = 0;
-    std::size_t countOffset = 0; // of a 32-bit count; 0: the size is fixed
+    std::size_t countOffset = 0; // of a 32-bit count; 0: fixed size
     std::size_t size = 1;
     std::vector<Filter> filtersOnSet;
     std::vector<Filter> filtersOnGet;
@@ -55,30 +55,30 @@ struct Attribute
     [[nodiscard]] Attribute* findProperty (const t_symbol* name) const;
 };
 
-/** Null for what is no attribute. */
+/** Null if x is not an attribute. */
 Attribute* attributeIn (const void* x);
 
-/** A property in place of the one of the same name, its atoms brought to its type. */
+/** Adds a property, converted to its type; replaces one of the same name. */
 void addProperty (Attribute& attribute, const char* name, t_symbol* type, t_clong flags, std::vector<t_atom> value);
 
-/** An attribute of an instance: of its class or, in a box, one that every box has; a property of an attribute. */
+/** Finds an attribute of an instance: its class's, its box's, or an attribute's property. */
 Attribute* findAttribute (const void* x, t_symbol* name);
 std::vector<Attribute*> attributesOf (const void* x);
 
-/** The atoms after the filters: numbers take the kind of the attribute's type, symbols stay. */
+/** Applies the filters; numbers are converted to the attribute's type, symbols are kept. */
 void applyFilters (const std::vector<Filter>& filters, const Attribute& attribute, t_clong ac, t_atom* av);
 
-/** Reads and sets by the default accessors. */
+/** The default getter and setter. */
 std::vector<t_atom> readField (const Attribute& attribute, const void* x);
 void writeField (const Attribute& attribute, void* x, const std::vector<t_atom>& atoms);
 
-/** The attributes of every box. */
+/** The attributes common to every box. */
 const std::vector<Attribute*>& boxAttributes();
 
-/** Whether asking for a property that is not there is an error; else it is an answer without atoms. */
+/** Whether asking for a missing property is an error; otherwise it returns no atoms. */
 void setMissingPropertyIsError (bool isError);
 
-/** Whether messages from other threads that set attributes flagged as deferred wait for the main thread. */
+/** Whether messages that set deferred attributes from other threads are queued for the main thread. */
 void setDeferFlagsAreHonoured (bool areHonoured);
 [[nodiscard]] bool waitsForMainThread (const Attribute& attribute);
 

@@ -19,7 +19,7 @@ namespace bench
 
 namespace
 {
-/** A box with what only the host needs to know of it. */
+/** A box plus what only the host needs. */
 struct PlacedBox
 {
     Box box;
@@ -28,11 +28,11 @@ struct PlacedBox
 
 void tellWindow (void* object, const std::string& what)
 {
-    // A window may outlive its object by the moment in which it is torn down.
+    // While it is being destroyed, a window may outlive its object.
     tell (Event::Kind::window, object, what);
 }
 
-/** Calls `new`: with the attribute dictionary where the class asks for it, else with all the words as atoms. */
+/** Calls `new`: with the attribute dictionary if the class wants one, otherwise with all words as atoms. */
 t_object* instantiate (t_class* c, const std::vector<Word>& words)
 {
     if ((c->c_flags & CLASS_FLAG_NEWDICTIONARY) == 0)
@@ -53,7 +53,7 @@ struct Bench::Patch
     std::vector<std::unique_ptr<PlacedBox>> boxes;
     bool held = false;
 
-    /** Pumps when there is something to pump and sleeps meanwhile, until the time is over or the input can be read. */
+    /** Pumps when there is work and sleeps otherwise, until the time is over or the input is readable. */
     void letTimePass (Bench& bench, std::chrono::milliseconds time, int input, const std::function<bool()>& goesOn);
 
     t_object* create (t_class* c, BoxRecord& record, const std::vector<Word>& words)
@@ -195,7 +195,7 @@ bool Bench::disconnect (Box& from, int outlet, Box& to)
 
 void Bench::settle()
 {
-    // Queue and scheduler end by themselves; a GUI that always has something to do must not keep us for ever.
+    // Queue and scheduler finish by themselves; a GUI that is never idle must not keep us here forever.
     constexpr int mostRounds = 10000;
     bool busy = ! patch->held;
     for (int round = 0; busy && round < mostRounds; ++round) {
@@ -246,11 +246,11 @@ void Bench::Patch::letTimePass (Bench& bench, std::chrono::milliseconds time, in
     for (Milliseconds passed (0); passed < time && ! isOver;) {
         bench.settle();
         const auto next = passed + std::min (time - passed, Milliseconds (scheduler.untilNextEvent()));
-        // Held, nothing of the GUI is delivered, so what waits there would not let us sleep.
+        // While held, GUI messages are not delivered, so pending ones would keep us from sleeping.
         auto* const driver = held ? nullptr : windowDriver();
         isOver = doze (std::max (next - elapsed(), Milliseconds (0)),
                        driver == nullptr ? std::vector<int>() : driver->descriptors(), input);
-        // The scheduler is a thread of its own, so hold() does not stop it; what it runs is over before we go on.
+        // hold() does not stop the scheduler, a thread of its own; whatever it is running finishes first.
         const auto now = elapsed();
         scheduler.advance (static_cast<int> ((now - passed).count()));
         passed = now;

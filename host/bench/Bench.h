@@ -12,10 +12,10 @@
 namespace bench
 {
 
-/** The entry point of an external, as ext_main; returns 0. */
+/** An external's entry point, such as ext_main; returns 0. */
 using Entry = t_clong (*) (void*);
 
-/** What defer_medium does when the main thread calls it; from the scheduler thread it always queues. */
+/** What defer_medium does on the main thread; from the scheduler thread it always queues. */
 enum class DeferMedium
 {
     queue,
@@ -28,88 +28,87 @@ enum class Thread
     scheduler
 };
 
-/** A box on the bench: an object and the name under which scripts know it. Owned by its Bench. */
+/** A box on the bench: an object and its name in scripts. Owned by its Bench. */
 struct Box
 {
     std::string name;
     t_object* object = nullptr;
 };
 
-/** The stand-in host with a patch on it. It loads externals by their entry points, makes boxes, sends messages,
-    pumps the queues and records what happens. One at a time in a process, used by one thread, which is the main
-    thread while it lives; an external, once loaded, stays for the process, as in Max. */
+/** The stand-in host with one patch. Loads externals by their entry points, creates boxes, sends messages, pumps the
+    queues and records events. One instance per process, on one thread, which is the main thread meanwhile; externals
+    stay loaded until the process ends, as in Max. */
 class Bench
 {
 public:
     explicit Bench (DeferMedium deferMedium = DeferMedium::queue);
 
-    /** Frees what is left and drops what is queued. */
+    /** Frees the remaining boxes and drops queued calls. */
     ~Bench();
 
     Bench (const Bench&) = delete;
     Bench& operator= (const Bench&) = delete;
 
-    /** Calls the entry point unless it was called before; an event tells if it returned anything but 0. */
+    /** Calls the entry point unless already called; records an event if it returns anything but 0. */
     void load (Entry entry);
 
-    /** Makes a box out of its text, "CLASS ARG ... @attribute value ...". Null, told by an event, if the class is
-        unknown or gave no object, or if the name is taken. */
+    /** Creates a box from its text, "CLASS ARG ... @attribute value ...". Returns null, with an event, if the class is
+        unknown or returned no object, or if the name is taken. */
     Box* make (const std::string& name, const std::string& text);
     Box* make (const std::string& name, std::vector<Word> words);
     void free (Box* box);
     [[nodiscard]] Box* find (const std::string& name) const;
     [[nodiscard]] std::vector<std::string> names() const;
 
-    /** Sends a message to the inlet as a patch cord would, "gain 3"; on the scheduler thread, comes back when it has
-        been delivered there. Nothing is pumped. */
+    /** Sends a message to the inlet as a patch cord would, for example "gain 3"; on the scheduler thread it waits for
+        delivery. Does not pump. */
     void send (Box& box, const std::string& message, Thread thread = Thread::main);
     void send (Box& box, t_symbol* selector, const Atoms& atoms, Thread thread = Thread::main);
 
-    /** A patch cord; false if there is no such outlet, or no such cord. */
+    /** Adds a patch cord; false if there is no such outlet. disconnect: false if there is no such cord. */
     bool connect (Box& from, int outlet, Box& to);
     bool disconnect (Box& from, int outlet, Box& to);
 
-    /** Pumps until idle: the host's queue, then the scheduler's due events, then the GUI; again until all are
-        empty. Between hold() and release() it does nothing. */
+    /** Pumps until idle: the host's queue, the scheduler's due events, the GUI, and again until all are empty. Does
+        nothing between hold() and release(). */
     void settle();
     void hold();
     void release();
     [[nodiscard]] bool isHeld() const;
 
-    /** Runs what waits for the main thread now, and waits for no other thread: the scheduler's goes on meanwhile. */
+    /** Runs the main thread's queue without waiting for other threads; the scheduler keeps running. */
     void pump();
 
-    /** Lets time pass, pumping; sleeps while there is nothing to pump. The scheduler's clock moves by this and the
-        next one alone. */
+    /** Lets time pass, pumping; sleeps while idle. Only this and the next function advance the scheduler's clock. */
     void wait (int milliseconds);
 
-    /** The same, but no longer than until a descriptor can be read (not on Windows; below 0 for none) or goesOn, which
-        is called whenever something was pumped or the main thread was woken, answers false. */
+    /** As above, but returns early if a descriptor becomes readable (not on Windows; below 0 for none) or goesOn,
+        called after each pump or wake-up of the main thread, returns false. */
     static constexpr int forEver = std::numeric_limits<int>::max();
     void waitFor (int milliseconds, int descriptor, const std::function<bool()>& goesOn);
 
-    /** Runs something on the scheduler thread: to its end, or while the caller goes on. */
+    /** Runs a task on the scheduler thread: waits for it, or lets the caller continue. */
     void runOnScheduler (const std::function<void()>& task);
     void postToScheduler (std::function<void()> task);
 
-    /** What happened since the last call. */
+    /** The events since the last call. */
     std::vector<Event> takeEvents();
 
-    /** Gets every event as it happens, on the thread on which it happens, and instead of takeEvents. */
+    /** Receives every event on the thread where it happens, instead of takeEvents. */
     void setListener (std::function<void (const Event&)> listener);
 
-    /** The answer of the next dialog that has none yet: a path, or nothing for "cancel". */
+    /** Answers the next unanswered dialog: a path, or nothing for "cancel". */
     void answerDialog (std::optional<std::string> path);
 
-    /** Whether asking for an attribute's property that it has not is an error, or an answer without atoms (as the
-        bench does unless told): Max leaves it open, so code has to live with both. */
+    /** Whether asking for a missing property of an attribute is an error, or returns no atoms (the default): Max does
+        not specify it, so code must handle both. */
     void setMissingPropertyIsError (bool isError);
 
-    /** Whether an attribute that is registered as deferred is set on the main thread when the message comes from
-        another, or where the message comes from (as the bench does unless told): Max leaves this open as well. */
+    /** Whether a deferred attribute set from another thread is set on the main thread, or on that thread (the default):
+        Max does not specify this either. */
     void setDeferFlagsAreHonoured (bool areHonoured);
 
-    /** The text that gensym_tr and str_tr give for another. */
+    /** Sets the text that gensym_tr and str_tr return for another. */
     void translate (const std::string& text, const std::string& translation);
 
 private:

@@ -72,7 +72,7 @@ ClassRecord& makeClass (const char* name, t_ptr_size size)
     return record;
 }
 
-/** The rest of a list of argument types, which ends with 0; `type` is its first. */
+/** Reads the rest of a zero-terminated list of argument types; `type` is the first. */
 std::vector<short> readTypes (int type, va_list rest)
 {
     std::vector<short> types;
@@ -95,7 +95,7 @@ ClassRecord& makeHostClass (const char* name, std::size_t size, void (*mfree) (t
 
 t_class* class_new (const char* name, method mnew, method mfree, t_clong size, method menu, int, ...)
 {
-    // The arguments of `new` are A_GIMME in every class with a box; other lists are made by calling `mnew` itself.
+    // `new` takes A_GIMME in every class with a box; for other signatures call `mnew` directly.
     if (name == nullptr || size < static_cast<t_clong> (sizeof (t_object)))
         return nullptr;
     auto& record = bench::makeClass (name, static_cast<t_ptr_size> (size));

@@ -20,15 +20,15 @@ struct Method
     [[nodiscard]] bool isForHostOnly() const { return ! types.empty() && types.front() == A_CANT; }
 };
 
-/** A class as the host keeps it: the visible part first, then what only functions show. Never freed. */
+/** The host's record of a class: the public part first, then private data. Never freed. */
 struct ClassRecord
 {
     t_class visible{};
-    std::vector<Method> methods;        // in order of registration; of one name the later definition
+    std::vector<Method> methods;        // in order of registration; the later definition replaces one of the same name
     std::vector<Attribute*> attributes; // in order of registration
     std::unordered_map<t_symbol*, std::size_t> methodIndex;
     std::unordered_map<t_symbol*, Attribute*> attributeIndex;
-    t_messlist list[2]{}; // what objects point into: entry -1 holds the class
+    t_messlist list[2]{}; // objects point into it: entry -1 holds the class
 
     [[nodiscard]] const Method* findMethod (t_symbol* name) const;
     [[nodiscard]] Attribute* findAttribute (t_symbol* name) const;
@@ -38,7 +38,7 @@ struct ClassRecord
 
 ClassRecord* recordOf (t_class* c);
 
-/** A class of the host's own, with no name space. `mfree` runs when an object of it goes. */
+/** A class of the host's own, without a name space. `mfree` runs when one of its objects is freed. */
 ClassRecord& makeHostClass (const char* name, std::size_t size, void (*mfree) (t_object*));
 
 }

@@ -77,7 +77,7 @@ void tellClients (void* x, t_symbol* message, void* data)
     if (head == nullptr || head->clients.empty())
         return;
     auto* name = head->registeredName != nullptr ? head->registeredName : gensym (boxNameOf (x).c_str());
-    const auto clients = head->clients; // a client may let go while it is told
+    const auto clients = head->clients; // a client may detach while it is notified
     for (auto* client : clients)
         if (const auto* notify = methodNamed (client, gensym ("notify")))
             callNotify (notify->function, client, name, message, x, data);
@@ -101,7 +101,7 @@ Atoms printable (Atoms atoms)
 
 using namespace bench;
 
-// One row each; the four differ in nothing but the kind.
+// The four differ only in kind.
 #define TELL_FORMATTED(kind, x, format)                                                                                \
     if (format == nullptr)                                                                                             \
         return;                                                                                                        \

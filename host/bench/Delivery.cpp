@@ -23,7 +23,7 @@ const Method* reachable (const t_object* x, t_symbol* name)
     return found == nullptr || found->isForHostOnly() ? nullptr : found;
 }
 
-/** A number finds the method for the other kind of number, and a list of one the method for that one. */
+/** A number falls back to the method for the other kind of number, and a one-element list to that element's. */
 const Method* methodFor (const t_object* x, t_symbol* selector, const Atoms& atoms)
 {
     if (const auto* found = reachable (x, selector))
@@ -56,7 +56,7 @@ bool setByMessage (t_object* x, t_symbol* selector, Atoms& atoms)
     return true;
 }
 
-/** "getgain" sends "gain" and the value out of the outlet that is kept under dumpout, if there is one. */
+/** "getgain" sends "gain" and the value from the outlet stored under dumpout, if there is one. */
 bool answerGet (t_object* x, const t_symbol* selector)
 {
     if (std::strncmp (selector->s_name, "get", 3) != 0)

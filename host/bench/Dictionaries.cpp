@@ -59,7 +59,7 @@ const DictionaryEntry* find (const t_dictionary* d, t_symbol* key)
     return found == record->entries.end() ? nullptr : &*found;
 }
 
-/** A key that is there keeps its place and loses its old value. */
+/** An existing key keeps its place; its old value is freed. */
 t_max_err put (t_dictionary* d, t_symbol* key, const t_atom& value)
 {
     auto* record = dictionaryOf (d);
@@ -85,7 +85,7 @@ t_max_err putObject (t_dictionary* d, t_symbol* key, t_object* value)
     return put (d, key, atom);
 }
 
-/** An own copy of atoms in memory of the host. */
+/** Copies atoms into memory allocated from the host. */
 t_max_err copyOut (const std::vector<t_atom>& atoms, t_clong* ac, t_atom** av)
 {
     *ac = 0;
@@ -116,7 +116,7 @@ t_max_err keysOf (const t_dictionary* d, bool ordered, t_clong* count, t_symbol*
     std::vector<t_symbol*> names;
     for (const auto& entry : record->entries)
         names.push_back (entry.key);
-    // "No order" is one that nobody expects, so that nobody counts on it.
+    // "No order" is a deliberately unexpected one, so that no caller relies on it.
     if (! ordered)
         symbolarray_sort (static_cast<t_clong> (names.size()), names.data());
     return keysOut (names, count, keys);

@@ -7,7 +7,7 @@ namespace bench
 
 namespace
 {
-/** Which dictionary bears which name, in the whole process. */
+/** Process-wide map from names to dictionaries. */
 struct Registry
 {
     std::mutex mutex;

@@ -5,11 +5,11 @@
 namespace bench
 {
 
-/** Ends the main thread's doze, or its next one at once. Any thread. */
+/** Wakes the main thread, or makes its next doze return at once. Any thread. */
 void wakeMainThread();
 
-/** Sleeps until wakeMainThread() is called, one of the descriptors or the input can be read (on Windows: a message
-    is in the thread's queue), or the time is over. An input below 0 is none. True if the input can be read.
+/** Sleeps until wakeMainThread(), until a descriptor or the input is readable (on Windows: until a message is in the
+    thread's queue), or until the time is over. An input below 0 is none. Returns whether the input is readable.
     Main thread. */
 bool doze (std::chrono::milliseconds longest, const std::vector<int>& descriptors, int input);
 

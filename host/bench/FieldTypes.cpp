@@ -14,7 +14,7 @@ using Family = FieldType::Family;
 #define HOST_READ
 #endif
 
-/** A getter of the host's reads a field on whatever thread it is asked, without a lock: that race is the host's. */
+/** The host's getter reads a field on the calling thread without a lock: that race is the host's. */
 template <typename Value>
 HOST_READ Value valueAt (const void* field)
 {
@@ -53,7 +53,7 @@ void writeFloat (void* field, const t_atom& atom)
     std::memcpy (field, &value, sizeof value);
 }
 
-/** A field that nobody filled yet reads as the empty symbol. */
+/** An unset field reads as the empty symbol. */
 t_atom readSymbol (const void* field)
 {
     auto* value = valueAt<t_symbol*> (field);
@@ -85,7 +85,7 @@ void writeObject (void* field, const t_atom& atom)
     std::memcpy (field, &value, sizeof value);
 }
 
-// "long" is Max's own, 32 bits; a wider field next to it keeps its upper half.
+// "long" is Max's, 32 bits; the upper half of a wider field is left alone.
 constexpr FieldType fieldTypes[] = {
     { "char", Family::integer, 1, readInteger<signed char>, writeInteger<signed char> },
     { "long", Family::integer, 4, readInteger<t_clong>, writeInteger<t_clong> },

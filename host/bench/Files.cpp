@@ -45,7 +45,7 @@ t_fourcc typeOf (const fs::path& path)
     return 0;
 }
 
-/** The folders that have a number, and what the dialogs will answer. Main thread. */
+/** The numbered folders and the answers to upcoming dialogs. Main thread. */
 struct FileState
 {
     std::vector<fs::path> folders;
@@ -89,7 +89,7 @@ bool isThere (const fs::path& path)
     return fs::exists (path, error);
 }
 
-/** False, and nothing written, if the text does not fit. */
+/** Returns false and writes nothing if the text does not fit. */
 bool writeText (const std::string& text, char* buffer, int size)
 {
     if (text.size() >= static_cast<std::size_t> (size))

@@ -5,11 +5,11 @@
 namespace bench
 {
 
-/** The answer of the next dialog that has none yet; nothing is "cancel". Unanswered dialogs are cancelled. */
+/** Answers the next unanswered dialog; nothing means "cancel", the default. */
 void addDialogAnswer (std::optional<std::string> path);
 void forgetDialogAnswers();
 
-/** Relative names refer to this folder; without one, to the process's. */
+/** Base of relative names; the process's folder if not set. */
 void setBaseFolder (const std::string& path);
 
 }

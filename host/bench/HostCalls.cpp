@@ -2,7 +2,7 @@
 #include "host/bench/WindowDriver.h"
 #include <cstdint>
 
-// The host calls functions by types that it knows only at run time; a checker of function types cannot follow.
+// The host calls functions by types known only at run time; a function type checker cannot follow.
 #if defined(__clang__)
 #define HOST_CALL __attribute__ ((no_sanitize ("function")))
 #else
@@ -16,7 +16,7 @@ namespace
 {
 using Atoms = std::vector<t_atom>;
 
-/** A 32-bit count with rubbish above it. */
+/** A 32-bit count with garbage in the upper half. */
 std::int64_t wide (t_clong count)
 {
     constexpr std::uint64_t rubbish = 0x5A5A5A5A00000000;
@@ -32,7 +32,7 @@ Function as (method function)
     return reinterpret_cast<Function> (reinterpret_cast<void (*)()> (function));
 }
 
-/** A typed argument as it travels: in an integer or in a floating-point register. */
+/** A typed argument as passed: in an integer or a floating-point register. */
 struct Argument
 {
     bool isFloat = false;
@@ -40,7 +40,7 @@ struct Argument
     void* pointer = nullptr;
 };
 
-/** Builds the call one argument after the other, so that each travels in its own kind of register. */
+/** Builds the call one argument at a time, so that each uses its own kind of register. */
 template <typename... Before>
 HOST_CALL void callTyped (method function, void* x, const Argument* next, std::size_t left, Before... before)
 {
@@ -61,7 +61,7 @@ enum class Fit
     isBad
 };
 
-/** One argument of a type out of an atom, or out of nothing where the type has a default. */
+/** Converts an atom to one argument; without an atom, uses the type's default if it has one. */
 Fit fitArgument (short type, const t_atom* atom, Argument& argument)
 {
     const bool isNumber = atom != nullptr && (atom->a_type == A_LONG || atom->a_type == A_FLOAT);

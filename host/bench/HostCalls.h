@@ -3,9 +3,9 @@
 #include "host/bench/Classes.h"
 #include <array>
 
-/** The calls from the host into an external. Where the interface has a 32-bit count, the upper half of the
-    register is filled with rubbish on purpose, as a real host may leave it: a function that declares its count too
-    wide then fails here and not on stage. */
+/** Calls from the host into an external. Where the interface has a 32-bit count, the register's upper half is
+    deliberately filled with garbage, as a real host may leave it: functions that declare their count too wide fail here
+    and not on stage. */
 namespace bench
 {
 
@@ -21,8 +21,8 @@ t_max_err callGetValueOf (method function, void* x, t_clong* ac, t_atom** av);
 t_max_err callSetValueOf (method function, void* x, std::vector<t_atom>& atoms);
 void callAssist (method function, void* x, void* box, t_clong io, t_clong index, char* text);
 
-/** Calls a method with the atoms of a message. An empty text when it ran; else what is wrong with them, in the words
-    of the Max window: "missing", "extra" or "bad". */
+/** Calls a method with a message's atoms. Returns empty text if it ran, otherwise the Max console's word for what is
+    wrong: "missing", "extra" or "bad". */
 const char* callWithAtoms (const Method& called, void* x, t_symbol* selector, std::vector<t_atom>& atoms);
 
 }

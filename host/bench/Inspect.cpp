@@ -32,7 +32,7 @@ std::string nameOfType (short type)
     return std::to_string (type);
 }
 
-/** Takes over atoms that the host's operations allocated. */
+/** Takes ownership of atoms allocated by the host's operations. */
 Atoms taken (t_clong ac, t_atom* av)
 {
     Atoms atoms;

@@ -1,7 +1,7 @@
 #pragma once
 #include "host/bench/Bench.h"
 
-/** Questions to a box, asked by the host's own operations. Main thread. */
+/** Queries on a box, by the host's own operations. Main thread. */
 namespace bench
 {
 
@@ -9,45 +9,45 @@ namespace bench
 std::optional<Atoms> attributeOf (const Box& box, const std::string& attribute);
 std::optional<Atoms> propertyOf (const Box& box, const std::string& attribute, const std::string& property);
 
-/** Whether the number of an attribute's values is the object's to say, as with one value for each of its sources. */
+/** Whether the object sets the attribute's size, such as one value per source. */
 bool isList (const Box& box, const std::string& attribute);
 
 /** Sets an attribute as C code would: filter, setter, notification. */
 bool setAttribute (const Box& box, const std::string& attribute, const Atoms& atoms);
 
-/** The attributes of the object that the user may see, in order of registration. */
+/** The object's user-visible attributes, in order of registration. */
 std::vector<std::string> visibleAttributes (const Box& box);
 
-/** The same of a class that is loaded, without a box; and the words that one of them is chosen from, if it is. */
+/** The same for a loaded class, without a box; and the choices of one of them, if it is an enumeration. */
 std::vector<std::string> visibleAttributes (const std::string& className);
 std::vector<std::string> choicesOf (const std::string& className, const std::string& attribute);
 
 struct MethodRow
 {
     std::string message;
-    std::vector<std::string> kinds; // "A_GIMME", "A_SYM", ...; none for a message without arguments
+    std::vector<std::string> kinds; // "A_GIMME", "A_SYM", ...; empty for a message without arguments
 };
 
-/** The messages of the class in order of registration; of two with one name, the one that is reached. */
+/** The messages of the class in order of registration; for duplicate names, the one called. */
 std::vector<MethodRow> methodsOf (const Box& box);
 
-/** The assistance text of an inlet or outlet. */
+/** The assist text of an inlet or outlet. */
 std::string assistanceOf (const Box& box, e_max_assist kind, int index);
 
-/** The pattr protocol; nothing if the class has no such method or it failed. */
+/** The pattr protocol; empty if the class has no such method or it failed. */
 std::optional<Atoms> stateOf (const Box& box);
 bool setState (const Box& box, const Atoms& atoms);
 
-/** What the box writes when a preset saves, without the closing semicolon. */
+/** What the box writes to a preset, without the closing semicolon. */
 Atoms presetOf (const Box& box);
 
-/** The outlets of a box, leftmost first. */
+/** The number of outlets. */
 int numberOfOutlets (const Box& box);
 
 /** Adds an entry to the dictionary registered under a name, creating it. */
 void putEntry (const std::string& dictionary, const std::string& key, const Atoms& atoms);
 
-/** The entries of a registered dictionary as events of no box; nothing if there is none. */
+/** The entries of a registered dictionary as events without a box; empty if there is none. */
 std::optional<std::vector<Event>> entriesOf (const std::string& dictionary);
 
 }

@@ -11,7 +11,7 @@ namespace bench
 
 namespace
 {
-/** Calls that go on queueing calls, as behind an outlet that is patched back to its own inlet, end here. */
+/** Limit for calls that keep queueing calls, such as behind an outlet patched back to its own inlet. */
 constexpr int longestChain = 5000;
 
 std::atomic<std::thread::id> mainThread{};
@@ -134,7 +134,7 @@ using namespace bench;
 
 namespace
 {
-/** At once unless the caller is the scheduler thread; a third thread gets "at once" too, in that very thread. */
+/** Runs at once unless called on the scheduler thread; a third thread also runs it at once, on that thread. */
 void* runOrQueue (bool queue, bool atFront, void* ob, method function, t_symbol* sym, std::int16_t argc, t_atom* argv)
 {
     auto atoms = copyOf (argc, argv);

@@ -10,7 +10,7 @@
 namespace bench
 {
 
-/** What qelem_new makes. */
+/** Created by qelem_new. */
 struct QueueElement
 {
     void* ob = nullptr;
@@ -18,13 +18,13 @@ struct QueueElement
     bool isSet = false; // guarded by the queue
 };
 
-/** The low-priority queue: calls that wait for the main thread. Filled from any thread, emptied by the bench. */
+/** The low-priority queue of calls for the main thread. Filled from any thread, emptied by the bench. */
 class MainQueue
 {
 public:
     static MainQueue& instance();
 
-    /** True on the thread that made the bench; before the first bench on the one that asked first. */
+    /** True on the thread that created the bench; before the first bench, on the first thread to call this. */
     static bool onMainThread();
     static void thisIsTheMainThread();
 
@@ -36,10 +36,10 @@ public:
     void set (QueueElement& element, bool atFront);
     void unset (QueueElement& element);
 
-    /** Runs the first call; false if there was none. Main thread. */
+    /** Runs the first call; false if the queue is empty. Main thread. */
     bool runOne();
 
-    /** Forgets what waits for a freed object. */
+    /** Drops pending calls for a freed object. */
     void drop (const void* ob);
     void clear();
 
@@ -51,7 +51,7 @@ private:
         t_symbol* sym = nullptr;
         std::vector<t_atom> atoms;
         QueueElement* element = nullptr;
-        int generation = 0; // how many queued calls stand behind this one in a row
+        int generation = 0; // length of the chain of queued calls that led to this one
     };
 
     void insert (bool atFront, Call call);
@@ -59,7 +59,7 @@ private:
     std::mutex mutex;
     std::deque<Call> calls;
     std::atomic<DeferMedium> deferMedium{ DeferMedium::queue };
-    int generation = 0;        // of the call that runs; main thread
+    int generation = 0;        // of the running call; main thread
     bool overflowTold = false; // main thread
 };
 

@@ -7,7 +7,7 @@
 
 namespace
 {
-/** Stands in front of every block, so that memory of another allocator is told apart before it does harm. */
+/** Precedes every block, so that memory from another allocator is recognised before it does harm. */
 struct BlockHead
 {
     t_ptr_size size;
@@ -21,7 +21,7 @@ BlockHead* allocate (t_ptr_size size)
 {
     if (size > PTRDIFF_MAX - sizeof (BlockHead))
         return nullptr;
-    // An empty block has a byte too: its address must lie inside of what was allocated, or it counts as lost.
+    // An empty block gets a byte too: leak checkers count a block as lost unless a pointer points into it.
     auto* head = static_cast<BlockHead*> (std::malloc (sizeof (BlockHead) + std::max<t_ptr_size> (size, 1)));
     if (head != nullptr)
         *head = { size, ours };
@@ -36,7 +36,7 @@ char* sysmem_newptr (t_ptr_size size)
     auto* head = allocate (size);
     if (head == nullptr)
         return nullptr;
-    // Not zero on purpose: whoever counts on zeros shall see it.
+    // Deliberately not zero, to expose callers that rely on zeros.
     std::memset (blockOf (head), freshByte, size);
     return blockOf (head);
 }

@@ -15,7 +15,7 @@ namespace bench
 
 namespace
 {
-/** Every living object, so that a pointer can be judged without reading through it. */
+/** All living objects, so that a pointer can be checked without dereferencing it. */
 struct LiveObjects
 {
     std::mutex mutex;
@@ -123,7 +123,7 @@ t_object* patcher()
     return object;
 }
 
-/** Runs the class's own free method, then lets go of all that the host keeps for the object. */
+/** Runs the class's free method, then releases all host data of the object. */
 void destroy (t_object* x, ObjectHead& head)
 {
     tellClients (x, gensym ("free"), nullptr);
@@ -172,7 +172,7 @@ t_max_err object_free (void* x)
     if (head->box == nullptr)
         destroy (static_cast<t_object*> (x), *head);
     else {
-        // No event may be under way on the scheduler thread while a box goes.
+        // No event may be running on the scheduler thread while a box is freed.
         const Scheduler::Pause pause;
         destroy (static_cast<t_object*> (x), *head);
     }

@@ -8,7 +8,7 @@
 namespace bench
 {
 
-/** The box around an object: its name in the patch and the attributes that every box has, whatever its class. */
+/** The box around an object: its name in the patch and the attributes common to every box. */
 struct BoxRecord
 {
     t_object ob{};
@@ -24,27 +24,27 @@ struct BoxRecord
     float patching_rect[4] = { 0, 0, 100, 22 };
 };
 
-/** What the host keeps in front of every object's record. */
+/** Host data in front of every object's struct. */
 struct alignas (16) ObjectHead
 {
     ClassRecord* type = nullptr;
-    BoxRecord* box = nullptr;                          // null for what stands in no box
-    std::vector<t_object*> outlets;                    // in order of creation: the rightmost first
+    BoxRecord* box = nullptr;                          // null if not in a box
+    std::vector<t_object*> outlets;                    // in creation order: rightmost first
     std::vector<std::pair<t_symbol*, t_object*>> obex; // owned
-    std::vector<void*> clients;                        // told by object_notify; borrowed
+    std::vector<void*> clients;                        // notified by object_notify; borrowed
     t_symbol* registeredName = nullptr;
     int references = 1; // more while a registered dictionary is retained
 };
 
-/** Null for null and for what is no living object. */
+/** Null for null and for anything that is not a living object. */
 ObjectHead* headOf (const void* x);
 
-/** True while the pointer is an object that was allocated here and not freed; reads nothing through it. */
+/** Whether the pointer is an object allocated here and not yet freed; does not dereference it. */
 bool isLive (const void* x);
 
 t_object* allocateObject (ClassRecord& type);
 
-/** An object of the host's own: T begins with its t_object, or with a struct that does. */
+/** Allocates an object of the host's own; T must begin with a t_object, or with a struct that does. */
 template <typename T>
 T* makeHostObject (ClassRecord& type)
 {
@@ -61,13 +61,13 @@ void destroyHostObject (t_object* x)
     reinterpret_cast<T*> (x)->~T();
 }
 
-/** The method of this name, one for the host only included; null if there is none. */
+/** The method of this name, host-only methods included; null if there is none. */
 const Method* methodNamed (const void* x, t_symbol* name);
 
-/** The name of the object's box, "-" without one. */
+/** The name of the object's box, or "-". */
 std::string boxNameOf (const void* x);
 
-/** While it stands, objects of this class get this box when they are allocated. Main thread. */
+/** During its lifetime, new objects of this class are assigned this box. Main thread. */
 class Creation
 {
 public:
@@ -76,7 +76,7 @@ public:
     Creation (const Creation&) = delete;
     Creation& operator= (const Creation&) = delete;
 
-    /** Takes the box from whatever was allocated and drops what it queued. */
+    /** Detaches the box from the objects allocated, and drops what they queued. */
     void abandon();
 
     static void adopt (t_object* made, ObjectHead& head);

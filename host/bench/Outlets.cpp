@@ -9,11 +9,11 @@ namespace bench
 
 namespace
 {
-/** So many messages inside each other are taken for a patch that feeds itself. */
+/** Deeper nesting is taken for a feedback loop in the patch. */
 constexpr int deepestNesting = 200;
 
 thread_local int nesting = 0;
-thread_local bool overflowed = false; // outlets stay shut until the whole nest is left
+thread_local bool overflowed = false; // outlets stay silent until the outermost message returns
 
 std::mutex& cordsMutex()
 {
@@ -45,7 +45,7 @@ void recordMessage (const Outlet& outlet, t_symbol* selector, const std::vector<
     record (std::move (event));
 }
 
-/** A receiver has to read a dictionary during the call, so that is when the bench reads it. */
+/** Receivers must read a dictionary during the call, so the bench does too. */
 void recordDictionary (const Outlet& outlet, t_symbol* name)
 {
     const auto* d = dictionaryOf (registeredDictionary (name));
@@ -128,7 +128,7 @@ using namespace bench;
 
 void* outlet_new (void* x, const char*)
 {
-    // What the outlet is declared to send only colours its cord, so the text is not kept.
+    // The type argument only colours the cord, so it is not stored.
     auto* head = headOf (x);
     if (head == nullptr)
         return nullptr;

@@ -5,7 +5,7 @@
 namespace bench
 {
 
-/** Lets an object write itself into a preset, as a preset object does when it stores; semicolons included. */
+/** Has an object write itself into a preset, as a preset object does; includes the semicolons. */
 Atoms writtenToPreset (t_object* x);
 
 }

@@ -50,7 +50,7 @@ void Scheduler::loop()
         busy = true;
         lock.unlock();
         {
-            // Taken before the event leaves the list: whoever pauses us may still drop it.
+            // Locked before the event leaves the list: whoever pauses the scheduler may still drop it.
             const std::lock_guard<std::recursive_mutex> turn (running);
             lock.lock();
             Event event;
@@ -94,7 +94,7 @@ void Scheduler::schedule (int delay, const void* ob, std::function<void()> task)
     }
     changed.notify_all();
     if (! MainQueue::onMainThread())
-        wakeMainThread(); // it may sleep beyond this event
+        wakeMainThread(); // its sleep may extend beyond this event
 }
 
 int Scheduler::untilNextEvent()

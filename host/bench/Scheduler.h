@@ -9,8 +9,8 @@
 namespace bench
 {
 
-/** The high-priority thread with its clock, in milliseconds. The clock is the bench's: it moves by advance() alone,
-    so that what a patch does depends on its own waits and not on the machine. */
+/** The high-priority thread and its clock in milliseconds. Only advance() moves the clock, so that a patch depends on
+    its own waits and not on the machine. */
 class Scheduler
 {
 public:
@@ -18,13 +18,13 @@ public:
     static bool onSchedulerThread();
 
     void start();
-    void stop(); // what is left is forgotten
+    void stop(); // drops pending events
 
-    /** Runs something at once on the thread; run() comes back when it has ended, post() does not wait. */
+    /** Runs a task on the thread at once; run() waits for it, post() does not. */
     void run (const std::function<void()>& task);
     void post (std::function<void()> task);
 
-    /** Runs something for an object when the clock has come so far. */
+    /** Runs a task for an object after a delay on the clock. */
     void schedule (int delay, const void* ob, std::function<void()> task);
 
     void advance (int milliseconds);
@@ -32,13 +32,13 @@ public:
     /** In milliseconds; a day if there is none. */
     [[nodiscard]] int untilNextEvent();
 
-    /** Waits until nothing runs and nothing is due. True if anything ran since the last call. */
+    /** Waits until nothing is running or due. Returns whether anything ran since the last call. */
     bool settle();
 
-    /** Forgets what is scheduled for a freed object. */
+    /** Drops a freed object's scheduled events. */
     void drop (const void* ob);
 
-    /** While it stands, no event runs but the one that holds it. */
+    /** While it exists, no event runs except the one that holds it. */
     struct Pause
     {
         Pause() : lock (instance().running) {}
@@ -57,7 +57,7 @@ private:
 
     std::mutex mutex;
     std::condition_variable changed;
-    std::multimap<long long, Event> events; // by time; those of one time in order of arrival
+    std::multimap<long long, Event> events; // by time, then in order of arrival
     long long now = 0;
     bool busy = false;
     bool stopping = false;

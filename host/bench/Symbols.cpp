@@ -12,7 +12,7 @@ namespace bench
 
 namespace
 {
-/** Interned for ever: nothing that was handed out moves or goes. */
+/** Interned forever: returned symbols never move and are never freed. */
 class SymbolTable
 {
 public:
@@ -97,7 +97,7 @@ constexpr CommonSymbolRow commonSymbolRows[] = {
 #undef ROW
 };
 
-/** Entries that have no row here hold the empty symbol: they are there to be read, not to be relied on. */
+/** Entries without a row here hold the empty symbol: readable, but not meaningful. */
 t_common_symbols_table makeCommonSymbols()
 {
     t_common_symbols_table table{};
@@ -120,7 +120,7 @@ void clearTranslations() { symbols().forgetTranslations(); }
 t_symbol* gensym (const char* text) { return bench::symbols().intern (text == nullptr ? "" : text); }
 t_symbol* gensym_tr (const char* text) { return bench::symbols().translated (text == nullptr ? "" : text); }
 
-// The result is a symbol's text, which stays; the type without const is the interface's.
+// The result is a symbol's text, which persists; the interface lacks const.
 char* str_tr (const char* text) { return const_cast<char*> (gensym_tr (text)->s_name); }
 
 t_symbol* symbol_unique() { return bench::symbols().unique(); }

@@ -5,7 +5,7 @@
 namespace bench
 {
 
-/** What gensym_tr and str_tr give for a text from now on. */
+/** Sets what gensym_tr and str_tr return for a text. */
 void setTranslation (const std::string& text, const std::string& translation);
 void clearTranslations();
 

@@ -7,7 +7,7 @@
 namespace bench
 {
 
-/** A pointer or wheel event at a pixel of an object's whole component. */
+/** A pointer or wheel event at a pixel of an object's component. */
 struct PointerEvent
 {
     enum class Action
@@ -30,30 +30,30 @@ struct PointerEvent
     bool right = false; // the right button instead of the left one
 };
 
-/** The windows of the objects on the bench, seen from outside: what a user's hands and eyes are.
-    The bench knows an object by its pointer alone; the program that joins the bench and a GUI brings the driver.
-    Main thread. The commands give an empty text when done, else the complaint that is shown to the user. */
+/** The windows of the objects on the bench as the user sees and operates them.
+    The bench knows an object only by its pointer; the program that combines bench and GUI provides the driver.
+    Main thread. Commands return empty text on success, otherwise the complaint to show. */
 class WindowDriver
 {
 public:
-    /** Gets what a window did, as the bench's language writes it behind "NAME window ":
+    /** Receives a window's events in the bench's language, as after "NAME window ":
         "created LEFT TOP WIDTH HEIGHT TITLE", "shown", "hidden", "title TEXT", "front", "destroyed". */
     using Sink = std::function<void (void* object, const std::string& what)>;
 
     virtual ~WindowDriver() = default;
 
-    /** Set before the first object is made; an empty one is set before the receiver goes. */
+    /** Set before the first object is created; set an empty sink before the receiver is destroyed. */
     virtual void setSink (Sink sink) = 0;
 
-    /** Delivers the GUI's pending messages, the repaints of windows on a display among them; a window in memory is
-        painted when its picture is written. True if there was anything to deliver. */
+    /** Delivers pending GUI messages, including repaints of windows on a display; a window in memory is painted when
+        its picture is written. Returns whether there were any. */
     virtual bool pump() = 0;
 
-    /** What can be read when there is something to deliver: the bench sleeps until then. None on Windows, where the
-        thread's own queue wakes it. */
+    /** Descriptors that become readable when there is something to deliver: the bench sleeps until then. Empty on
+        Windows, where the thread's message queue wakes it. */
     [[nodiscard]] virtual std::vector<int> descriptors() const { return {}; }
 
-    /** False for windows in memory, which nobody can close by hand. */
+    /** False for windows in memory, which the user cannot close. */
     [[nodiscard]] virtual bool isOnDisplay() const = 0;
 
     virtual std::string turnPage (void* object, int page) = 0;
@@ -62,14 +62,14 @@ public:
     virtual std::string writePicture (void* object, const std::string& file) = 0;
 };
 
-/** The driver of this process, or null: what every Bench pumps and listens to. Not owned. */
+/** The process's driver, or null; every Bench pumps and listens to it. Not owned. */
 WindowDriver* windowDriver();
 void setWindowDriver (WindowDriver* driver);
 
-/** The object whose deferred call runs on this thread, or null: a window that is made meanwhile is its own. */
+/** The object whose deferred call runs on this thread, or null: it owns a window created meanwhile. */
 void* objectAtWork();
 
-/** Makes an object the one at work as long as this lives. */
+/** Sets objectAtWork() for its lifetime. */
 class ObjectAtWork
 {
 public:

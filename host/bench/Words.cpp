@@ -31,7 +31,7 @@ bool isLong (const std::string& text)
     return first < text.size() && skipDigits (text, first) == text.size();
 }
 
-/** [sign] digits with a point somewhere or behind, or an exponent, or both. */
+/** Optional sign and digits, with a decimal point, an exponent, or both. */
 bool isFloat (const std::string& text)
 {
     const auto first = skipSign (text, 0);
@@ -53,7 +53,7 @@ bool isFloat (const std::string& text)
     return exponent < text.size() && skipDigits (text, exponent) == text.size();
 }
 
-/** Reads the word that starts at `at` and leaves `at` behind it. */
+/** Reads the word that starts at `at` and moves `at` past it. */
 Word readWord (const std::string& line, std::size_t& at)
 {
     Word word;

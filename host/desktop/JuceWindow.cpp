@@ -25,7 +25,7 @@ void JuceWindow::Shell::moved()
 
 void JuceWindow::Shell::focusGained (FocusChangeType)
 {
-    // A window system gives the focus to the window as a whole, often long after it was shown.
+    // A window system focuses the window as a whole, often long after it was shown.
     if (auto* content = getContentComponent(); content != nullptr && content->isShowing())
         content->grabKeyboardFocus();
 }

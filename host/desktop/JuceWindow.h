@@ -5,8 +5,8 @@
 namespace desktop
 {
 
-/** A window that JUCE makes, with the attached component as its content. The window takes the content's size;
-    its decoration is the desktop's own. What the peer is, on a display or in memory, is the subclass's choice. */
+/** A JUCE window with the attached component as its content. The window takes the content's size; the desktop draws its
+    decoration. The subclass chooses the peer, on a display or in memory. */
 class JuceWindow : public orvanemax::NativeWindow
 {
 public:
@@ -15,8 +15,8 @@ public:
 
     bool create (const juce::String& title, juce::Rectangle<int> frame) override;
 
-    /** Waits for the first content: a window manager would confirm the size that the window had before, perhaps
-        after the window has taken the content's, and the window would go back to it. */
+    /** Waits for the first content: a window manager would confirm the window's former size, possibly after the window
+        has taken the content's size, and revert it. */
     void show() override;
 
     void hide() override;
@@ -27,7 +27,7 @@ public:
     [[nodiscard]] bool isOccupied() const override;
 
 protected:
-    /** The JUCE window around the content. Its close button is handed on; focus that it gets goes to the content. */
+    /** The JUCE window around the content. Forwards its close button, and passes its focus to the content. */
     class Shell : public juce::DocumentWindow
     {
     public:
@@ -45,12 +45,12 @@ protected:
 
 private:
     void bringUp();
-    /** Puts a window that is shown again back to where it was, if it has crept by its frame. */
+    /** Restores the position of a window shown again, if it has drifted by its frame. */
     void keepPlace();
 
     std::unique_ptr<Shell> shell;
-    /** A window manager reports the frame's place for a window that it has let go, and JUCE would take that for the
-        content's: the window would creep by its frame. Empty for one that was never hidden. */
+    /** A window manager reports the frame's position for a window it has released, and JUCE would take it for the
+        content's: the window would drift by its frame. Empty if never hidden. */
     juce::Rectangle<int> placeWhenHidden;
     bool isWanted = false;
 };

@@ -47,7 +47,7 @@ void addScreen()
 void start()
 {
     static const bool started = [] {
-        // JUCE would try display 0 if none were named, and this one has no server.
+        // Without a name JUCE would try display 0; this one has no server.
         setenv ("DISPLAY", ":59999", 1);
         juce::MessageManager::getInstance();
         juce::Desktop::getInstance();

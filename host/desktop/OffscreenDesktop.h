@@ -5,15 +5,15 @@
 namespace desktop
 {
 
-/** A desktop in memory: what JUCE asks of a display, answered without one. */
+/** A desktop in memory, which replaces JUCE's display. */
 namespace offscreen
 {
 
-/** Starts JUCE on the calling thread, away from any real display, with one screen of 1400 by 900 pixels at
-    96 dpi, as the application in front. Call it before anything else of JUCE's GUI; later calls do nothing. */
+/** Initialises JUCE on the calling thread without a real display, as the foreground application on a screen of 1400 by
+    900 pixels at 96 dpi. Call before any other JUCE GUI function; later calls do nothing. */
 void start();
 
-/** Where the pointer of this desktop stands, in pixels of the screen. */
+/** Sets the pointer's position, in screen pixels. */
 void setPointer (juce::Point<int> position);
 
 }

@@ -7,7 +7,7 @@ OffscreenPeer* OffscreenPeer::focusedPeer = nullptr;
 
 OffscreenPeer::OffscreenPeer (juce::Component& componentToShow, int flags) : ComponentPeer (componentToShow, flags)
 {
-    // The keys that are held down are those of the last event: there is no keyboard to ask.
+    // Modifier keys are the last event's: there is no keyboard to query.
     getNativeRealtimeModifiers = [] { return juce::ModifierKeys::currentModifiers; };
 }
 

@@ -5,15 +5,15 @@
 namespace desktop
 {
 
-/** A component's window in memory. Events come in by ComponentPeer's handleMouseEvent, handleMouseWheel and
-    handleKeyPress, so hit testing, hovering, focus and capture are JUCE's own; painting goes into an image. */
+/** A component's window in memory. Events enter through ComponentPeer's handleMouseEvent, handleMouseWheel and
+    handleKeyPress, so JUCE does hit testing, hovering, focus and capture; painting goes into an image. */
 class OffscreenPeer : public juce::ComponentPeer
 {
 public:
     OffscreenPeer (juce::Component& component, int styleFlags);
     ~OffscreenPeer() override;
 
-    /** What the window shows, repainted where it is out of date. */
+    /** The window's contents, repainted where invalid. */
     const juce::Image& picture();
 
     using ComponentPeer::globalToLocal;

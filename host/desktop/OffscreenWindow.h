@@ -5,8 +5,8 @@
 namespace desktop
 {
 
-/** A window held in memory: no display, but the same component, events and pixels.
-    offscreen::start() comes first. Menus open inside the window. */
+/** A window in memory: no display, but the same component, events and pixels. Call OffscreenDesktop::start() first.
+    Menus open inside the window. */
 class OffscreenWindow : public JuceWindow
 {
 private:

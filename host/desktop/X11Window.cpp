@@ -6,7 +6,7 @@
 namespace
 {
 
-/** A connection to the display of the environment, of our own. */
+/** A connection of our own to the display named in the environment. */
 class DisplayConnection
 {
 public:
@@ -22,8 +22,8 @@ public:
 
     [[nodiscard]] bool isOpen() const { return display != nullptr; }
 
-    /** Makes the atoms exist that JUCE takes for granted: a window manager would have made them, and without
-        one the first window would end the process with a protocol error. */
+    /** Creates the atoms that JUCE expects a window manager to have created; without one the first window would end the
+        process with a protocol error. */
     void internWindowManagerAtoms()
     {
         const char* const names[] = { "WM_PROTOCOLS",
@@ -45,8 +45,8 @@ private:
     ::Display* display;
 };
 
-/** A request may come late: a window or frame that a window manager has just taken away is no fault of ours. Xlib's
-    own handler would end the process, and the host with it. */
+/** Ignores X errors: requests may arrive after a window manager has removed a window or frame. Xlib's own handler would
+    end the process, including the host. */
 int passOverError (::Display*, XErrorEvent*) { return 0; }
 
 }
@@ -63,7 +63,7 @@ void orvanemax::startJuceInHost()
 
     XSetErrorHandler (passOverError);
 
-    // Atoms live as long as the server has clients: the connection stays open until JUCE has its own.
+    // Atoms exist while the server has clients: keep the connection open until JUCE has its own.
     DisplayConnection connection;
     if (connection.isOpen())
         connection.internWindowManagerAtoms();
@@ -80,7 +80,7 @@ void X11Window::setTitle (const juce::String& title)
 {
     JuceWindow::setTitle (title);
 
-    // JUCE leaves the new name in the connection's buffer until something else is sent.
+    // JUCE leaves the new title in the connection's buffer until the next request.
     if (auto* display = juce::XWindowSystem::getInstance()->getDisplay())
         juce::X11Symbols::getInstance()->xFlush (display);
 }

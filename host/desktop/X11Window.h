@@ -5,7 +5,7 @@
 namespace desktop
 {
 
-/** A window of the X11 display, with or without a window manager. */
+/** A window on the X11 display, with or without a window manager. */
 class X11Window : public JuceWindow
 {
 public:

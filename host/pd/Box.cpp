@@ -24,19 +24,19 @@ struct Box::Inside
     Listener* listener = nullptr;
     std::vector<std::pair<std::string, bench::Atoms>> fresh; // the state right after creation
     std::string folder;
-    bool lacksDisplay = false; // and that has been logged
+    bool lacksDisplay = false; // and this has been logged
 
     void take (const NamedValues& saved, bench::Atoms& present) const;
 };
 
-/** One bench for all objects of the process. Never destroyed: Pd exits in the middle of whatever runs. */
+/** One bench for all objects of the process. Never destroyed: Pd may call exit() at any point. */
 struct Host
 {
     bench::Bench bench;
     std::map<std::string, Box::Inside*> byName;
     std::vector<bench::Box*> released;
     int entries = 0;
-    int messages = 0; // under way, one inside the other
+    int messages = 0; // calls in progress, nested
     int replays = 0;
     bool isServingWindows = false;
 };
@@ -45,10 +45,10 @@ namespace
 {
 constexpr const char* className = "halcyra~.control";
 
-/** Pd does not tell 3 from 3. as Max does: whole numbers become longs, except in messages that accept only floats. */
+/** Pd does not distinguish 3 from 3.: whole numbers become longs, except in messages that accept only floats. */
 constexpr const char* floatMessages[] = { "roomsize" };
 
-/** Messages that send the whole state; receivers take it as one. */
+/** Messages that send the whole state; receivers handle it as one. */
 constexpr const char* replayMessages[] = { "bang" };
 
 template <std::size_t Size>
@@ -59,7 +59,7 @@ bool isAmong (const char* const (&names)[Size], const char* name)
 
 t_atom atomOf (const Value& value, bool asFloat = false)
 {
-    constexpr double exactInteger = 1 << 24; // Pd's numbers are floats of 32 bits
+    constexpr double exactInteger = 1 << 24; // Pd's numbers are 32-bit floats
     t_atom atom{};
     if (value.word != nullptr)
         atom_setsym (&atom, gensym (value.word));
@@ -92,7 +92,7 @@ Values valuesOf (const bench::Atoms& atoms)
     return values;
 }
 
-/** A word that begins with @ stays unquoted, so that it can begin an attribute. */
+/** A word that begins with @ stays unquoted, so that it can start an attribute. */
 bench::Word wordOf (const Value& value)
 {
     if (value.word != nullptr)
@@ -100,7 +100,7 @@ bench::Word wordOf (const Value& value)
     return { bench::textOf ({ atomOf (value) }), false };
 }
 
-/** Pd reads a symbol of digits back as a number, so an attribute of type symbol takes a number's text. */
+/** Pd reads a symbol of digits back as a number, so attributes of type symbol accept a number's text. */
 void numbersToWords (bench::Atoms& atoms)
 {
     for (auto& atom : atoms)
@@ -125,7 +125,7 @@ void handle (const bench::Event& event)
     auto& listener = *found->second->listener;
     switch (event.kind) {
     case Kind::out:
-        // A dictionary is a name of the host's, which means nothing in Pd; dump sends the same values.
+        // A dictionary name means nothing in Pd; dump sends the same values.
         if (event.text != "dictionary")
             listener.message (event.outlet, event.text.c_str(), valuesOf (event.atoms));
         return;
@@ -157,7 +157,7 @@ Host& theHost()
     return *host;
 }
 
-/** Runs what is queued, until nothing is left. JUCE's messages wait for serveWindows(), so nothing is painted here. */
+/** Runs queued calls until none are left. JUCE's messages wait for serveWindows(), so nothing is painted here. */
 void settle()
 {
     while (bench::MainQueue::instance().runOne()) {
@@ -173,8 +173,8 @@ void freeReleased()
     }
 }
 
-/** Surrounds everything that enters from Pd. The calling thread becomes the main thread of Max and of JUCE: with its
-    audio in callbacks Pd has two that take turns. The outermost entry settles and frees. */
+/** Wraps every call from Pd. The calling thread becomes the main thread of Max and JUCE: with audio callbacks Pd
+    alternates between two. The outermost entry settles and frees. */
 class Entry
 {
 public:
@@ -200,7 +200,7 @@ public:
     Entry& operator= (const Entry&) = delete;
 };
 
-/** Counts what is under way while it lives. */
+/** Counts calls in progress. */
 class Count
 {
 public:
@@ -239,8 +239,8 @@ std::string unusedName()
 }
 }
 
-/** Puts saved values in the place of present ones. A list saved with another number of sources or speakers is taken as
-    far as it goes; any other attribute needs all of its values. */
+/** Replaces present values by saved ones. A list saved with another number of sources or speakers is applied as far as
+    it goes; any other attribute needs all its values. */
 void Box::Inside::take (const NamedValues& saved, bench::Atoms& present) const
 {
     auto atoms = atomsOf (saved.values, false);
@@ -363,7 +363,7 @@ void shutDown()
 {
     if (host == nullptr)
         return;
-    // A thread that draws with OpenGL would meet that library's end. Everything else may stay as it is.
+    // A thread that draws with OpenGL would outlive that library. Everything else may stay.
     const auto drawsByOpenGl = [] (const auto& entry) {
         const auto value = bench::attributeOf (*entry.second->box, "useopengl");
         return value && ! value->empty() && atom_getlong (&value->front()) != 0;

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-/** The Max side of an object in Pd. Everything here runs on Pd's thread. */
+/** The Max side of an object in Pd. Everything runs on Pd's thread. */
 namespace pdhost
 {
 
@@ -24,34 +24,34 @@ public:
     virtual void message (int outlet, const char* selector, const Values& values) = 0;
     virtual void row (Row kind, const std::string& text) = 0;
 
-    /** The user changed the object's state by hand; messages do not count. */
+    /** The user changed the object's state in the window; messages do not count. */
     virtual void editedByHand() = 0;
 };
 
 class Box
 {
 public:
-    /** Makes an object from the words behind the class name; null, and logged to the listener, if it cannot be made. */
+    /** Creates an object from the words after the class name; returns null, and logs to the listener, on failure. */
     static std::unique_ptr<Box> make (Listener& listener, const Values& words);
 
-    /** Silences the object, and frees it now or, while it is at work, as soon as its last call has returned. */
+    /** Silences the object and frees it: at once, or after its last call in progress. */
     ~Box();
     Box (const Box&) = delete;
     Box& operator= (const Box&) = delete;
 
     [[nodiscard]] int numberOfOutlets() const;
 
-    /** Relative file names refer to this folder. */
+    /** Sets the base folder for relative file names. */
     void setFolder (std::string path);
 
-    /** Delivers a message and runs everything that it queued, so the object is done when this returns; inside
-        another object's replay that waits until the replay ends. Values are passed on as they are. */
+    /** Delivers a message and runs everything it queued before returning; inside another object's replay, after the
+        replay ends. Values are passed on unchanged. */
     void send (const char* selector, const Values& values);
 
     /** The attributes that differ from the state right after creation. */
     [[nodiscard]] std::vector<NamedValues> changes() const;
 
-    /** Returns to the state right after creation but for these attributes, in one transaction. */
+    /** Restores the state right after creation, except for these attributes, in one transaction. */
     void restore (const std::vector<NamedValues>& changes);
 
 private:
@@ -61,7 +61,7 @@ private:
     std::unique_ptr<Inside> inside;
 };
 
-/** Handles pending events of windows and timers. */
+/** Handles pending window and timer events. */
 void serveWindows();
 
 /** Frees the objects whose threads would not survive the end of the process. */

@@ -10,7 +10,7 @@ namespace
 t_class* receiverClass = nullptr;
 }
 
-/** What Pd's GUI sends the answer to, by the symbol it is bound to. Allocated by Pd. */
+/** The receiver of the answer from Pd's GUI, by its bound symbol. Allocated by Pd. */
 struct FilePanel::Receiver
 {
     t_pd head;

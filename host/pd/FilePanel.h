@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-/** Pd's panel that asks for a file. It answers later, or not at all if it is cancelled. */
+/** Pd's file panel. Answers asynchronously, or never if it is cancelled. */
 namespace pdhost
 {
 
@@ -17,10 +17,10 @@ public:
     FilePanel (const FilePanel&) = delete;
     FilePanel& operator= (const FilePanel&) = delete;
 
-    /** False without a GUI to ask with. */
+    /** Opens the panel; false without a GUI. */
     bool ask (bool toWrite, const std::string& folder);
 
-    /** Once, when the external is loaded. */
+    /** Call once, when the external is loaded. */
     static void registerClass();
 
 private:

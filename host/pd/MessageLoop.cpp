@@ -14,7 +14,7 @@ using Loop = juce::LinuxEventLoopInternal;
 Watch host;
 std::vector<int> watched;
 
-/** Keeps the host's list of descriptors equal to JUCE's. */
+/** Keeps the host's list of descriptors in sync with JUCE's. */
 struct Follower : Loop::Listener
 {
     void fdCallbacksChanged() override
@@ -44,7 +44,7 @@ void start()
     juce::MessageManager::getInstance();
     Loop::registerLinuxEventLoopListener (follower());
     follower().fdCallbacksChanged();
-    // Reads the fonts now rather than when a window opens while the audio runs.
+    // Read the fonts now rather than when a window opens while audio runs.
     juce::Font::findAllTypefaceNames();
 }
 

@@ -1,19 +1,19 @@
 #pragma once
 
 /** JUCE's message loop inside a foreign one: the host watches JUCE's descriptors and calls dispatch() when one is
-    readable. Everything but atExit() on Pd's thread. */
+    readable. Pd's thread, except atExit(). */
 namespace MessageLoop
 {
 
-/** What the host provides. */
+/** Functions provided by the host. */
 struct Watch
 {
     void (*add) (int descriptor);
     void (*remove) (int descriptor);
-    void (*soon)(); // requests one call of dispatch() when the host is next idle
+    void (*soon)(); // requests a dispatch() call when the host is next idle
 };
 
-/** Runs a function when the process ends, before the libraries that are loaded by now are torn down. */
+/** Runs a function at process exit, before the libraries loaded so far are torn down. */
 void atExit (void (*function) (void*));
 
 /** Call before start(). */
@@ -27,8 +27,8 @@ void useThisThread();
 /** Serves all descriptors. */
 void dispatch();
 
-/** With a window on the desktop, requests a call of dispatch(): X11 requests wait in a buffer until they are sent, and
-    events may have been read but not handled while the descriptor is silent. */
+/** With a window on the desktop, requests a dispatch() call: X11 requests are buffered until sent, and events may have
+    been read but not handled while the descriptor is silent. */
 void serveSoon();
 
 [[nodiscard]] bool hasDisplay();

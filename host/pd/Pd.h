@@ -4,9 +4,9 @@
 
 #include <m_pd.h>
 
-#include <g_canvas.h> // relies on the one above
+#include <g_canvas.h> // needs the one above
 
-// Exported by Pd for its own parts and for externals, in headers that are not made for C++ or in none.
+// Exported by Pd for itself and for externals, in headers that are not for C++ or in none.
 extern "C"
 {
     void sys_addpollfn (int descriptor, void (*readable) (void*, int), void* context);
@@ -15,11 +15,11 @@ extern "C"
     void outlet_setstacklim (void);
 }
 
-/** Pd's atoms and ours. */
+/** Converts between Pd's atoms and ours. */
 namespace pdhost
 {
 
-/** Numbers and words; pointers and the rest are dropped. */
+/** Numbers and words; pointers and other types are dropped. */
 Values valuesOf (int count, const t_atom* atoms);
 
 t_atom atomOf (const Value& value);

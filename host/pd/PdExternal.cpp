@@ -8,7 +8,7 @@
 #include <string>
 #include <utility>
 
-/** The Pd side: the class with its messages, and what Pd asks of an object. */
+/** The Pd side: the class with its messages, and Pd's callbacks. */
 namespace
 {
 
@@ -18,7 +18,7 @@ t_class* control = nullptr;
 
 struct Object;
 
-/** What Pd's object holds and needs a constructor: outlets, console, saved state, the panel for files. */
+/** The parts of Pd's object that need a constructor: outlets, console, saved state, the file panel. */
 struct Inside : Listener
 {
     explicit Inside (Object* ownerToUse) : owner (ownerToUse), canvas (canvas_getcurrent()) {}
@@ -29,7 +29,7 @@ struct Inside : Listener
 
     [[nodiscard]] std::string folder() const { return canvas_getdir (canvas)->s_name; }
 
-    /** Sends a message; a file message without a name asks for one first. */
+    /** Sends a message; a file message without a name first opens the panel. */
     void send (const char* selector, const Values& values);
     void askForFile (const FileMessage& toSend);
     void recall();
@@ -38,12 +38,12 @@ struct Inside : Listener
     t_glist* canvas;
     std::unique_ptr<Box> box;
     std::vector<t_outlet*> outlets;    // leftmost first
-    std::vector<NamedValues> restored; // lines of a file that were read and wait for the last
+    std::vector<NamedValues> restored; // saved lines already read, waiting for the last one
     bool isRestored = false;
     std::optional<FilePanel> panel;
 };
 
-/** Pd allocates and zeroes it. */
+/** Allocated and zeroed by Pd. */
 struct Object
 {
     t_object head;
@@ -61,7 +61,7 @@ void Inside::message (int outlet, const char* selector, const Values& values)
     outlet_anything (outlets[static_cast<std::size_t> (outlet)], name, static_cast<int> (atoms.size()), atoms.data());
 }
 
-/** Pd cuts rows longer than 1000 characters, so they go out in pieces. */
+/** Pd truncates rows longer than 1000 characters, so they are split. */
 void Inside::row (Row kind, const std::string& text)
 {
     constexpr std::size_t longest = 900;
@@ -104,7 +104,7 @@ void Inside::recall()
 
 void* make (t_symbol*, int count, t_atom* atoms)
 {
-    // Lines of a file that follow must not reach an older object, even if this one cannot be made.
+    // Following lines of a file must not reach an older object, even if this one cannot be created.
     recordSymbol()->s_thing = nullptr;
     auto* x = reinterpret_cast<Object*> (pd_new (control));
     x->inside = new Inside (x);
@@ -148,7 +148,7 @@ void save (t_gobj* object, t_binbuf* buffer)
     obj_saveformat (&x->head, buffer); // the box's width
 }
 
-/** True until the next box of its patch is made, as the lines of a file are read. */
+/** True until the next box of its patch is created, while a file's lines are read. */
 bool isNewest (const Object& x)
 {
     const auto* last = x.inside->canvas->gl_list;
@@ -157,8 +157,8 @@ bool isNewest (const Object& x)
     return last == &x.head.te_g;
 }
 
-/** "saved ATTRIBUTE VALUES", a line of a file; alone it closes the list. Lines behind a younger box that could not be
-    made are not ours. */
+/** "saved ATTRIBUTE VALUES", a line of a file; alone it ends the list. Lines after a newer box that could not be
+    created are not for this object. */
 void saved (Object* x, t_symbol*, int count, t_atom* atoms)
 {
     if (! isNewest (*x))
@@ -169,7 +169,7 @@ void saved (Object* x, t_symbol*, int count, t_atom* atoms)
         x->inside->recall();
 }
 
-/** Sends the restored state once everything is connected. */
+/** Sends the restored state once all cords are connected. */
 void loadbang (Object* x, t_floatarg action)
 {
     if (action != LB_LOAD)

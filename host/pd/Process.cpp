@@ -2,7 +2,7 @@
 #include <pthread.h>
 #include <sched.h>
 
-// Two calls of the C library that the linker redirects here (--wrap), for everything that is linked in.
+// Two C library calls that the linker redirects here (--wrap), for everything linked in.
 
 extern "C"
 {
@@ -13,11 +13,11 @@ extern "C"
     int __wrap_pthread_create (pthread_t* thread, const pthread_attr_t* attributes, void* (*body) (void*),
                                void* argument);
 
-    /** Pd never unloads an external and calls exit() in the middle of whatever runs. Statics that were destroyed by then
-        would still be used, so none is. */
+    /** Pd never unloads an external and may call exit() at any point. Statics would still be used after their
+        destruction, so none is destroyed. */
     int __wrap___cxa_atexit (void (*) (void*), void*, void*) { return 0; }
 
-    /** A thread would inherit the real-time priority of Pd's; none of ours may compete with the audio. */
+    /** New threads would inherit the real-time priority of Pd's; ours must not compete with audio. */
     int __wrap_pthread_create (pthread_t* thread, const pthread_attr_t* attributes, void* (*body) (void*),
                                void* argument)
     {

@@ -7,8 +7,8 @@ namespace pdhost
 
 namespace
 {
-/** Pd writes numbers with six digits. It writes a symbol as it stands and reads one that looks like a number as a
-    number, so that is how longer numbers travel. */
+/** Pd writes numbers with six digits. It writes symbols verbatim and reads one that looks like a number as a number, so
+    longer numbers are saved as symbols. */
 t_atom savedAtomOf (const Value& value)
 {
     if (value.word != nullptr)

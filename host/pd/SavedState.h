@@ -2,15 +2,15 @@
 #include "host/pd/Pd.h"
 #include <vector>
 
-/** An object's state in a patch file: behind its own line, "#A saved ATTRIBUTE VALUES;" for each attribute that differs
-    from the state right after creation, and "#A saved;" at the end. */
+/** An object's state in a patch file: after its own line, "#A saved ATTRIBUTE VALUES;" for each attribute that differs
+    from the state right after creation, then "#A saved;". */
 namespace pdhost
 {
 
-/** Pd binds this to the object that gets the "#A" lines of a file. */
+/** Pd binds this symbol to the object that receives a file's "#A" lines. */
 t_symbol* recordSymbol();
 
-/** Writes nothing if nothing differs. */
+/** Writes nothing if there are no changes. */
 void writeState (const std::vector<NamedValues>& changes, t_binbuf* buffer);
 
 }

@@ -5,8 +5,8 @@
 namespace pdhost
 {
 
-/** A word or, with a null word, a number: what both hosts' atoms have in common. Each has a t_symbol and a t_atom of
-    its own, so no file sees both, and this is what passes between them. Words live as long as the process. */
+/** A word or, if the word is null, a number: what both hosts' atoms have in common. Both define t_symbol and t_atom, so
+    no file can include both, and values pass between them in this form. Words live as long as the process. */
 struct Value
 {
     const char* word = nullptr;

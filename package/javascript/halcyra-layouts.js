@@ -1,12 +1,12 @@
-// Speaker layouts as one `speakers` message of halcyra~.control, for Max's js object.
-//   ring COUNT [DISTANCE]   a circle from the left of the centre on, clockwise, its first pair symmetric about the front
-//   iem FILE                a layout in the JSON form of the IEM plug-ins
+// Generates speaker layouts as a `speakers` message for halcyra~.control; for Max's js object.
+//   ring COUNT [DISTANCE]   a circle, clockwise from front left, with the first pair symmetric about the front
+//   iem FILE                a layout in the JSON format of the IEM plug-ins
 
 autowatch = 1;
 inlets = 1;
 outlets = 1;
 
-// Azimuth in degrees, clockwise from the front, from -180 up to 180.
+// Azimuth in degrees, clockwise from the front, -180 to below 180.
 function wrapped(azimuth) {
     return azimuth - 360 * Math.floor((azimuth + 180) / 360);
 }
@@ -18,7 +18,8 @@ function ringMessage(count, distance) {
     return message;
 }
 
-// Throws a text if this is no such layout. There, azimuths grow to the left; imaginary loudspeakers play nothing.
+// Throws a text if the layout is invalid. Azimuths in the file increase to the left; imaginary loudspeakers are
+// skipped.
 function iemMessage(text) {
     var layout = JSON.parse(text);
     layout = layout.LoudspeakerLayout || layout;

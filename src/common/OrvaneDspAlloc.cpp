@@ -9,7 +9,7 @@
 namespace qel
 {
 
-// The C library's storage has the alignment already, on every platform that the library is built for.
+// The C library already aligns its storage to 16 bytes on every platform we build for.
 static_assert (alignof (std::max_align_t) >= arrayAlignment);
 
 namespace

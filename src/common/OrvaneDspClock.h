@@ -5,16 +5,16 @@
 namespace qel
 {
 
-/** Milliseconds since some moment, in 32 bits; wraps around after 49 days. Any thread. */
+/** Milliseconds since an arbitrary start, 32 bits; wraps after 49 days. Any thread. */
 [[nodiscard]] std::uint32_t millisecondCounter() noexcept;
 
-/** Wall clock, in milliseconds since the beginning of 1970: read once, then followed by the counter. Any thread. */
+/** Wall clock in milliseconds since the start of 1970: read once, then advanced by the counter. Any thread. */
 [[nodiscard]] std::int64_t currentTimeMilliseconds() noexcept;
 
-/** Waits; below 10 ms more exactly than a plain sleep. A time below 1 returns at once. */
+/** Sleeps; below 10 ms more accurate than a plain sleep. Times below 1 return at once. */
 void sleepMilliseconds (int milliseconds);
 
-/** Smooths a counter's readings: a step back of up to 1000 ms is noise, and answered with the last reading. */
+/** Smooths counter readings: a step back of up to 1000 ms is noise, and returns the last reading. */
 class SteadyCounter
 {
 public:
@@ -24,7 +24,7 @@ private:
     std::atomic<std::uint32_t> last{ 0 };
 };
 
-/** Follows the wall clock by a counter, and asks the wall clock anew once the counter has wrapped. */
+/** Advances the wall clock by a counter, and rereads the wall clock once the counter has wrapped. */
 class FollowedClock
 {
 public:

@@ -10,7 +10,7 @@ namespace qel
 namespace
 {
 
-/** The pair of digits that begins there, as 0 to 1. */
+/** The two hex digits at start, as 0 to 1. */
 float component (const String& digits, std::size_t start)
 {
     if (digits.size() < start + 2)

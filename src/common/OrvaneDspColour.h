@@ -7,19 +7,19 @@
 namespace qel
 {
 
-/** A colour with components from 0 to 1. */
+/** An RGBA colour, components 0 to 1. */
 struct Colour
 {
     float red = 0, green = 0, blue = 0, alpha = 1;
 
-    /** From "0xAARRGGBB", opaque whatever AA says. A pair that is no hexadecimal number counts 0. */
+    /** From "0xAARRGGBB"; always opaque, AA is ignored. An invalid pair of digits counts as 0. */
     [[nodiscard]] static Colour fromHex (const String& text);
-    /** From red, green, blue, alpha, each clamped to 0 to 1. A missing component is 0, a missing alpha 1. */
+    /** From red, green, blue, alpha, each clamped to 0 to 1. Missing components default to 0, alpha to 1. */
     [[nodiscard]] static Colour fromNumbers (const float* values, std::size_t count) noexcept;
 
-    /** "0xAARRGGBB", with no leading zeros. */
+    /** "0xAARRGGBB", without leading zeros. */
     [[nodiscard]] String toHex() const;
-    /** toHex without its first four characters: of an opaque colour "RRGGBB". */
+    /** toHex without its first four characters: "RRGGBB" for an opaque colour. */
     [[nodiscard]] String toShortHex() const;
     /** "r g b a", each with three decimals. */
     [[nodiscard]] String toNumbers() const;
@@ -40,12 +40,12 @@ struct NamedColour
 };
 
 inline constexpr std::size_t numNamedColours = 139;
-/** The colour keywords of CSS in alphabetical order; only the dark grey is our own. */
+/** The CSS colour keywords in alphabetical order; only the dark grey is our own. */
 extern const std::array<NamedColour, numNamedColours> namedColours;
 
-/** The colour of that row of namedColours. */
+/** The colour in a row of namedColours. */
 [[nodiscard]] const Colour& namedColour (std::size_t row);
-/** The colour of a keyword in any letter case; false and untouched if there is none. */
+/** Looks up a keyword, ignoring case; returns false and leaves colour untouched if it is unknown. */
 [[nodiscard]] bool findColour (const String& name, Colour& colour);
 
 }

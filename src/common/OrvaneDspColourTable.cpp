@@ -3,7 +3,7 @@
 namespace qel
 {
 
-// Magenta has no second row as fuchsia. The dark grey is darker than that of CSS.
+// Magenta has no second row as fuchsia. The dark grey is darker than in CSS.
 // clang-format off
 const std::array<NamedColour, numNamedColours> namedColours { {
     { "aliceblue", "0xfff0f8ff" },

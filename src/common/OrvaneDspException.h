@@ -7,42 +7,42 @@
 namespace qel
 {
 
-/** A place in the sources as the compiler tells it: two words, so that carrying it costs nothing until it is told. */
+/** A source location as two plain words, so that passing it costs nothing until it is reported. */
 struct SourcePlace
 {
     const char* file;
     std::uint64_t line;
 };
 
-/** The place where it stands. */
+/** The current source location. */
 #define QEL_HERE (::qel::SourcePlace{ __FILE__, static_cast<std::uint64_t> (__LINE__) })
 
-/** Where an exception was raised: the source file's bare name, which may be empty, and its line, 0 for not known. */
+/** Where an exception was thrown: the file's base name, which may be empty, and the line, 0 if unknown. */
 struct SourceLocation
 {
     SourceLocation() = default;
     SourceLocation (const SourcePlace& place);
-    /** Leading folders of the file are removed. */
+    /** Strips leading folders from the file. */
     SourceLocation (const String& file, std::uint64_t line);
 
-    /** The file in double quotation marks, and " (line N)" for a known line. */
+    /** The file in double quotes, followed by " (line N)" if the line is known. */
     [[nodiscard]] String toText() const;
 
     String file;
     std::uint64_t line = 0;
 };
 
-/** A line on the error stream and, where the platform has one, on the debug channel. Any thread. */
+/** Writes a line to stderr and, where the platform has one, to the debugger's output. Any thread. */
 void debugReport (const String& text);
 
-/** The root of the library's failures. It tells itself when it is constructed, caught or not, by debugReport. Copies
-    are silent. */
+/** Base class of the library's exceptions. Logs itself by debugReport on construction, caught or not; copies do
+    not log. */
 class Exception : public std::exception
 {
 public:
     explicit Exception (const String& text, const SourceLocation& where = {}, bool report = true,
                         bool exitAfterwards = false);
-    /** The message of another one, raised again from here. */
+    /** Rethrows another exception's message from here. */
     Exception (const Exception& other, const SourceLocation& where, bool report = true, bool exitAfterwards = false);
     explicit Exception (const std::exception& other, const SourceLocation& where = {}, bool report = true,
                         bool exitAfterwards = false);
@@ -58,7 +58,7 @@ private:
 namespace exceptions
 {
 
-/** What was thrown is no exception of a known kind. */
+/** Something of an unknown type was thrown. */
 class Unknown : public Exception
 {
 public:

@@ -13,12 +13,12 @@ enum class GuardText
     whatAlone     ///< what()
 };
 
-/** To be called while an exception is handled: raises the library's own in its place. std::bad_alloc becomes
-    "out of memory", another standard exception keeps its text, anything else becomes exceptions::Unknown. */
+/** Call inside a catch block: throws the library's own exception instead. std::bad_alloc becomes
+    "out of memory", other standard exceptions keep their text, anything else becomes exceptions::Unknown. */
 [[noreturn]] void raiseGuarded (const SourcePlace& where, GuardText text);
 
-/** Runs an operation that may grow storage, and turns what it raises into the library's own exceptions.
-    Costs nothing when all goes well. */
+/** Runs an operation that may allocate, and translates what it throws into the library's own exceptions.
+    Costs nothing on success. */
 template <typename Operation>
 void guardedGrowth (const SourcePlace& where, GuardText text, Operation&& operation)
 {

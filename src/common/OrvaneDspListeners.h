@@ -7,9 +7,9 @@
 namespace qel
 {
 
-/** Listeners, not owned: sorted by pointer, each once, null ignored. They are called from the last to the first, and
-    one that is called may remove itself or others; one that removes others before itself may be called again, as the
-    walk goes on by index. One thread. */
+/** A list of listeners, not owned: sorted by pointer, without duplicates; null is ignored. Calls go from last to first.
+    A listener may remove itself or others during a call; one that removes others before itself may be called again,
+    because the loop runs by index. Not thread-safe. */
 template <typename Listener>
 class Listeners
 {
@@ -37,7 +37,7 @@ public:
     template <typename Function>
     void call (Function&& function)
     {
-        for (std::size_t next = list.size(); next > 0; next = std::min (next, list.size())) // the list may differ now
+        for (std::size_t next = list.size(); next > 0; next = std::min (next, list.size())) // the list may have changed
             function (*list[--next]);
     }
 

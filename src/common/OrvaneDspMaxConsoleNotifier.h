@@ -5,8 +5,7 @@
 namespace qel
 {
 
-/** The base of classes that send text to the Max console: they know nothing of Max, only who listens. One thread,
-    that of the owner. */
+/** Base of classes that log to the Max console. Knows nothing of Max, only its listeners. The owner's thread only. */
 class MaxConsoleNotifier
 {
 public:

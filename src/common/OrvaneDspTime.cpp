@@ -12,18 +12,18 @@ namespace
 {
 
 constexpr std::int64_t millisecondsPerSecond = 1000, secondsPerDay = 86400;
-/** The years for which the operating system is asked about the local time. */
+/** The years for which the operating system converts local time. */
 constexpr int firstLocalYear = 1971, lastLocalYear = 2037;
 
-/** A count of days by the Julian calendar's continuous numbering, of a day of the Gregorian calendar. */
+/** Julian day number of a date in the Gregorian calendar. */
 std::int64_t julianDay (std::int64_t year, std::int64_t month, std::int64_t day) noexcept
 {
-    const std::int64_t beforeMarch = (14 - month) / 12; // the year is taken to begin in March
+    const std::int64_t beforeMarch = (14 - month) / 12; // the year starts in March
     const std::int64_t y = year + 4800 - beforeMarch, m = month + 12 * beforeMarch - 3;
     return day + (153 * m + 2) / 5 + 365 * y + y / 4 - y / 100 + y / 400 - 32045;
 }
 
-/** A month outside of 1 to 12 belongs to a neighbouring year. */
+/** Months outside 1 to 12 carry over into neighbouring years. */
 std::int64_t utcSeconds (const std::tm& fields) noexcept
 {
     constexpr std::int64_t monthsPerYear = 12, tmYearZero = 1900;
@@ -35,7 +35,7 @@ std::int64_t utcSeconds (const std::tm& fields) noexcept
 
 bool isLocalYear (int year) noexcept { return year >= firstLocalYear && year <= lastLocalYear; }
 
-/** The date of a day that is counted from the beginning of 1970, by the era of 400 years that it lies in. */
+/** Sets the date from a day count since 1970, by way of its 400-year era. */
 void setDate (std::tm& fields, std::int64_t daysSince1970) noexcept
 {
     constexpr std::int64_t daysPerEra = 146097, daysFromMarchOfYear0 = 719468;
@@ -81,7 +81,7 @@ String twoDigits (int value) { return String::formatted ("%02d", value); }
 
 Time::Time (int year, int month, int day, int hours, int minutes, int seconds, int milliseconds)
 {
-    constexpr int lastYear = 100'000'000; // keeps the sums within their 64 bits, whatever the other fields hold
+    constexpr int lastYear = 100'000'000; // keeps all sums within 64 bits, whatever the other fields hold
     std::tm fields{};
     fields.tm_year = std::clamp (year, 0, lastYear) - 1900;
     fields.tm_mon = month;

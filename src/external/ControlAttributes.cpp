@@ -23,7 +23,7 @@ constexpr double lowest (HalcyraReverbParameter number) { return parameterRow (n
 constexpr double highest (HalcyraReverbParameter number) { return parameterRow (number)->range.highest; }
 constexpr const char* defaultOf (HalcyraReverbParameter number) { return parameterRow (number)->defaultText; }
 
-/** A parameter's attribute, whose limits are others than the parameter's own. */
+/** A parameter's attribute whose limits differ from the parameter's. */
 constexpr AttributeRow unfiltered (AttributeField field, HalcyraReverbParameter parameter, const char* label)
 {
     return number (field, defaultOf (parameter), label);
@@ -70,7 +70,7 @@ constexpr ControlAttribute table[] = {
 };
 // clang-format on
 
-/** A size of the object: taken at creation, then only compared. */
+/** A size of the object: set at creation, afterwards only compared. */
 struct SizeRow
 {
     SymbolField name;
@@ -92,7 +92,7 @@ const AttributeRow& rowOf (SymbolField name)
         ->row;
 }
 
-/** The attribute's filter has clipped the size; the record's room must not depend on that. */
+/** Clamps again: the struct's array sizes must not depend on the attribute's filter. */
 void storeSize (t_halcyra_control* x, const SizeRow& size, t_atom_long wish)
 {
     const auto& row = rowOf (size.name);
@@ -116,7 +116,7 @@ void setSize (t_halcyra_control* x, const SizeRow& size, Atoms atoms)
         notifyModified (x);
 }
 
-/** Two values, of which anything but a number counts 0; one that is infinite or no number spoils all. */
+/** Two values: non-numeric ones are 0; if any is NaN or infinite both are ignored. */
 void setTopLeft (t_halcyra_control* x, Atoms atoms)
 {
     if (std::any_of (atoms.begin(), atoms.end(), isBadFloat))
@@ -126,7 +126,7 @@ void setTopLeft (t_halcyra_control* x, Atoms atoms)
     x->window->setTopLeft (x->windowtopleft);
 }
 
-/** On the main thread; the name says which attribute of the window. */
+/** Runs on the main thread; the name selects the window attribute. */
 void setWindowOption (t_halcyra_control* x, t_symbol* name, short argc, t_atom* argv)
 {
     const Atoms atoms (argc, argv);

@@ -3,7 +3,7 @@
 #include "max/AttributeRow.h"
 #include "max/Rows.h"
 
-/** The attributes of the object's sizes, of the reverberator and of the window. */
+/** The attributes for the object's sizes, the reverberator and the window. */
 namespace halcyra
 {
 
@@ -13,14 +13,14 @@ struct ControlAttribute
     const char* category;
 };
 
-/** All of them, in order of registration. */
+/** All rows, in order of registration. */
 [[nodiscard]] orvanemax::Rows<ControlAttribute> controlAttributes() noexcept;
 
-/** What must be readable before the first default has passed its setter: the sizes and the title. */
+/** Initialises what must be readable before the first default is set: the sizes and the title. */
 void fillControlDefaults (t_halcyra_control* x);
 
 }
 
-/** Their one setter. Sizes are taken until the object is made, reverb values go to the gate, and the window's are set
-    on the main thread. */
+/** Their common setter. Sizes are accepted until the object is constructed, reverb values go to the gate, and window
+    attributes are set on the main thread. */
 t_max_err halcyra_control_set (t_halcyra_control* x, void* attribute, t_clong argc, t_atom* argv);

@@ -15,7 +15,7 @@ using orvanemax::tellError;
 using orvanemax::tellWarning;
 using qel::CoordinateType;
 
-/** Sets a point from the atoms of a type, all of them numbers. */
+/** Sets a point from the atoms of a type, which must all be numbers. */
 bool readPoint (qel::Point3& point, CoordinateType type, Atoms atoms)
 {
     std::array<float, qel::maxCoordinateValues> values{};
@@ -37,7 +37,7 @@ enum class TypeWord
     unknown
 };
 
-/** Takes the type's word off the front. Without one it is ade, which is told. */
+/** Consumes the leading type word. Without one, defaults to ade with a warning. */
 TypeWord takeType (t_halcyra_control* x, CoordinateType& type, Atoms& atoms)
 {
     if (! atoms.fit ("s")) {
@@ -51,11 +51,11 @@ TypeWord takeType (t_halcyra_control* x, CoordinateType& type, Atoms& atoms)
     return TypeWord::found;
 }
 
-/** The words of the readers of one point. */
+/** Error texts of the readers of one point. */
 struct PointTexts
 {
     const char* tooFew;
-    const char* tooMany; // in front of the number
+    const char* tooMany; // precedes the number
     const char* unreadable;
 };
 
@@ -81,7 +81,7 @@ bool parsePoint (t_halcyra_control* x, qel::Point3& point, Atoms atoms, const Po
     return readPoint (point, type, atoms) || fail (texts.unreadable);
 }
 
-/** Azimuth, distance and elevation, of which the last ones may be missing: then the point keeps them. */
+/** Azimuth, distance and elevation; trailing values may be missing and keep the point's. */
 bool readAmbrel3 (qel::Point3& point, Atoms atoms)
 {
     if (atoms.fit ("nnn"))
@@ -194,7 +194,7 @@ void setOutputFormat (t_halcyra_control* x, t_symbol* name)
     auto type = qel::defaultCoordinateType;
     if (! qel::findCoordinateType (name->s_name, type)) {
         type = qel::defaultCoordinateType;
-        // The text names ade though aed is set: patches rely on it.
+        // The text says ade although aed is set: patches rely on it.
         tellWarning (x, std::string ("unknown coordinate type: ") + name->s_name +
                             ". using default coordinate type (ade)");
     }

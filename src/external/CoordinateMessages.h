@@ -5,29 +5,29 @@
 
 #include <array>
 
-/** Positions in messages: a type's word and its numbers, read into cartesian metres. Each reader tells what is wrong
-    with its atoms and gives false; then the points are as they were. Without a word the type is `ade`, with a warning.
+/** Parses positions in messages: a type word and its numbers, into cartesian metres. On bad atoms each reader logs the
+    error, returns false and leaves the points unchanged. Without a type word it warns and defaults to `ade`.
     Main thread. */
 namespace halcyra
 {
 
-/** For the listener. Relative types start from what the point is. */
+/** For the listener. Relative types start from the point's present value. */
 bool parseOnePoint (t_halcyra_control* x, qel::Point3& point, orvanemax::Atoms atoms);
 
-/** For one speaker or one source; an index, counted from 1, may stand in front. */
+/** For one speaker or source; an optional leading index counts from 1. */
 bool parseOneSpeaker (t_halcyra_control* x, qel::Point3& point, orvanemax::Atoms atoms);
 bool parseOneSource (t_halcyra_control* x, qel::Point3& point, orvanemax::Atoms atoms);
 
-/** For areas and anchors: as many points as the numbers make. A word that is no type empties the array. */
+/** For areas and anchors: as many points as there are numbers for. An unknown type word empties the array. */
 bool parseManyPoints (t_halcyra_control* x, qel::Point3Array& points, orvanemax::Atoms atoms);
 
-/** For all speakers at once: as many points as the array holds. */
+/** For all speakers at once: as many points as the array has. */
 bool parseAllSpeakers (t_halcyra_control* x, qel::Point3Array& points, orvanemax::Atoms atoms);
 
-/** Sets the format in which positions leave the object. */
+/** Sets the format of positions in output messages. */
 void setOutputFormat (t_halcyra_control* x, t_symbol* name);
 
-/** Writes a point in the object's format behind `out`, which is moved on. False for a format that only reads. */
+/** Writes a point in the object's format at `out` and advances it. Returns false for a read-only format. */
 bool writeInFormat (const t_halcyra_control* x, const qel::Point3& point, t_atom*& out);
 
 }

@@ -17,7 +17,7 @@ namespace halcyra
 namespace
 {
 
-/** Handlers run on the main thread. Each gets the selector that chose it. */
+/** Handlers run on the main thread and receive the selector that matched. */
 using DeferredHandler = orvanemax::HostFunction;
 using orvanemax::hostFunction;
 
@@ -29,7 +29,7 @@ const ReverbMirror* mirrorOf (t_symbol* selector) noexcept
     return row == reverbMirrors.end() ? nullptr : &*row;
 }
 
-/** The count of filters for a selector that is none. */
+/** The number of filters for an unknown selector. */
 HalcyraFilter filterNumber (t_symbol* selector) noexcept
 {
     const auto row = std::find_if (filterMirrors.begin(), filterMirrors.end(), [=] (const FilterMirror& mirror) {
@@ -38,7 +38,7 @@ HalcyraFilter filterNumber (t_symbol* selector) noexcept
     return static_cast<HalcyraFilter> (row - filterMirrors.begin());
 }
 
-/** A symbol counts as 0; what is infinite or no number is refused. */
+/** A symbol counts as 0; NaN and infinity are rejected. */
 bool isOneValue (Atoms atoms) noexcept
 {
     return atoms.size() == 1 && (atom_gettype (&atoms[0]) == A_SYM || orvanemax::isNumber (atoms[0]));
@@ -70,12 +70,12 @@ void setRoomSize (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
     x->component->setRoomSize (atoms.number (0), juce::sendNotification);
 }
 
-/** A list that is no filter changes nothing and says nothing: messages were tested before, and attributes are not. */
+/** Silently ignores an invalid filter: messages were validated before, attributes are not. */
 void setFilter (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv)
 {
     const auto number = filterNumber (selector);
     const auto& mirror = filterMirrors[static_cast<std::size_t> (number)];
-    auto filter = x->component->getFilter (number); // fields that the message does not name stay
+    auto filter = x->component->getFilter (number); // fields that the message does not set keep their value
     parseFilter (filter, Atoms (argc, argv));
     x->component->setFilter (number, filter, true);
     if (mirror.tellsOfMessages)
@@ -86,7 +86,7 @@ void resetAll (t_halcyra_control* x, t_symbol*, short, t_atom*) { x->component->
 
 void sendAll (t_halcyra_control* x, t_symbol*, short, t_atom*) { x->component->sendAllParameters(); }
 
-/** What is neither a parameter nor a filter. */
+/** Neither a parameter nor a filter. */
 struct DeferredMessage
 {
     SymbolField selector;
@@ -99,7 +99,7 @@ const DeferredMessage otherMessages[] = {
     { &Words::roomsize, hostFunction<setRoomSize>() },
 };
 
-/** Empty for a selector that has no handler. */
+/** Empty for an unknown selector. */
 DeferredHandler handlerOf (t_symbol* selector) noexcept
 {
     if (const auto* mirror = mirrorOf (selector))

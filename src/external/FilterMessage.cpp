@@ -15,7 +15,7 @@ using orvanemax::symbols;
 
 float clip (float value, const ShelfRow& row) noexcept { return std::clamp (value, row.lowest, row.highest); }
 
-/** Consecutive fields from consecutive atoms; always true. */
+/** Sets consecutive fields from consecutive atoms; always true. */
 bool setFields (HLShelfParameters& filter, Atoms atoms, std::size_t first, std::size_t count)
 {
     for (std::size_t i = 0; i < count; ++i) {
@@ -34,7 +34,7 @@ float decibelsOfLinearGain (float gain) noexcept
 struct FilterKey
 {
     SymbolField word;
-    std::size_t field; // in shelfTable
+    std::size_t field; // index into shelfTable
     bool isLinear;
 };
 
@@ -66,7 +66,7 @@ bool parseFilter (HLShelfParameters& filter, Atoms atoms)
         return setFields (filter, behind, 0, 6);
     if (atoms.fit ("nnnnnn"))
         return setFields (filter, atoms, 0, 6);
-    // The number of values picks the form: behind the key of another one, they are not read as fewer.
+    // The number of values selects the form, even after the key of a form with fewer.
     if (atoms.fit ("snnnn"))
         return key == symbols().gains && setFields (filter, behind, 0, 4);
     if (atoms.fit ("snn"))

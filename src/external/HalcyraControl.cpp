@@ -28,14 +28,14 @@ struct OwnedArray
     t_clong size;
 };
 
-/** In the order in which they are allocated and freed. */
+/** In order of allocation and release. */
 constexpr OwnedArray ownedArrays[] = {
     { &t_halcyra_control::radius, maxSources },         { &t_halcyra_control::yaw, maxSources },
     { &t_halcyra_control::aperture, maxSources },       { &t_halcyra_control::sourcecolor, maxColours },
     { &t_halcyra_control::speakerslevels, maxSources }, { &t_halcyra_control::sourceslevels, maxSources },
 };
 
-/** An array that could not be had is told, and the object is made without it. */
+/** Logs an array that could not be allocated; the object works without it. */
 void allocateArrays (t_halcyra_control* x)
 {
     guarded (x, [x] {
@@ -48,7 +48,7 @@ void allocateArrays (t_halcyra_control* x)
     });
 }
 
-/** What the record must hold before the first attribute is read. */
+/** Initialises the struct before the first attribute is read. */
 void fillDefaults (t_halcyra_control* x)
 {
     fillControlDefaults (x);
@@ -59,10 +59,10 @@ void fillDefaults (t_halcyra_control* x)
     x->defer = 1;
 }
 
-/** Behind all that was queued when the turn began. */
+/** Runs behind everything queued when the turn began. */
 void endTurn (t_halcyra_control* x, t_symbol*, short, t_atom*) { x->component->endTurn(); }
 
-/** The component, its listeners and the window's manager; false, and told, if one could not be made. */
+/** Creates the component, its listeners and the window manager; logs and returns false on failure. */
 bool makeParts (t_halcyra_control* x)
 {
     guarded (x, [x] {
@@ -86,7 +86,7 @@ void hideApertures (t_halcyra_control* x)
     object_attr_setvalueof (x, orvanemax::symbols().showaperture, 1, &off);
 }
 
-/** The first one made is the rightmost. */
+/** The first one created is the rightmost. */
 void makeOutlets (t_halcyra_control* x)
 {
     object_obex_store (x, orvanemax::dumpout(), static_cast<t_object*> (outlet_new (x, nullptr)));
@@ -117,7 +117,7 @@ void* halcyra_control_new (t_symbol*, t_clong argc, t_atom* argv)
     x->constructed = true;
     if (! orvanemax::processDictionary (x, argc, argv, true))
         return nullptr;
-    hideApertures (x); // whatever was saved: a new object starts without
+    hideApertures (x); // a new object starts without apertures, whatever was saved
     makeOutlets (x);
     defer_medium (x, orvanemax::hostFunction<scene::initialise>(), nullptr, 0, nullptr);
     replayParameters (x);

@@ -21,21 +21,21 @@ namespace
 
 using namespace halcyra;
 
-/** Nothing leaves before the object has its outlets. */
+/** Sends nothing before the object has its outlets. */
 void sendOut (t_halcyra_control* x, t_symbol* selector, t_clong count, t_atom* atoms)
 {
     if (x->outlet != nullptr)
         outlet_anything (static_cast<t_outlet*> (x->outlet), selector, orvanemax::deferrable (count), atoms);
 }
 
-/** Stores a value in its mirror; true if another one stood there. */
+/** Stores a value in its mirror; returns whether it changed. */
 template <typename Value>
 bool storeIfOther (Value& mirror, Value value) noexcept
 {
     return std::exchange (mirror, value) != value;
 }
 
-/** Stores the component's value in its mirror and in the atom of the message; switches travel as longs. */
+/** Stores the component's value in its mirror and in the message's atom; switches are sent as longs. */
 bool mirrorParameter (t_halcyra_control* x, const ReverbMirror& mirror, t_atom& atom)
 {
     const auto value = x->component->reverbParameter (mirror.number);
@@ -106,7 +106,7 @@ void MaxHalcyraListener::sendSource (int sourceIndex)
 {
     const auto position = x->component->getSourcePosition (sourceIndex);
     mirrorSourcePosition (x, static_cast<std::size_t> (sourceIndex));
-    mirrorSourceYaw (x, static_cast<std::size_t> (sourceIndex)); // which may follow
+    mirrorSourceYaw (x, static_cast<std::size_t> (sourceIndex)); // may follow the position
     std::array<t_atom, 2 + qel::maxCoordinateValues> atoms{};
     atom_setlong (&atoms[0], sourceIndex + 1);
     atom_setsym (&atoms[1], x->format);

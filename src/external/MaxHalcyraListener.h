@@ -2,8 +2,8 @@
 #include "external/HalcyraControl.h"
 #include "gui/verb/HalcyraComponentListener.h"
 
-/** Turns every edit in the window into a message on the left outlet and into the attributes' mirrors, of whose single
-    reverb parameters it is the only writer. Main thread. */
+/** Sends every edit in the window as a message from the left outlet and updates the attributes' mirrors; it is the only
+    writer of the single reverb parameters. Main thread. */
 class MaxHalcyraListener : public lumo::HalcyraComponentListener
 {
 public:
@@ -14,7 +14,7 @@ public:
     MaxHalcyraListener (const MaxHalcyraListener&) = delete;
     MaxHalcyraListener& operator= (const MaxHalcyraListener&) = delete;
 
-    /** The owner is being freed: from here on nothing is told, though the component may still be at work. */
+    /** The owner is being freed: no more notifications, though the component may still be in use. */
     void leaveOwner();
 
     void HalcyraSourceChanged (int sourceIndex) override;
@@ -25,12 +25,12 @@ public:
     void HalcyraCloseRequested() override;
 
 private:
-    /** What every change goes through: it is a call under way in the owner, and ends with the notification. A patch may
-        free the owner while the change speaks. */
+    /** Wraps every change: registers it as a call in progress on the owner, and notifies at the end. Sending may make
+        the patch free the owner. */
     template <typename Change>
     void tell (Change&& change);
 
-    // Each stores what has changed in the mirrors and sends it, and touches the owner no more.
+    // Each stores the change in the mirrors, then sends it; the owner may be gone afterwards.
     void sendSource (int sourceIndex);
     void sendSpeakers();
     void sendParameter (HalcyraReverbParameter parameter);

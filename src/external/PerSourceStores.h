@@ -4,8 +4,8 @@
 namespace halcyra
 {
 
-/** Held for as long as the record's per-source arrays are written or read: they are written on the main thread, and a
-    patch may ask for them on any. One for all objects, since nobody holds it for longer than a copy takes. */
+/** Locks the struct's per-source arrays: written on the main thread, read by a patch on any. One mutex for all objects,
+    because it is held only for the length of a copy. */
 inline std::mutex& perSourceStores() noexcept
 {
     static std::mutex mutex;

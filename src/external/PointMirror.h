@@ -1,7 +1,7 @@
 #pragma once
 #include "geometry/OrvaneDspPoint3.h"
 
-/** Positions in the record: three floats each, x y z in metres. */
+/** Positions in the struct: three floats each, x y z in metres. */
 namespace halcyra
 {
 

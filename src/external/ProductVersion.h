@@ -1,11 +1,11 @@
 #pragma once
 #include <string>
 
-/** The version of the external. */
+/** The external's version. */
 namespace halcyra
 {
 
-/** "4.9.2", as CMakeLists.txt has it. */
+/** "4.9.2", from CMakeLists.txt. */
 [[nodiscard]] inline std::string versionText() { return HALCYRA_VERSION; }
 
 /** "4.9.2 (Build Nov 21 2026) (32 bits float)" */

@@ -33,9 +33,9 @@ using namespace orvanemax;
 constexpr auto* className = "halcyra~.control";
 t_class* registeredClass = nullptr;
 
-/** What a recall sets last: constraints and locks, lifted for what they would bend or refuse, and the ways that changes
-    of the scene take. Hiding the headphones frees the speakers, so their switch comes behind them. The margin limits the
-    zoom only when the zoom is set, which may have been before; lifted it is the least. */
+/** Attributes that a recall sets last: constraints and locks, lifted because they would modify or reject others, and
+    display and defer. showheadphones locks the speakers, so it follows them. globalproportion limits the zoom only when
+    the zoom is set, possibly earlier; lifted it is at its minimum. */
 constexpr LateAttribute lateAttributesOfControl[] = {
     { "radiusconstraint", 0, "sourcespositions" },
     { "zoomlock", 0, "zoom" },
@@ -47,7 +47,7 @@ constexpr LateAttribute lateAttributesOfControl[] = {
     { "defer", {} },
 };
 
-/** `dictionary` takes a symbol alone; it travels as an atom. */
+/** `dictionary` takes a single symbol, passed on as an atom. */
 void readDictionary (void* x, t_symbol*, t_clong, t_atom* argv) { orvanemax_dictionary (x, atom_getsym (argv)); }
 void dictionaryMessage (void* x, t_symbol* name)
 {
@@ -56,7 +56,7 @@ void dictionaryMessage (void* x, t_symbol* name)
     mainThreadEntry<readDictionary> (x, nullptr, 1, &atom);
 }
 
-/** The form is tested before the work is queued. */
+/** Validates the arguments before queueing. */
 void rotateMessage (void* x, t_symbol* selector, t_clong argc, t_atom* argv)
 {
     if (Atoms (argc, argv).fit ("innn"))
@@ -65,7 +65,7 @@ void rotateMessage (void* x, t_symbol* selector, t_clong argc, t_atom* argv)
         tellError (x, "invalid rotate message");
 }
 
-/** Messages of the main thread alone, messages whose work is always queued, and those for any thread. */
+/** Messages for the main thread only, messages that are always queued, and messages for any thread. */
 template <Handler handler>
 HostFunction onMain()
 {
@@ -178,7 +178,7 @@ void addAllAttributes (t_class* c)
         if (attribute.row.order != 0)
             ordered.push_back (&attribute.row);
     }
-    constexpr std::size_t withoutCategory = 2; // showfps and useopengl, which stand first
+    constexpr std::size_t withoutCategory = 2; // showfps and useopengl, which come first
     std::size_t place = 0;
     for (const auto& attribute : viewerAttributes())
         addAttribute (c, attribute.row, place++ < withoutCategory ? nullptr : "viewer", ATTR_SET_DEFER_LOW,

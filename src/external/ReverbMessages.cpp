@@ -12,7 +12,7 @@ namespace halcyra
 namespace
 {
 
-/** `early start 20`: forwards the number to the parameter that the group calls by that key. */
+/** `early start 20`: forwards the number to the parameter with that key in the group. */
 bool forwardKeyed (t_halcyra_control* x, t_symbol* group, Atoms atoms)
 {
     if (! atoms.fit ("sn"))
@@ -28,7 +28,7 @@ bool forwardKeyed (t_halcyra_control* x, t_symbol* group, Atoms atoms)
     return false;
 }
 
-/** The atoms are parsed here only to tell of a bad list: what they change is known when the handler runs. */
+/** Parses the atoms only to report a bad list: the result depends on the state when the handler runs. */
 bool forwardFilter (t_halcyra_control* x, t_symbol* selector, Atoms atoms)
 {
     HLShelfParameters unused;
@@ -82,7 +82,7 @@ void halcyra_control_roomsize (t_halcyra_control* x, t_symbol*, t_clong argc, t_
     const Atoms atoms (argc, argv);
     if (! atoms.fit ("f"))
         return orvanemax::invalidMessage (x, "invalid message : roomsize", atoms);
-    // All of them: the handler refuses more than one, in words of its own.
+    // Passes all: the handler rejects more than one with a message of its own.
     halcyra_control_defer_msg (x, symbols().roomsize, static_cast<t_clong> (atoms.size()), atoms.begin());
 }
 

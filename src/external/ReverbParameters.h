@@ -7,14 +7,14 @@
 namespace halcyra
 {
 
-/** How the object holds one parameter of the reverberator, in the order of their numbers. What the parameter is
-    called in grouped messages stands in parameterTable. */
+/** Where the object mirrors one reverb parameter, in the order of their numbers. Its words in grouped messages are in
+    parameterTable. */
 struct ReverbMirror
 {
     HalcyraReverbParameter number;
-    SymbolField attribute; // the message and attribute of its own
+    SymbolField attribute; // its own message and attribute
     float t_halcyra_control::*value;
-    std::int32_t t_halcyra_control::*flag; // of a switch; then value is null
+    std::int32_t t_halcyra_control::*flag; // for a switch; value is then null
     const char* complaint;
 };
 
@@ -52,15 +52,15 @@ struct ReverbWords
     t_symbol *selector, *key;
 };
 
-/** Number 0 to 19; the symbol table must have been built. */
+/** For numbers 0 to 19; needs the symbol table. */
 [[nodiscard]] const ReverbWords& reverbWords (HalcyraReverbParameter number);
 
-/** How the object holds one filter set. */
+/** Where the object mirrors one filter. */
 struct FilterMirror
 {
     SymbolField selector; // message and attribute
     float (t_halcyra_control::*values)[6];
-    bool tellsOfMessages; // whether a message that sets it is notified
+    bool tellsOfMessages; // whether setting it by a message notifies
     const char* complaint;
 };
 

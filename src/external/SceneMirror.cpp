@@ -18,14 +18,14 @@ using lumo::Plane::Orientation::WrapDegrees;
 using orvanemax::objectIsGone;
 using orvanemax::symbols;
 
-/** The angle held in radians as degrees: those that were sent, if they are what is held. */
+/** Converts stored radians to degrees: returns the degrees sent, if they give the stored value. */
 float degreesHeld (float radians, float sentDegrees) noexcept
 {
     return WrapDegrees (sentDegrees) * qel::radiansPerDegree == radians ? sentDegrees
                                                                         : WrapDegrees (radians * qel::degreesPerRadian);
 }
 
-/** A yaw's degrees as its attribute takes them. */
+/** A yaw in degrees in the range of its attribute. */
 float withinHalfTurn (float degrees) noexcept { return std::abs (degrees) <= 180 ? degrees : WrapDegrees (degrees); }
 
 bool storePointIfOther (const qel::Point3& point, float* triple) noexcept
@@ -36,7 +36,7 @@ bool storePointIfOther (const qel::Point3& point, float* triple) noexcept
     return true;
 }
 
-/** The arrays of atoms are null in an object that could not get their memory. */
+/** The atom arrays are null if their allocation failed. */
 bool storeFloatIfOther (t_atom* array, std::size_t index, float value) noexcept
 {
     const auto wide = static_cast<double> (value);
@@ -44,7 +44,7 @@ bool storeFloatIfOther (t_atom* array, std::size_t index, float value) noexcept
     if (array == nullptr)
         return false;
     const bool isOther = atom_gettype (&array[index]) != A_FLOAT || atom_getfloat (&array[index]) != wide;
-    atom_setfloat (&array[index], wide); // 0 for -0 too, though they are equal
+    atom_setfloat (&array[index], wide); // also turns -0 into 0, though they are equal
     return isOther;
 }
 

@@ -5,8 +5,8 @@
 namespace halcyra
 {
 
-/** Keeps the mirrors of the listener, of the sources' yaw and of their aperture in step with what the hand does on the
-    plane, and notifies; nothing leaves by the outlet. Scene updates mirror and notify by themselves. Main thread. */
+/** Updates the mirrors of the listener and of the sources' yaw and aperture after the user's edits on the plane, and
+    notifies; sends nothing. Scene updates mirror and notify by themselves. Main thread. */
 class SceneMirror : public lumo::PlaneListener
 {
 public:
@@ -17,7 +17,7 @@ public:
     SceneMirror (const SceneMirror&) = delete;
     SceneMirror& operator= (const SceneMirror&) = delete;
 
-    /** The owner is being freed: from here on nothing is mirrored, though the plane may still be at work. */
+    /** The owner is being freed: mirrors nothing from here on, though the plane may still be in use. */
     void leaveOwner() noexcept { x = nullptr; }
 
     void ListenerPositionChanged (const qel::Point3& position, lumo::PlaneBase& plane) override;
@@ -28,7 +28,7 @@ public:
     void SourceYawChanged (std::size_t source, float degrees) override;
     void SourceApertureChanged (std::size_t source, float degrees) override;
 
-    /** While one of these lives, changes come from a scene update, and pass by unheard. */
+    /** While one exists, changes come from a scene update and are ignored. */
     class Update
     {
     public:
@@ -47,16 +47,16 @@ private:
 
     t_halcyra_control* x; // null once the owner is gone
     lumo::PlaneComponent* plane;
-    int updates = 0; // under way
+    int updates = 0; // in progress
 };
 
-/** Tells those who watch an attribute (an attrui) that its value has changed, unless the call under way has freed the
-    object. Main thread. */
+/** Notifies clients of an attribute (such as an attrui) that its value has changed, unless the call in progress has
+    freed the object. Main thread. */
 void touchAttribute (t_halcyra_control* x, t_symbol* name);
 
-/** Each brings a mirror to what the plane holds and touches its attribute if that differs; it does nothing for an
-    object that the call under way has freed. An angle that was sent, in degrees, is kept to the letter where it is what
-    the plane took, so that a saved state gives the same again. */
+/** Each updates a mirror from the plane and touches its attribute if the value differs; does nothing if the call in
+    progress has freed the object. An angle sent in degrees is kept exactly if the plane took it, so that a saved state
+    restores the same angle. */
 void mirrorSourcePosition (t_halcyra_control* x, std::size_t source);
 void mirrorSourceYaw (t_halcyra_control* x, std::size_t source);
 void mirrorSourceYaw (t_halcyra_control* x, std::size_t source, float sentDegrees);

@@ -26,7 +26,7 @@ qel::Point3 pointOf (Atoms values, std::size_t first = 0) noexcept
     return { values.number (first), values.number (first + 1), values.number (first + 2) };
 }
 
-/** A name, or a number as its digits. */
+/** A symbol, or a number as its digits. */
 t_symbol* nameOf (Atoms values)
 {
     return atom_gettype (&values[0]) == A_SYM ? values.symbol (0)
@@ -35,8 +35,8 @@ t_symbol* nameOf (Atoms values)
 
 bool isOn (Atoms values) noexcept { return values.number (0) != 0; }
 
-/** Stores numbers of a per-source attribute and touches it if they were other. The arrays of atoms are null in an
-    object that could not get their memory. */
+/** Stores numbers of a per-source attribute and touches it if they changed. The atom arrays are null if their
+    allocation failed. */
 void storeNumbers (Control* x, Atoms values, t_atom* array, std::size_t index, t_symbol* attribute)
 {
     if (array == nullptr)
@@ -266,9 +266,9 @@ const Property& sourcePosition() noexcept
         [] (Control* x, Plane& plane, std::size_t i, Atoms values, bool notify) {
             plane.SetSourcePosition (i, pointOf (values), notify);
             mirrorSourcePosition (x, i);
-            // The wish has been stored already.
+            // The position has already been stored.
             touchAttribute (x, symbols().sourcespositions);
-            mirrorSourceYaw (x, i); // may follow, and not every mode reports it
+            mirrorSourceYaw (x, i); // may follow the position, and not every mode reports it
         }
     }.stored ([] (Control* x, std::size_t i, Atoms values) {
         storePoint (pointOf (values), x->sourcespositions + 3 * i);

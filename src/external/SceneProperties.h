@@ -6,33 +6,33 @@
 
 #include <string_view>
 
-/** What a patch can change in the scene. A row of SceneProperties.cpp is all that messages, attributes, updates and
-    mirrors know of a property.
+/** The properties of the scene that a patch can change. Messages, attributes, updates and mirrors all derive from the
+    rows of SceneProperties.cpp.
 
-    To add a property of a source: a field of the record for its attribute, a row in SceneProperties.cpp, a place in the
+    To add a source property: a field in the struct for its attribute, a row in SceneProperties.cpp, a position in the
     order of ViewerAttributes.cpp, and its drawing. */
 namespace halcyra::scene
 {
 
-/** Brings the mirrors and the plane to values that fit the row's pattern. Indices count from 0. Main thread, in a call
-    of the host. */
+/** Applies values that fit the row's pattern to the mirrors and the plane. Indices start at 0. Main thread, in a call
+    from the host. */
 using Effect = void (*) (t_halcyra_control* x, lumo::PlaneComponent& plane, std::size_t index, orvanemax::Atoms values,
                          bool notify);
 
-/** Stores a wish at once, so that the next relative move starts from it, queued or not. */
+/** Stores a requested value at once, so that the next relative move starts from it, queued or not. */
 using Wish = void (*) (t_halcyra_control* x, std::size_t index, orvanemax::Atoms values);
 
-/** Built from what every property has, and what one needs beside. */
+/** Built from what every property has, plus optional parts. */
 struct Property
 {
-    const char* key;    // its word in messages, behind the index; null for what no word names
-    const char* values; // as letters of Atoms::fit(); null for as many numbers as there are
+    const char* key;    // its word in messages, after the index; null if it has none
+    const char* values; // letters for Atoms::fit(); null for any count of numbers
     Effect effect;
     Wish wish = nullptr;
     bool isSaved = false;                            // with the patcher
-    bool isQueued = true;                            // by the rule of all updates, or else made at once
-    bool (*isGood) (const t_symbol* word) = nullptr; // a test of the value beyond its letter
-    orvanemax::AttributeRow attribute{}; // without a name if there is none; a list has a value for each source
+    bool isQueued = true;                            // queued by the rule for all updates, otherwise applied at once
+    bool (*isGood) (const t_symbol* word) = nullptr; // validates the value beyond its letter
+    orvanemax::AttributeRow attribute{};             // no name if there is none; lists have one value per source
 
     [[nodiscard]] constexpr Property saved() const
     {
@@ -72,22 +72,22 @@ using Properties = orvanemax::Rows<Property>;
 [[nodiscard]] Properties speakerProperties() noexcept;
 [[nodiscard]] Properties areaProperties() noexcept;
 [[nodiscard]] Properties anchorProperties() noexcept;
-/** Of the listener alone: the index is 0. */
+/** For the listener only: the index is 0. */
 [[nodiscard]] Properties listenerProperties() noexcept;
 
-/** The row with this attribute; there must be one. */
+/** The row with this attribute, which must exist. */
 [[nodiscard]] const Property& withAttribute (Properties properties, std::string_view attribute) noexcept;
 
-// What no word of a message names. Positions are x y z in metres; of the speakers, all.
+// Properties without a word in messages. Positions are x y z in metres; for speakers, all of them.
 [[nodiscard]] const Property& sourcePosition() noexcept;
 [[nodiscard]] const Property& speakersPositions() noexcept;
 [[nodiscard]] const Property& listenerPosition() noexcept;
-/** Whether a move keeps a source's distance: in its turn, so that it bends no move that came before it. */
+/** Whether moves keep a source's distance. Queued, so that it does not affect earlier moves. */
 [[nodiscard]] const Property& radiusConstraint() noexcept;
-/** The notification that saved state has changed, behind the updates that were made so far. */
+/** Notifies that saved state has changed, behind the updates so far. */
 [[nodiscard]] const Property& modified() noexcept;
 
 inline constexpr float newSourceColour[4] = { 0.49019608f, 1, 0, 1 }; // red green blue alpha
-inline constexpr float silence = -60;                                 // dB, of a meter that heard nothing
+inline constexpr float silence = -60;                                 // dB, for a meter without signal
 
 }

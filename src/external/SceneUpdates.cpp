@@ -19,7 +19,7 @@ namespace
 using orvanemax::Atoms;
 using orvanemax::objectIsGone;
 
-/** What travels: the property, the index, whether listeners hear of it, the values. */
+/** Atoms of a queued update: the property, the index, whether to notify listeners, the values. */
 constexpr std::size_t head = 3;
 
 void carryOut (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
@@ -31,12 +31,12 @@ void carryOut (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
                      atoms.integer (2) != 0);
 }
 
-/** Atoms of points, three floats each. */
+/** Points as atoms, three floats each. */
 template <std::size_t points>
 class Coordinates
 {
 public:
-    Coordinates() {} // not defaulted: Coordinates() would zero all atoms, 12 kB of them for all speakers
+    Coordinates() {} // not defaulted: Coordinates() would zero all atoms, 12 kB for all speakers
 
     Coordinates& add (const qel::Point3& p)
     {
@@ -47,11 +47,11 @@ public:
     operator Atoms() const noexcept { return { static_cast<t_clong> (count), atoms.data() }; }
 
 private:
-    std::array<t_atom, 3 * points> atoms; // filled as far as count says
+    std::array<t_atom, 3 * points> atoms; // only the first `count` atoms are valid
     std::size_t count = 0;
 };
 
-/** The arrays of atoms are null in an object that could not get their memory. */
+/** The atom arrays are null if their allocation failed. */
 void storeLevel (t_atom* levels, t_atom_long index, float decibels) noexcept
 {
     const std::lock_guard<std::mutex> lock (perSourceStores());
@@ -68,7 +68,7 @@ void update (t_halcyra_control* x, const Property& property, t_atom_long index, 
     if (! property.isQueued)
         return property.effect (x, *x->plane, static_cast<std::size_t> (index), values, notify);
 
-    std::array<t_atom, head + maxPositions> atoms; // filled as far as size says
+    std::array<t_atom, head + maxPositions> atoms; // only the first `size` atoms are valid
     const auto size = head + std::min<std::size_t> (values.size(), maxPositions);
     atom_setobj (&atoms[0], const_cast<Property*> (&property));
     atom_setlong (&atoms[1], index);

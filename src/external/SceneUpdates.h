@@ -2,16 +2,16 @@
 #include "external/SceneProperties.h"
 #include "geometry/OrvaneDspPoint3.h"
 
-/** Changes of the scene on their way from messages and attributes to the plane. The wish is stored at once; the effect
-    comes through the queue when `display` and `defer` are both on, else at once too. Indices count from 0 and must be
-    good. Main thread. */
+/** Updates of the scene from messages and attributes to the plane. The requested value is stored at once; its effect is
+    queued if `display` and `defer` are both on, otherwise immediate. Indices start at 0 and must be valid.
+    Main thread. */
 namespace halcyra::scene
 {
 
-/** The values fit the property's row. */
+/** The values must fit the property's row. */
 void update (t_halcyra_control* x, const Property& property, t_atom_long index, orvanemax::Atoms values, bool notify);
 
-/** Finds the row for a word of a message and the values behind it, and makes the change; false if there is none. */
+/** Finds the row for a message's word and the values after it, and applies it; false if there is none. */
 bool updateByKey (t_halcyra_control* x, Properties properties, t_atom_long index, orvanemax::Atoms keyAndValues,
                   bool notify);
 
@@ -22,13 +22,13 @@ void moveListener (t_halcyra_control* x, const qel::Point3& position, bool notif
 
 void setRadiusConstraint (t_halcyra_control* x, bool on);
 
-/** Notifies that saved state has changed, behind the updates that were made so far. */
+/** Notifies that saved state has changed, behind the updates so far. */
 void notifyModified (t_halcyra_control* x);
 
-/** A fresh object's scene: colours, layouts, names and levels. Main thread, by the queue. */
+/** Initialises a new object's scene: colours, layouts, names and levels. Main thread, from the queue. */
 void initialise (t_halcyra_control* x, t_symbol* unused, short argc, t_atom* argv);
 
-/** The positions of the mirrors. */
+/** The positions in the mirrors. */
 [[nodiscard]] qel::Point3 sourceInMirror (const t_halcyra_control* x, t_atom_long source) noexcept;
 [[nodiscard]] qel::Point3Array speakersInMirror (const t_halcyra_control* x);
 

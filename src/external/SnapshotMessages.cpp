@@ -37,7 +37,7 @@ bool isSnapshotReference (const t_atom& atom) noexcept
     return atom_gettype (&atom) == A_SYM || orvanemax::isNumber (atom);
 }
 
-/** What reading and writing share: the form of the message, the dialog, and what is told in the end. */
+/** Shared by reading and writing: validation, the dialog, and the final log message. */
 struct FileTask
 {
     const char* complaint;

@@ -25,7 +25,7 @@ namespace rows = orvanemax;
 using Plane = lumo::PlaneComponent;
 using namespace setters;
 
-// Where the plane's operation takes more than the value, or has several forms.
+// For plane functions that take more than the value, or are overloaded.
 void setZoom (Plane& plane, float zoom) { plane.SetZoom (zoom, true); }
 void setBackgroundAngle (Plane& plane, float degrees)
 {
@@ -45,7 +45,7 @@ void setApertureColour (Plane& plane, float r, float g, float b, float a)
         plane.SetSourceApertureColour (i, shade);
 }
 
-/** The attribute of a property that each source has: its numbers are atoms of the record's own. */
+/** Attribute of a per-source property: its numbers are stored in the struct's atom arrays. */
 ViewerAttribute ofEachSource (std::string_view name)
 {
     const auto& row = scene::withAttribute (scene::sourceProperties(), name).attribute;
@@ -151,7 +151,7 @@ const ViewerAttribute* attributeNamed (t_symbol* name)
     return entry == byName.end() ? nullptr : entry->second;
 }
 
-/** On the main thread; the name says which attribute. */
+/** Runs on the main thread; the name selects the attribute. */
 void setByName (t_halcyra_control* x, t_symbol* name, short argc, t_atom* argv)
 {
     const auto* attribute = attributeNamed (name);
@@ -160,12 +160,12 @@ void setByName (t_halcyra_control* x, t_symbol* name, short argc, t_atom* argv)
     const bool notifies = attribute->set (x, attribute->row, orvanemax::Atoms (argc, argv));
     if (orvanemax::objectIsGone())
         return;
-    mirrorViewerOptions (x); // the plane may have refused, or changed more
+    mirrorViewerOptions (x); // the plane may have rejected it, or changed other options too
     if (notifies)
         orvanemax::notifyModified (x);
 }
 
-/** The atoms of a per-source attribute, in the record's own array; null in an object that could not get its memory. */
+/** The struct's own atoms of a per-source attribute; null if their allocation failed. */
 t_atom* atomsOf (t_halcyra_control* x, const AttributeRow& row) noexcept { return field<t_atom*> (x, row); }
 
 t_atom_long countOf (const t_halcyra_control* x, const AttributeRow& row) noexcept
@@ -173,7 +173,7 @@ t_atom_long countOf (const t_halcyra_control* x, const AttributeRow& row) noexce
     return *reinterpret_cast<const t_atom_long*> (reinterpret_cast<const char*> (x) + row.countOffset);
 }
 
-/** Every element of a list, or the one symbol. */
+/** Fills every element of a list, or the single symbol. */
 void fillSymbols (t_halcyra_control* x, const AttributeRow& row)
 {
     auto* word = gensym (row.defaultText == nullptr ? "" : row.defaultText);
@@ -233,7 +233,7 @@ t_max_err halcyra_control_per_source_get (t_halcyra_control* x, void* attribute,
         object_bug (&x->object, "couldnt allocate memory for attribute %s getter", name->s_name);
         return MAX_ERR_OUT_OF_MEM;
     }
-    // Memory of the caller's may be smaller.
+    // The caller's memory may be smaller.
     *argc = std::min (*argc, static_cast<t_clong> (count));
     const std::lock_guard<std::mutex> lock (halcyra::perSourceStores());
     sysmem_copyptr (atoms, *argv, static_cast<t_ptr_size> (*argc) * sizeof (t_atom));

@@ -19,10 +19,10 @@ using orvanemax::symbols;
 
 t_halcyra_control* control (void* x) noexcept { return static_cast<t_halcyra_control*> (x); }
 
-/** Whether the plane's listeners hear of a message: of all but one that is called `false`. */
+/** Whether a message notifies the plane's listeners: all but the one named `false`. */
 bool notifies (t_symbol* selector) noexcept { return selector != symbols().false_; }
 
-/** The index of a message, counted from 0; -1, and told, if there is no such object. */
+/** A message's index, converted to start at 0; logs and returns -1 if there is no such object. */
 t_atom_long indexOf (t_halcyra_control* x, Atoms message, t_atom_long count, const char* complaint)
 {
     const auto index = message.integer (0);
@@ -109,7 +109,7 @@ void changeAnchor (void* object, t_symbol*, t_clong argc, t_atom* argv)
     auto* x = control (object);
     const Atoms atoms (argc, argv);
     if (! atoms.fit ("l"))
-        return invalidMessage (x, "invalid message : areas", atoms); // the wording of areas serves anchors too
+        return invalidMessage (x, "invalid message : areas", atoms); // anchors use the wording for areas too
     const auto index = indexOf (x, atoms, x->numanchors, "invalid anchor index ");
     if (index < 0 || scene::updateByKey (x, scene::anchorProperties(), index, atoms.from (1), true))
         return;
@@ -133,7 +133,7 @@ void rotateSources (void* object, t_symbol*, t_clong argc, t_atom* argv)
     const Atoms atoms (argc, argv);
     const auto index = atoms.integer (0);
     const auto yaw = atoms.number (1), pitch = atoms.number (2), roll = atoms.number (3);
-    if (index < 0) // the plane passes over one that is past the end
+    if (index < 0) // the plane ignores indices past the end
         return orvanemax::tellError (x, "invalid source index " + std::to_string (index));
     if (index == 0)
         x->plane->RotateAllSources (yaw, pitch, roll, true);

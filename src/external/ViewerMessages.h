@@ -1,7 +1,7 @@
 #pragma once
 #include "external/HalcyraControl.h"
 
-/** The messages that move and dress the scene. Main thread; the ones that say so do their work by the queue. */
+/** Messages that change the scene's objects. Main thread; the last four are queued. */
 namespace halcyra
 {
 
@@ -9,12 +9,12 @@ namespace halcyra
 void changeSource (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
 /** `speaker INDEX ...`, `loudspeaker INDEX ...` */
 void changeSpeaker (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
-/** `speakers ...`, `loudspeakers ...`: all positions. */
+/** `speakers ...`, `loudspeakers ...`: sets all positions. */
 void changeSpeakers (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
 /** `listener yaw N`, `listener rpy N N N`, or a position. */
 void changeListener (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
 
-// By the queue.
+// Queued.
 /** `areas INDEX ...`, `area INDEX ...`: a key, or the outline. */
 void changeArea (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
 /** `anchor INDEX name NAME`, or a position. */

@@ -27,7 +27,7 @@ struct FlagMirror
         &PlaneOptions::flag, &Control::field, #field                                                                   \
     }
 
-/** The labels of sources and speakers are no options of the plane: their mirrors keep what the patcher set. */
+/** Labels of sources and speakers are not options of the plane: their mirrors keep what the patcher set. */
 constexpr FlagMirror flagMirrors[] = {
     HALCYRA_OPTION (sourcesVisible, showsources),
     HALCYRA_OPTION (speakersVisible, showspeakers),

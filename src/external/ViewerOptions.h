@@ -4,8 +4,7 @@
 namespace halcyra
 {
 
-/** Copies the plane's options into the attributes' mirrors, and touches those attributes that were other. Main
-    thread. */
+/** Copies the plane's options into the attributes' mirrors, and touches the attributes that changed. Main thread. */
 void mirrorViewerOptions (t_halcyra_control* x);
 
 }

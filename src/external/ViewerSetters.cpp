@@ -20,14 +20,14 @@ namespace
 using orvanemax::objectIsGone;
 using orvanemax::symbols;
 
-/** Copies as many numbers as there are, at most room for all. */
+/** Copies the numbers, at most `room` of them. */
 void copyNumbers (Atoms atoms, float* target, t_clong room)
 {
     atom_getfloat_array (static_cast<t_clong> (atoms.size()), const_cast<t_atom*> (atoms.begin()), room, target);
 }
 
-/** Stores one level each and gives them to the plane; false for a list that is too short or holds no numbers. The
-    vector keeps its storage from call to call, since meters run all the time. */
+/** Stores one level per object and sets the plane; false if the list is too short or has no numbers. The vector keeps
+    its storage between calls, because meters run continuously. */
 bool storeLevels (Atoms atoms, t_atom* mirror, t_atom_long number, qel::Vector<float>& levels)
 {
     const auto count = static_cast<std::size_t> (number);
@@ -52,7 +52,7 @@ bool isFullPath (const std::string& name)
     return (! name.empty() && name[0] == '/') || (hasDrive && (name[2] == '/' || name[2] == '\\'));
 }
 
-/** Where an image lies; empty if it is nowhere. */
+/** The path of an image; empty if it is not found. */
 qel::File locateImage (const char* name)
 {
     if (! isFullPath (name))
@@ -94,7 +94,7 @@ bool radiusConstraint (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
     return true;
 }
 
-/** A square grid reads back as cartesian, so that word is taken too. */
+/** A square grid reads back as cartesian, so that word is accepted too. */
 bool gridMode (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
     if (! atoms.fit ("s"))
@@ -109,8 +109,8 @@ bool gridMode (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
     return true;
 }
 
-/** A list that is too short is ignored, one with a word that the property does not know refused; of the values of
-    a source, those that do not fit are skipped. */
+/** Ignores a list that is too short, rejects one with an invalid word; values of a source that do not fit are
+    skipped. */
 bool eachSource (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
     const auto& property = scene::withAttribute (scene::sourceProperties(), row.name);
@@ -234,7 +234,7 @@ bool backgroundImage (t_halcyra_control* x, const AttributeRow&, Atoms atoms)
         x->plane->ClearBackgroundImage();
         return true;
     }
-    x->backgroundimage = name; // kept when the file is missing: it may be back when the patch is next opened
+    x->backgroundimage = name; // kept if the file is missing: it may be back when the patch is next opened
     const auto file = locateImage (name->s_name);
     if (file.empty()) {
         x->plane->ClearBackgroundImage();

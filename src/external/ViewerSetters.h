@@ -6,22 +6,22 @@
 #include <algorithm>
 #include <functional>
 
-/** The setters of the viewer's attributes, by their shapes. Values that do not fit are ignored. What a shape sets is an
-    operation of the plane, or a function over the plane and the value. */
+/** Setters for the viewer's attributes, by type. Invalid values are ignored. Each sets through a function of the plane,
+    or a function of plane and value. */
 namespace halcyra::setters
 {
 
 using orvanemax::Atoms;
 using orvanemax::AttributeRow;
 
-/** The field of a row, in the record. */
+/** The row's field in the struct. */
 template <typename Value>
 [[nodiscard]] Value& field (t_halcyra_control* x, const AttributeRow& row) noexcept
 {
     return *reinterpret_cast<Value*> (reinterpret_cast<char*> (x) + row.offset);
 }
 
-/** A switch of the plane. */
+/** Sets a switch of the plane. */
 template <auto set>
 bool onOff (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
@@ -33,7 +33,7 @@ bool onOff (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
     return true;
 }
 
-/** A number of the plane. */
+/** Sets a number of the plane. */
 template <auto set>
 bool number (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
@@ -44,7 +44,7 @@ bool number (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
     return true;
 }
 
-/** A count of the plane; its filter keeps it within its bounds. */
+/** Sets a count of the plane; the attribute's filter limits it. */
 template <auto set>
 bool count (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
@@ -57,13 +57,13 @@ bool count (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
     return true;
 }
 
-/** Whether an enumeration knows the word. */
+/** Whether the word is one of an enumeration's choices. */
 [[nodiscard]] bool isChoice (const AttributeRow& row, const t_symbol* word) noexcept;
 
-/** A word that is none of an attribute's choices: told, and nothing is stored. */
+/** Logs a word that is not among the choices; nothing is stored. */
 void refuse (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 
-/** A word of the plane, one of the attribute's choices. */
+/** Sets an enumeration of the plane. */
 template <auto set>
 bool word (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
@@ -78,7 +78,8 @@ bool word (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
     return true;
 }
 
-/** A colour of the plane; a value that is missing or a word counts 0, and an infinite one or none spoils all. */
+/** Sets a colour of the plane. Missing or non-numeric components are 0; if any is NaN or infinite the colour is
+    ignored. */
 template <auto set>
 bool colour (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
 {
@@ -92,11 +93,11 @@ bool colour (t_halcyra_control* x, const AttributeRow& row, Atoms atoms)
     return true;
 }
 
-/** What each source has of its own, by the way of all scene updates; the row is one of the scene's properties. */
+/** Sets a per-source property by scene updates; the row must be one of the scene's properties. */
 bool eachSource (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 
-// Each of a kind.
-bool keep (t_halcyra_control* x, const AttributeRow& row, Atoms atoms); // a switch that no plane knows
+// Setters for single attributes.
+bool keep (t_halcyra_control* x, const AttributeRow& row, Atoms atoms); // a switch that the plane does not have
 bool radiusConstraint (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool gridMode (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);
 bool showViewer (t_halcyra_control* x, const AttributeRow& row, Atoms atoms);

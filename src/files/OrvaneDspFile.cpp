@@ -37,7 +37,7 @@ File File::homeFolder()
 File File::parent() const
 {
     File folder;
-    folder.fullPath = rules.parent (fullPath); // as it stands: a folder's name may end with a blank
+    folder.fullPath = rules.parent (fullPath); // kept verbatim: a folder's name may end with a space
     return folder;
 }
 
@@ -79,7 +79,7 @@ bool File::createFolder() const
     if (fullPath.size() > filesystem::longestPath)
         return false;
 
-    Vector<File> missing; // from the lowest up
+    Vector<File> missing; // innermost first
     for (File folder (*this); ! folder.isFolder(); folder = folder.parent()) {
         if (folder.parent() == folder)
             throw Exception ("Cannot create directory " + folder.fullPath.quoted(), QEL_HERE);
@@ -115,7 +115,7 @@ String File::readAll() const
         std::string bytes (static_cast<std::size_t> (std::max<std::int64_t> (handle.size(), 0)), '\0');
         bytes.resize (handle.read (bytes.data(), bytes.size()));
         return bytes;
-    } catch (const std::exception&) { // more than memory holds
+    } catch (const std::exception&) { // larger than memory
         return {};
     }
 }

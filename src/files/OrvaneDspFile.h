@@ -7,14 +7,14 @@
 namespace qel
 {
 
-/** A file or folder by its full path, there or not. Built of any text, it is absolute and has no separator at its
-    end but a root's own. Only createFolder raises; all else fails with false or an empty value. Any thread. */
+/** A file or folder by its full path, existing or not. The path is always absolute, with no trailing separator except
+    a root's own. Only createFolder throws; all else fails with false or an empty value. Any thread. */
 class File
 {
 public:
     File() = default;
-    /** A relative path is seen from the current folder, "/" is a separator everywhere, and white space at the end
-        is dropped. Empty text makes an empty file. */
+    /** Relative paths are resolved against the current folder; "/" is a separator on every platform; trailing white
+        space is dropped. Empty text makes an empty file. */
     explicit File (const String& text);
 
     [[nodiscard]] static File currentFolder();
@@ -27,33 +27,33 @@ public:
     /** A root is its own parent. */
     [[nodiscard]] File parent() const;
     [[nodiscard]] String fileName() const;
-    /** With its point; empty if there is none. */
+    /** Includes the dot; empty if there is none. */
     [[nodiscard]] String extension() const;
     [[nodiscard]] String nameWithoutExtension() const;
-    /** A relative path from this folder; a full path stands alone. */
+    /** Resolves a relative path against this folder; an absolute path is used as is. */
     [[nodiscard]] File child (const String& relative) const;
-    /** A relative path from this file's folder. */
+    /** Resolves a relative path against this file's folder. */
     [[nodiscard]] File sibling (const String& relative) const;
-    /** A file of this folder that is not there yet, named base + suffix with a number between if need be. */
+    /** A file in this folder that does not exist yet: base + suffix, with a number in between if needed. */
     [[nodiscard]] File uniqueChild (const String& base, const String& suffix, UniqueName style) const;
 
     [[nodiscard]] bool exists() const;
     [[nodiscard]] bool existsAsFile() const;
     [[nodiscard]] bool isFolder() const;
 
-    /** True when nothing is there afterwards. A folder goes only if it is empty. */
+    /** True if nothing exists at the path afterwards. Folders are removed only if empty. */
     bool remove() const;
-    /** Up to five tries, 50 ms apart. */
+    /** Tries up to five times, 50 ms apart. */
     bool removeWithRetry() const;
-    /** Makes the folder and those above it; true if it is there already. Raises "Cannot create directory " and the
-        quoted path when there is nothing to make it in. */
+    /** Creates the folder and its parents; true if it already exists. Throws "Cannot create directory " and the
+        quoted path if there is no place to create it. */
     bool createFolder() const;
-    /** Takes the place of whatever stands at the target. A file replaces a file in one step. */
+    /** Replaces whatever exists at the target; a file replaces a file atomically. */
     bool moveTo (const File& target) const;
 
-    /** In bytes; 0 for what can't be opened. */
+    /** In bytes; 0 if the file can't be opened. */
     [[nodiscard]] std::uint64_t size() const;
-    /** All its bytes; empty if it can't be opened or is no ordinary file. */
+    /** The whole contents; empty if the file can't be opened or is not a regular file. */
     [[nodiscard]] String readAll() const;
 
     friend bool operator== (const File& a, const File& b) noexcept { return a.fullPath == b.fullPath; }

@@ -8,7 +8,7 @@ namespace qel
 namespace
 {
 
-/** Calls for the next piece until all is done, or a piece is refused or empty. */
+/** Repeats until all is transferred, or a piece fails or is empty. */
 template <typename Piece>
 std::size_t inPieces (std::size_t count, Piece&& piece)
 {

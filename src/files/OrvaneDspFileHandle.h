@@ -4,7 +4,7 @@
 namespace qel
 {
 
-/** Owns an open file and closes it. Does not raise. */
+/** Owns an open file and closes it. Never throws. */
 class FileHandle
 {
 public:
@@ -15,13 +15,13 @@ public:
     ~FileHandle() { close(); }
 
     [[nodiscard]] bool isOpen() const noexcept { return handle != filesystem::noHandle; }
-    /** In bytes; negative when it can't be told. */
+    /** In bytes; negative if unknown. */
     [[nodiscard]] std::int64_t size() const;
-    /** Reads until the buffer is full or the file ends; the count of bytes. */
+    /** Reads until the buffer is full or the file ends; returns the number of bytes read. */
     std::size_t read (void* bytes, std::size_t count);
-    /** Writes until all is out or the system refuses; the count of bytes that went out. */
+    /** Writes until all is written or the system fails; returns the number of bytes written. */
     std::size_t write (const void* bytes, std::size_t count);
-    /** Closes, with all of it on the disk; false if that failed or no file was open. */
+    /** Flushes to disk and closes; false if that failed or no file was open. */
     bool finish();
 
 private:

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/** The few calls of the operating system that files stand on; paths are UTF-8. Nothing here raises. Any thread. */
+/** The few system calls that the file classes need; paths are UTF-8. Never throws. Any thread. */
 namespace qel::filesystem
 {
 
@@ -23,37 +23,37 @@ enum class Kind
     folder
 };
 
-/** What stands at a path; nothing also when its attributes can't be read. */
+/** What exists at a path; nothing also if its attributes can't be read. */
 [[nodiscard]] Kind kindOf (const String& path);
 
 [[nodiscard]] bool makeFolder (const String& path);
 [[nodiscard]] bool removeFile (const String& path);
-/** Only an empty folder goes. */
+/** Removes an empty folder only. */
 [[nodiscard]] bool removeFolder (const String& path);
-/** Moves; a file that stands at the target is replaced in one step, so that there is never none. */
+/** Moves; replaces an existing target file atomically, so that the target never goes missing. */
 [[nodiscard]] bool move (const String& from, const String& to);
 
-/** The process's working folder; empty when there is none. */
+/** The process's working folder; empty if there is none. */
 [[nodiscard]] String currentFolder();
-/** A value of the environment; empty when it is not set. */
+/** The value of an environment variable; empty if it is not set. */
 [[nodiscard]] String environment (const char* name);
 
-/** An open file. Only ordinary files open: reading a device or a pipe could wait for ever. */
+/** An open file. Only regular files open: reading from a device or a pipe could block forever. */
 using Handle = std::intptr_t;
 inline constexpr Handle noHandle = -1;
 
 [[nodiscard]] Handle openForReading (const String& path);
-/** Makes the file if there is none, and writes at its end. Others may read it meanwhile. */
+/** Creates the file if needed and writes at its end. Others may read it meanwhile. */
 [[nodiscard]] Handle openForAppending (const String& path);
-/** In bytes; negative when it can't be told. */
+/** In bytes; negative if unknown. */
 [[nodiscard]] std::int64_t sizeOf (Handle handle);
-/** Bytes read, 0 at the end, negative on failure; they may be fewer than asked for. */
+/** Returns the bytes read, possibly fewer than requested; 0 at the end, negative on failure. */
 [[nodiscard]] std::int64_t readSome (Handle handle, void* bytes, std::size_t count);
-/** Bytes written, negative on failure; they may be fewer than asked for. */
+/** Returns the bytes written, possibly fewer than requested; negative on failure. */
 [[nodiscard]] std::int64_t writeSome (Handle handle, const void* bytes, std::size_t count);
-/** Waits until all that was written is on the disk: a full one may say so only now. */
+/** Waits until all data is on disk: a full disk may only fail here. */
 [[nodiscard]] bool flush (Handle handle);
-/** The handle is gone, whatever the result. */
+/** Invalidates the handle, whatever the result. */
 bool close (Handle handle);
 
 }

@@ -15,7 +15,7 @@ namespace qel::filesystem
 namespace
 {
 
-/** A call that a signal broke off is made again. */
+/** Repeats a call that a signal interrupted. */
 template <typename Call>
 auto uninterrupted (Call&& call)
 {
@@ -25,7 +25,7 @@ auto uninterrupted (Call&& call)
     return result;
 }
 
-/** Without O_NONBLOCK a pipe would hold the caller until someone opens its other end. */
+/** Without O_NONBLOCK opening a pipe would block until someone opens its other end. */
 Handle openOrdinary (const String& path, int flags)
 {
     const int descriptor =

@@ -16,10 +16,10 @@ namespace qel::filesystem
 namespace
 {
 
-/** From here on a path must say that it is a long one. */
+/** Longer paths need the long-path prefix. */
 constexpr std::size_t longestPlainPath = 247;
 
-/** The most bytes in one call; its count has 32 bits. */
+/** The most bytes in one call, whose count is 32 bits. */
 constexpr std::size_t largestPiece = 1 << 30;
 
 std::wstring toWide (const char* text, std::size_t size)
@@ -40,7 +40,7 @@ std::string fromWide (const wchar_t* wide, std::size_t size)
     return text;
 }
 
-/** Text for the system; a text that is no possible path names nothing. */
+/** Converts a path for the system; text that cannot be a path becomes empty. */
 std::wstring systemPath (const String& path)
 {
     if (path.size() > longestPath)

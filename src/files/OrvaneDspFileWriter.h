@@ -8,21 +8,21 @@
 namespace qel
 {
 
-/** Writes at the end of a file, which it makes if need be, with its folder. Others may read the file meanwhile. */
+/** Appends to a file, and creates it and its folder if needed. Others may read the file meanwhile. */
 class FileWriter
 {
 public:
-    /** Raises "Couldnt create or write in folder " and the quoted folder. A file that can't be opened shows itself
-        when it is written to. */
+    /** Throws "Couldnt create or write in folder " and the quoted folder. If the file itself can't be opened, the first
+        write fails. */
     explicit FileWriter (const File& file);
 
-    /** Whether all bytes went out. */
+    /** Returns whether all bytes were written. */
     bool write (const MemoryOutput& bytes);
-    /** Closes the file, with all of it on the disk; false if that failed. Without it the destructor closes. */
+    /** Flushes to disk and closes; false if that failed. Otherwise the destructor closes. */
     bool finish();
 
     [[nodiscard]] const File& file() const noexcept { return target; }
-    /** Where the next byte goes, counted from the file's start. */
+    /** Offset of the next byte from the start of the file. */
     [[nodiscard]] std::uint64_t position() const noexcept { return writePosition; }
 
 private:

@@ -5,7 +5,7 @@
 namespace qel::exceptions
 {
 
-/** A file that was to be read is not there. */
+/** The file to read does not exist. */
 class NoSuchFile : public Exception
 {
 public:

@@ -64,7 +64,7 @@ String PathRules::parent (const String& path) const { return parentOf (path.str(
 
 String PathRules::fileName (const String& path) const
 {
-    return path.str().substr (path.str().rfind (separator) + 1); // a missing separator is the place before the first
+    return path.str().substr (path.str().rfind (separator) + 1); // npos + 1 is 0: without a separator the whole path
 }
 
 String PathRules::extension (const String& path) const

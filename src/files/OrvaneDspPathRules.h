@@ -4,31 +4,31 @@
 namespace qel
 {
 
-/** What a path's text means, for one separator. Text alone: nothing here touches a disk. Any thread.
-    With '\\' there are drives ("C:") and shares ("\\\\server"), and "/" is taken for a separator too;
-    with '/' there are neither, and ":" and "\\" are characters like any other. */
+/** Path syntax for one separator. Works on text alone and never touches the disk. Any thread.
+    With '\\' there are drives ("C:") and shares ("\\\\server"), and "/" is a separator too;
+    with '/' there are neither, and ":" and "\\" are ordinary characters. */
 class PathRules
 {
 public:
     explicit constexpr PathRules (char separatorToUse) noexcept : separator (separatorToUse) {}
 
-    /** The full path that a user's text names, seen from a folder; empty for an empty text. White space at the end
-        and trailing separators go. */
+    /** The absolute path for the user's text, resolved against a folder; empty for empty text. Drops trailing white
+        space and separators. */
     [[nodiscard]] String absolute (const String& text, const String& currentFolder) const;
 
-    /** What stands before the last separator; the root for what stands in it; the text itself without separator. */
+    /** Everything before the last separator; the root for its direct entries; the text itself without separator. */
     [[nodiscard]] String parent (const String& path) const;
 
-    /** What stands behind the last separator. */
+    /** Everything after the last separator. */
     [[nodiscard]] String fileName (const String& path) const;
 
-    /** From the name's last "." to the end, the point included; or empty. */
+    /** From the name's last "." to the end, dot included; empty if there is none. */
     [[nodiscard]] String extension (const String& path) const;
 
     /** The name up to its last ".". */
     [[nodiscard]] String nameWithoutExtension (const String& path) const;
 
-    /** Walks a relative path from a folder: "." stays, ".." goes up. A path that stands alone is the answer itself. */
+    /** Resolves a relative path against a folder: "." stays, ".." goes up. An absolute path is returned as is. */
     [[nodiscard]] String joined (const String& folder, const String& relative) const;
 
 private:

@@ -4,16 +4,16 @@
 namespace qel
 {
 
-/** A linear congruential generator of 48 bits. */
+/** A 48-bit linear congruential generator. */
 class Random48
 {
 public:
     explicit Random48 (std::uint64_t seed) noexcept;
 
-    /** The next number, of the whole range of 32 bits. */
+    /** The next number, over the full 32-bit range. */
     [[nodiscard]] std::uint32_t next() noexcept;
 
-    /** One for the process, seeded from the clocks. It has no lock. */
+    /** The process's generator, seeded from the clocks. Not thread-safe. */
     [[nodiscard]] static Random48& shared();
 
 private:

@@ -4,7 +4,8 @@
 namespace qel
 {
 
-/** Whether one of some attempts succeeded. Another program, a virus scanner say, may hold a file for a moment. */
+/** Returns whether one of several attempts succeeded. Another program, such as a virus scanner, may lock a file
+    briefly. */
 template <typename Attempt>
 [[nodiscard]] bool retried (int tries, int pauseInMilliseconds, Attempt&& attempt)
 {

@@ -4,7 +4,7 @@
 namespace qel
 {
 
-/** A file beside a target, to be written in its stead and moved over it when it is whole. It goes with this object. */
+/** A file next to a target, written in its place and moved over it once complete. Removed with this object. */
 class TemporaryFile
 {
 public:
@@ -15,8 +15,8 @@ public:
 
     [[nodiscard]] const File& file() const noexcept { return temporary; }
 
-    /** Moves the file onto the target, with up to five tries 100 ms apart. False if it was never written, if the
-        target is a folder, or if the system refuses: then the target is as it was. */
+    /** Moves the file onto the target, trying up to five times 100 ms apart. False if it was never written, if the
+        target is a folder, or if the system fails: the target is then unchanged. */
     [[nodiscard]] bool replaceTarget() const;
 
 private:

@@ -11,7 +11,7 @@ namespace qel
 namespace
 {
 
-/** The number in parentheses at the end of a base, as in "take(2)", which is cut off it. */
+/** Removes the number in parentheses at the end of a base, as in "take(2)", and returns it. */
 std::optional<std::uint64_t> takeNumberOff (std::string& base)
 {
     const auto open = base.rfind ('(');

@@ -30,8 +30,8 @@ int ConvexHull2D::turn (const Point2D& a, const Point2D& b, const Point2D& c) no
     return orientation ({ a.x, a.y, 0 }, { b.x, b.y, 0 }, { c.x, c.y, 0 });
 }
 
-/** The pivot first, then the others by their angle around it, then by their distance. Of equal angles only the
-    farthest stays; what coincides with the pivot goes as well. */
+/** Puts the pivot first, then sorts by angle around it, then by distance. Keeps only the farthest of equal angles, and
+    drops points that coincide with the pivot. */
 void ConvexHull2D::sortAroundPivot()
 {
     const auto lower = [] (const Point2D& a, const Point2D& b) { return std::tie (a.y, a.x) < std::tie (b.y, b.x); };
@@ -42,7 +42,7 @@ void ConvexHull2D::sortAroundPivot()
     const auto others = std::partition (points.begin() + 1, points.end(), coincides);
     std::for_each (points.begin() + 1, others, [] (Point2D& p) { p.deleted = true; });
 
-    // On one ray from the lowest, leftmost point the farther of two is the higher one, or the one more to the right.
+    // On one ray from the lowest, leftmost point the farther point is the higher one, or the one further right.
     std::sort (others, points.end(), [&] (const Point2D& a, const Point2D& b) {
         const int side = turn (pivot, a, b);
         return side != 0 ? side > 0 : lower (a, b);

@@ -7,16 +7,16 @@
 namespace qel
 {
 
-/** The convex hull of points in the plane: only x and y count. */
+/** The convex hull of points in the plane; z is ignored. */
 class ConvexHull2D
 {
 public:
     ConvexHull2D() = default;
     explicit ConvexHull2D (const Point3Array& points);
 
-    /** The corners, counterclockwise, from the lowest point (the leftmost of equals) on; no three of them in a line.
-        Empty for fewer than two points, the two ends for points in a line, one for points that all coincide.
-        Points that are not finite do not count. */
+    /** The corners, counterclockwise, starting at the lowest point (the leftmost of equals); no three are collinear.
+        Empty for fewer than two points, the two ends for collinear points, one point if all coincide.
+        Non-finite points are ignored. */
     [[nodiscard]] const Point3Array& hull() const& noexcept { return output; }
     [[nodiscard]] Point3Array hull() && noexcept { return std::move (output); }
 
@@ -24,7 +24,7 @@ private:
     struct Point2D
     {
         float x, y;
-        std::size_t index; ///< in the input, from 1
+        std::size_t index; ///< into the input, from 1
         bool deleted;
     };
 

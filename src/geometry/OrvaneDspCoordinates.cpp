@@ -12,22 +12,22 @@ namespace
 
 using Values = const float*;
 
-/** The point that comes out when values are read into a point. */
+/** Returns the point after reading values into p. */
 using Reader = Point3 (*) (const Point3& p, Values v);
 using Writer = void (*) (const Point3& p, float* v);
 
 struct Format
 {
-    std::string_view name; ///< of a literal, so that a zero stands behind it
+    std::string_view name; ///< of a literal, so null-terminated
     std::size_t count;
-    Reader read;  ///< null: no messages in this form
-    Writer write; ///< null: no positions are told in this form
+    Reader read;  ///< null: not readable from messages
+    Writer write; ///< null: not writable
 };
 
-/** Nearer than this a point would lose its direction. */
+/** Below this distance a point would lose its direction. */
 float farEnough (float distance) noexcept { return std::max (distance, 1e-5f); }
 
-/** The angle by which wave field synthesis tells directions: 0 in front, counter-clockwise. */
+/** Direction as used in wave field synthesis: 0 in front, counter-clockwise. */
 float wfsAngle (const Point3& p) noexcept { return wrapDegrees (std::atan2 (p.y, p.x) * degreesPerRadian + 270.0f); }
 
 template <std::size_t n>

@@ -7,7 +7,7 @@
 namespace qel
 {
 
-/** The forms in which a position is told. Their names ("xyz", "x++", ...) are the words of messages.
+/** The coordinate formats for positions. Their names ("xyz", "x++", ...) appear in messages.
     To add one: a value here before `none`, and its row in OrvaneDspCoordinates.cpp. */
 enum class CoordinateType : std::int32_t
 {
@@ -40,26 +40,26 @@ enum class CoordinateType : std::int32_t
 };
 
 inline constexpr std::int32_t numCoordinateTypes = 26;
-/** The most values that a type has. */
+/** The largest value count of any type. */
 inline constexpr std::size_t maxCoordinateValues = 3;
 inline constexpr CoordinateType defaultCoordinateType = CoordinateType::aed;
 
-/** The name of a type, "" for a number that is none. The text lives forever. */
+/** The name of a type, "" if unknown. The text is static. */
 [[nodiscard]] const char* nameOfCoordinateType (CoordinateType type) noexcept;
-/** The type of a name; false and untouched for a name that is unknown or not for messages (the sofa types, "none"). */
+/** Looks up a type by name; false and untouched for names that are unknown or not for messages (sofa types, "none"). */
 [[nodiscard]] bool findCoordinateType (std::string_view name, CoordinateType& type) noexcept;
-/** How many values a type reads and writes; 0 for a number that is none. */
+/** How many values a type reads and writes; 0 for an unknown type. */
 [[nodiscard]] std::size_t coordinateCount (CoordinateType type) noexcept;
-/** Whether writePoint knows the type: the absolute forms of a whole point. */
+/** Whether writePoint supports the type: the absolute formats of a whole point. */
 [[nodiscard]] bool isWritable (CoordinateType type) noexcept;
 
-/** Sets a point from values in degrees and metres, in place; relative types start from what it is. Values beyond the
-    type's count are not looked at. False, and the point untouched, if values are missing, if one is not finite, if
-    the result would not be, or if the type cannot be read. Never allocates. */
+/** Sets a point in place from values in degrees and metres; relative types start from its present value. Extra values
+    are ignored. Returns false and leaves the point unchanged if values are missing, if any value or the result is not
+    finite, or if the type is not readable. Never allocates. */
 [[nodiscard]] bool setPoint (Point3& p, CoordinateType type, const float* values, std::size_t count) noexcept;
 
-/** Writes coordinateCount (type) values. False, and nothing written, if the type has no written form or the point is
-    too far away to be told. Never allocates. */
+/** Writes coordinateCount (type) values. Returns false and writes nothing if the type is not writable or the point is
+    too far away to represent. Never allocates. */
 [[nodiscard]] bool writePoint (const Point3& p, CoordinateType type, float* values) noexcept;
 
 }

@@ -47,7 +47,7 @@ void CoordinatesSnapshotStore::remove (const String& name)
 {
     if (const auto place = places.find (name.str()); place != places.end()) {
         const auto snapshot = place->second;
-        places.erase (place); // first: its key is the snapshot's name
+        places.erase (place); // first: its key points into the snapshot's name
         snapshots.erase (snapshot);
     }
 }
@@ -74,7 +74,7 @@ void CoordinatesSnapshotStore::interpolate (Point3Array& output, const String& n
         return;
     const auto& a = first->points;
     const auto& b = second->points;
-    const float ofB = amount > 0 ? std::min (amount, 1.0F) : 0.0F; // no number counts as 0
+    const float ofB = amount > 0 ? std::min (amount, 1.0F) : 0.0F; // NaN counts as 0
     const float ofA = 1.0F - ofB;
     output.resize (std::min (a.size(), b.size()));
     for (std::size_t i = 0; i < output.size(); ++i)

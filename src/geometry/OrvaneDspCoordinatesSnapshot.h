@@ -11,41 +11,42 @@
 namespace qel
 {
 
-/** A named set of positions: one point in metres for a source, in source order. */
+/** A named set of positions: one point in metres per source, in source order. */
 struct CoordinatesSnapshot
 {
     String name;
     Point3Array points;
 };
 
-/** Snapshots in the order in which their names first came. Names are told apart byte by byte, with case. */
+/** Snapshots in the order in which their names were first stored. Names are compared byte by byte, case-sensitive. */
 class CoordinatesSnapshotStore
 {
 public:
     [[nodiscard]] std::size_t size() const noexcept { return snapshots.size(); }
     [[nodiscard]] bool empty() const noexcept { return snapshots.empty(); }
 
-    /** Place in the order, from 0; -1 if there is none of that name. Walks the snapshots before it. */
+    /** Index in that order, from 0; -1 for an unknown name. Linear time. */
     [[nodiscard]] int findIndex (const String& name) const;
-    /** A shared empty array if there is none of that name. */
+    /** A shared empty array for an unknown name. */
     [[nodiscard]] const Point3Array& points (const String& name) const;
-    /** Replaces the points of a name that is there; a new name goes to the end. */
+    /** Replaces the points of an existing name; a new name is appended. */
     void store (const String& name, Point3Array points);
-    /** Nothing happens if there is none of that name. */
+    /** Does nothing for an unknown name. */
     void remove (const String& name);
     void removeAll() noexcept;
-    /** The names in order take the place of what the list held. */
+    /** Replaces the list's contents with the names, in order. */
     void listNames (Vector<String>& names) const;
-    /** A mix of two snapshots, the first at 0 and the second at 1, as long as the shorter one. The amount is limited
-        to 0 to 1. If either name is unknown, the output is left as it stands. */
+    /** Blends two snapshots, the first at 0 and the second at 1; the result is as long as the shorter one. The amount
+        is clamped to 0 to 1. If either name is unknown, the output is unchanged. */
     void interpolate (Point3Array& output, const String& nameA, const String& nameB, float amount) const;
 
-    /** Adds a file's snapshots, each as store does. Raises NoSuchFile, "error parsing file " and the quoted path
-        (a file that is malformed anywhere changes nothing), or the first bad snapshot's fault: those before it stay in
-        the store. Memory beyond the snapshots: the file's size. */
+    /** Adds a file's snapshots, each as store does. Throws NoSuchFile, "error parsing file " and the quoted path (a
+        malformed file changes nothing), or the first bad snapshot's fault; the snapshots before it stay in the store.
+        Memory beyond the snapshots: the file's size. */
     bool read (const File& file);
-    /** Writes all snapshots that have points. False if the file could not be written: then it is as it was. Raises
-        "no snapshot", or that the file exists if it must not be overwritten. An empty version is left out. */
+    /** Writes all snapshots that have points. Returns false if the file could not be written; it is then unchanged.
+        Throws "no snapshot", or an error if the file exists and must not be overwritten. An empty version is
+        omitted. */
     bool write (const File& file, const String& version, bool overwrite) const;
 
 private:
@@ -55,7 +56,7 @@ private:
 
     /** A list, so that removing one of many moves no other. */
     Snapshots snapshots;
-    /** Where each name is. The keys are the snapshots' own names. */
+    /** Snapshots by name. The keys point into the snapshots' own names. */
     std::unordered_map<std::string_view, Snapshots::iterator> places;
 };
 

@@ -16,10 +16,10 @@ namespace qel
 namespace
 {
 
-/** In bytes; the file is written in pieces of about this size. */
+/** In bytes; the file is written in chunks of about this size. */
 constexpr std::size_t pieceSize = 65536;
 
-/** An axis of a point, under its name in the file. */
+/** A point's axis and its name in the file. */
 struct Axis
 {
     const char* name;
@@ -35,12 +35,12 @@ const std::string* valueOf (const XmlAttributes& attributes, std::string_view na
     return found == attributes.end() ? nullptr : &found->value;
 }
 
-/** Builds snapshots out of a document as it is parsed. It keeps those before the first bad one. */
+/** Builds snapshots while a document is parsed. Keeps those before the first bad one. */
 class SnapshotBuilder : public XmlVisitor
 {
 public:
     std::list<CoordinatesSnapshot> snapshots;
-    /** What is wrong with the first bad snapshot; empty if all are good. */
+    /** What is wrong with the first bad snapshot; empty if all are valid. */
     String complaint;
 
     void startElement (std::string_view tagName, const XmlAttributes& attributes) override
@@ -86,7 +86,7 @@ private:
         lacksIndex = hasBadPlace = false;
     }
 
-    /** A text that is no number counts as 0; a number that a float can't hold is refused. */
+    /** Non-numeric text counts as 0; numbers outside the range of float are rejected. */
     void addSource (const XmlAttributes& attributes)
     {
         const auto* const index = valueOf (attributes, "index");
@@ -102,7 +102,7 @@ private:
         points.push_back (point);
     }
 
-    /** The indices must be those from 1 to their number, in any order. */
+    /** The indices must be 1 to their count, in any order. */
     [[nodiscard]] const char* faultOfSnapshot() const
     {
         if (lacksIndex)
@@ -131,7 +131,7 @@ private:
     int depth = 0;
     String name;
     Vector<int> indices;
-    Point3Array points; // in the order of the file
+    Point3Array points; // in file order
     bool lacksIndex = false, hasBadPlace = false;
 };
 

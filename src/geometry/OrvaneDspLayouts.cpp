@@ -12,7 +12,7 @@ namespace
 
 constexpr std::size_t numRows = 8;
 
-/** User azimuths in degrees; row n - 1 holds the n speakers of the usual set-up for that number. */
+/** User azimuths in degrees; row n - 1 holds the standard layout for n speakers. */
 constexpr std::array<std::array<float, numRows>, numRows> speakerAzimuths{ {
     { 0 },
     { -30, 30 },

@@ -10,9 +10,9 @@ namespace qel
 namespace
 {
 
-constexpr double halfUlp = 1.1102230246251565e-16; // 2 to the power -53
+constexpr double halfUlp = 1.1102230246251565e-16; // 2 ^ -53
 
-/** A sum of doubles without rounding: it is kept as parts that do not overlap, from small to large. */
+/** An exact sum of doubles, kept as non-overlapping parts in ascending order. */
 class ExactSum
 {
 public:
@@ -32,7 +32,7 @@ public:
         count = kept;
     }
 
-    /** Adds a product in two halves, the rounded one and what rounding took from it. */
+    /** Adds a product in two parts: the rounded one and its rounding error. */
     void addProduct (double a, double b) noexcept
     {
         const double product = a * b;
@@ -47,11 +47,11 @@ public:
 private:
     static double upperBits (double a) noexcept
     {
-        const double shifted = 134217729.0 * a; // 2 to the power 27, and 1
+        const double shifted = 134217729.0 * a; // 2 ^ 27 + 1
         return shifted - (shifted - a);
     }
 
-    std::array<double, 96> parts; ///< as many as inCircle adds
+    std::array<double, 96> parts; ///< enough for inCircle
     std::size_t count = 0;
 };
 
@@ -65,7 +65,7 @@ struct Wide
     double x, y;
 };
 
-/** The six products of (b - a) x (c - a), signed. Each is exact, since two single-precision numbers make it. */
+/** The six products of (b - a) x (c - a), signed. Each is exact, because its factors are single precision. */
 std::array<double, 6> orientationTerms (const Wide& a, const Wide& b, const Wide& c) noexcept
 {
     return { b.x * c.y, -(b.x * a.y), -(a.x * c.y), -(b.y * c.x), b.y * a.x, a.y * c.x };

@@ -6,7 +6,7 @@
 namespace qel
 {
 
-/** A rotation of space about the origin, by roll about x, then pitch about y, then yaw about z. Angles in radians. */
+/** A rotation about the origin: roll about x, then pitch about y, then yaw about z. Angles in radians. */
 class Rotation
 {
 public:

@@ -12,7 +12,7 @@ namespace
 
 constexpr float metresPerSecond = 343.2f, millisecondsPerSecond = 1000;
 
-/** The delay of a speaker that is moved that far, in milliseconds. */
+/** The delay in milliseconds for a speaker moved by this distance. */
 float delayFor (float metres) noexcept { return metres * millisecondsPerSecond / metresPerSecond; }
 
 }

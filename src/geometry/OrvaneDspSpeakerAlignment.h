@@ -4,19 +4,19 @@
 namespace qel
 {
 
-/** Speakers moved out to the sphere of the farthest one, and the delays that make up for it. */
+/** Speakers projected onto the sphere of the farthest one, and the delays that compensate. */
 struct SpeakerAlignment
 {
     float radius = 0;     ///< metres
-    Point3Array points;   ///< where each speaker would stand on the sphere
-    Vector<float> delays; ///< milliseconds, at 343.2 metres a second
+    Point3Array points;   ///< each speaker's place on the sphere
+    Vector<float> delays; ///< milliseconds, at 343.2 m/s
 };
 
 /** A speaker at the origin stays there, with no delay. */
 [[nodiscard]] SpeakerAlignment alignSpeakers (const Point3Array& speakers);
 
-/** Where the line through p0 and p1 meets a sphere: first in the direction of p1, then behind. False, and both points
-    untouched, if it does not, or if p0 and p1 are one point. */
+/** Intersects the line through p0 and p1 with a sphere: first in the direction of p1, then behind. Returns false and
+    leaves both points unchanged if there is no intersection or p0 equals p1. */
 [[nodiscard]] bool intersectLineAndSphere (const Point3& p0, const Point3& p1, const Point3& centre, float radius,
                                            Point3& first, Point3& second) noexcept;
 

@@ -9,7 +9,7 @@ namespace qel
 namespace
 {
 
-/** The internal angle and the elevation of a point, in radians. */
+/** Internal angle and elevation of a point, in radians. */
 float angleOf (const Point3& p) noexcept { return std::atan2 (p.y, p.x); }
 
 float elevationAngleOf (const Point3& p) noexcept
@@ -28,7 +28,7 @@ Point3 fromAngles (float a, float r, float e) noexcept
 float wrapDegrees (float degrees) noexcept
 {
     constexpr float turn = 360;
-    float wrapped = std::fmod (degrees, turn); // what repeated subtraction leaves, for numbers of any size
+    float wrapped = std::fmod (degrees, turn); // the remainder, for numbers of any size
     if (wrapped < 0)
         wrapped += turn;
     return wrapped >= turn ? wrapped - turn : wrapped;
@@ -57,7 +57,7 @@ float distance (const Point3& p) noexcept
     const float square = p.x * p.x + p.y * p.y + p.z * p.z;
     if (square >= FLT_MIN && square <= FLT_MAX)
         return std::sqrt (square);
-    // The squares of very near and very far points need a wider range than single precision has.
+    // Squares of very near and very far points exceed the range of single precision.
     const double x = p.x, y = p.y, z = p.z;
     return static_cast<float> (std::sqrt (x * x + y * y + z * z));
 }

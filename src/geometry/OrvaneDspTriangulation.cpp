@@ -18,11 +18,10 @@ using Indices = std::vector<std::size_t>;
 
 constexpr std::size_t none = SIZE_MAX;
 
-/** Delaunay triangulation of points that rise in x, then in y, by adding one at a time. Each new point lies outside
-    of what there is, so that it is joined to the hull's edges that it sees; then edges are swapped until no circle
-    holds a point.
+/** Delaunay triangulation by a sweep over points sorted by x, then y. Each new point lies outside the present hull and
+    is joined to the hull edges visible from it; then edges are swapped until no circle contains a point.
 
-    A triangle is three half-edges in a row, counterclockwise; each knows its first point and its twin in the
+    A triangle is three consecutive half-edges, counterclockwise; each stores its first point and its twin in the
     neighbouring triangle. The hull is a ring of points, counterclockwise. */
 class DelaunaySweep
 {
@@ -34,7 +33,7 @@ public:
           hullEdge (points.size(), none)
     {}
 
-    /** False if all points lie in a line. */
+    /** False if all points are collinear. */
     bool run()
     {
         std::size_t first = 2;
@@ -48,7 +47,7 @@ public:
         return true;
     }
 
-    /** Three in a row for each triangle. */
+    /** Three in a row per triangle. */
     [[nodiscard]] const Indices& corners() const noexcept { return origin; }
 
 private:
@@ -61,7 +60,7 @@ private:
     static std::size_t next (std::size_t edge) noexcept { return edge % 3 == 2 ? edge - 2 : edge + 1; }
     static std::size_t previous (std::size_t edge) noexcept { return edge % 3 == 0 ? edge + 2 : edge - 1; }
 
-    /** Triangles between the apex and the points before it, which lie in a line. */
+    /** Builds triangles between the apex and the points before it, which are collinear. */
     void startFan (std::size_t apex)
     {
         const bool above = orientation (points[0], points[1], points[apex]) > 0;
@@ -76,7 +75,7 @@ private:
 
     void insert (std::size_t point)
     {
-        auto from = point - 1; // the rightmost point so far: one of its two edges at least is seen
+        auto from = point - 1; // the rightmost point so far: at least one of its two edges is visible
         while (sees (point, hullPrevious[from], from))
             from = hullPrevious[from];
         visible.clear();
@@ -90,7 +89,7 @@ private:
         return orientation (points[from], points[to], points[point]) < 0;
     }
 
-    /** A triangle on each visible edge, with a new point as its apex; then swaps what the point upsets. */
+    /** Adds a triangle on each visible edge with the new point as its apex, then restores the Delaunay property. */
     void attach (std::size_t point)
     {
         auto neighbour = none;
@@ -124,7 +123,7 @@ private:
         hullPrevious[to] = from;
     }
 
-    /** A pending edge faces the newest point within its own triangle. */
+    /** A pending edge is opposite the newest point in its triangle. */
     void swapEdges()
     {
         while (! pending.empty()) {
@@ -139,7 +138,7 @@ private:
         }
     }
 
-    /** Replaces the diagonal of the quadrangle around an edge. The two new triangles share the apex of the first. */
+    /** Swaps the diagonal of the quadrilateral around an edge. The two new triangles share the apex of the first. */
     void swap (std::size_t edge, std::size_t other, std::size_t opposite)
     {
         const auto back = previous (edge), otherBack = previous (other);
@@ -154,10 +153,10 @@ private:
     }
 
     const Point3Array points;
-    Indices origin, twin;                     ///< for each half-edge; the twin of an edge of the hull is none
-    Indices hullNext, hullPrevious, hullEdge; ///< for each point; stale for those inside
-    std::vector<VisibleEdge> visible;         ///< from the point that is being added, in the hull's order
-    Indices pending;                          ///< half-edges to be tested
+    Indices origin, twin;                     ///< per half-edge; an edge of the hull has no twin
+    Indices hullNext, hullPrevious, hullEdge; ///< per point; stale for inner points
+    std::vector<VisibleEdge> visible;         ///< from the point being added, in hull order
+    Indices pending;                          ///< half-edges to test
 };
 
 Indices risingOrder (const Point3Array& points)

@@ -7,25 +7,25 @@
 namespace qel
 {
 
-/** The corners of a triangle; only x and y count. */
+/** The corners of a triangle; z is ignored. */
 struct TriangleXY
 {
     Point3 a, b, c;
 };
 
-/** The Delaunay triangulation of points in the plane: no point lies inside the circle through a triangle's corners. */
+/** The Delaunay triangulation of points in the plane: no triangle's circumcircle contains a point. */
 class Triangulation
 {
 public:
     /** Three indices into the points, counterclockwise. */
     using Triple = std::array<std::size_t, 3>;
 
-    /** False, with no triangles, for fewer than three points, points that all lie in a line, two points that coincide
-        within (max (|a|, |b|) + 1) * 2.220446049250313e-14 on each axis, or a point that is not finite. */
+    /** Returns false, with no triangles, for fewer than three points, collinear points, two points that coincide within
+        (max (|a|, |b|) + 1) * 2.220446049250313e-14 on each axis, or a non-finite point. */
     bool compute (const Point3Array& points);
 
     [[nodiscard]] const Vector<Triple>& triples() const noexcept { return list; }
-    /** The triangles' corners among the points that were given to compute. */
+    /** The triangles' corners; pass the points given to compute. */
     [[nodiscard]] Vector<TriangleXY> triangles (const Point3Array& points) const;
 
 private:

@@ -4,7 +4,7 @@
 namespace qel
 {
 
-/** A small generator of the numbers 0 to 32767, the same on every platform, so that what is drawn from it repeats. */
+/** A small generator of numbers from 0 to 32767; the same on every platform, so that results are reproducible. */
 class Random
 {
 public:
@@ -19,7 +19,7 @@ private:
     std::uint32_t state;
 };
 
-/** The generator of the thread, in the manner of the C library: as if seeded with 1 until it is seeded. */
+/** Seeds the thread's generator, as in the C library: 1 until seeded. */
 void srand (unsigned seed) noexcept;
 [[nodiscard]] int rand() noexcept;
 

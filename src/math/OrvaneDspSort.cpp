@@ -8,7 +8,7 @@ namespace qel
 namespace
 {
 
-/** Up to this size introsort takes the insertion sort. */
+/** Introsort falls back to insertion sort up to this size. */
 constexpr std::ptrdiff_t smallRange = 16;
 
 void insertionSort (int* first, int* last)
@@ -28,8 +28,8 @@ void heapsort (int* first, int* last)
     std::sort_heap (first, last);
 }
 
-/** Splits a range of at least two about its first element. Both parts are smaller than the range, the left one is
-    not empty, and nothing in it is larger than what stands in the right one. */
+/** Partitions a range of two or more about its first element. Both parts are smaller than the range, the left one is
+    not empty, and nothing in it is larger than anything in the right one. */
 int* partition (int* first, int* last)
 {
     const int pivot = *first;
@@ -48,7 +48,7 @@ int* partition (int* first, int* last)
     }
 }
 
-/** Goes down into the smaller part and on with the larger one, so that the stack stays shallow. */
+/** Recurses into the smaller part and loops on the larger one, to keep the stack shallow. */
 void quicksort (int* first, int* last)
 {
     while (last - first > 1) {

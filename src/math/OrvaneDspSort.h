@@ -12,11 +12,11 @@ enum class SortMethod
     insertionSort = 3
 };
 
-/** Ascending, in place. Introsort and heapsort take n log n steps at the worst. */
+/** Sorts in place, ascending. Introsort and heapsort are O(n log n) in the worst case. */
 void sort (int* values, std::size_t count, SortMethod method = SortMethod::introsort);
 void sort (Vector<int>& values, SortMethod method = SortMethod::introsort);
 
-/** Whether a value stands more than once. An array that is not known to be sorted is looked at in a sorted copy. */
+/** Whether any value occurs more than once. Unsorted arrays are checked in a sorted copy. */
 [[nodiscard]] bool hasRepetitions (const int* values, std::size_t count, bool isSorted);
 [[nodiscard]] bool hasRepetitions (const Vector<int>& values, bool isSorted);
 

@@ -13,7 +13,7 @@
 namespace qel
 {
 
-/** The standard allocator over the library's aligned storage. */
+/** Standard allocator on the library's aligned storage. */
 template <typename T>
 struct AlignedAllocator
 {
@@ -27,7 +27,7 @@ struct AlignedAllocator
 
     [[nodiscard]] T* allocate (std::size_t count)
     {
-        // The elements may well be pointers. NOLINTNEXTLINE(bugprone-sizeof-expression)
+        // The elements may be pointers. NOLINTNEXTLINE(bugprone-sizeof-expression)
         return static_cast<T*> (qel::allocate (byteCount (count, sizeof (T))));
     }
     void deallocate (T* p, std::size_t) noexcept { qel::free (p); }
@@ -44,8 +44,8 @@ struct AlignedAllocator
     }
 };
 
-/** A dynamic array on 16-byte aligned storage, whose growth is guarded (see guardedGrowth). Elements are not
-    bounds-tested. An operation that raises leaves the array as it was. */
+/** A dynamic array on 16-byte aligned storage with guarded growth (see guardedGrowth). Element access is not
+    bounds-checked. Operations that throw leave the array unchanged. */
 template <typename T>
 class Vector
 {
@@ -58,7 +58,7 @@ public:
     using const_iterator = typename Storage::const_iterator;
 
     Vector() = default;
-    /** Elements as their default constructor makes them, numbers 0. */
+    /** Value-initialised elements; numbers are 0. */
     explicit Vector (std::size_t size)
     {
         grow ([&] { items.resize (size); });
@@ -98,7 +98,7 @@ public:
     const_iterator begin() const noexcept { return items.begin(); }
     const_iterator end() const noexcept { return items.end(); }
 
-    /** Does nothing, and so cannot raise, when the array has that size already. */
+    /** Does nothing, and so cannot throw, if the array already has that size. */
     void resize (std::size_t newSize)
     {
         if (newSize != size())
@@ -108,7 +108,7 @@ public:
             });
     }
 
-    /** The value may lie inside this very array: its index is taken before the array moves. */
+    /** The value may lie inside this array: its index is taken before the array moves. */
     void push_back (const T& value)
     {
         if (size() < capacity() || ! isInside (value)) {
@@ -146,7 +146,7 @@ private:
         guardedGrowth (QEL_HERE, GuardText::whatOccurred, std::forward<Operation> (operation));
     }
 
-    /** Grows by half, or to the size that is needed if that is more. */
+    /** Grows by half, or to the needed size if that is larger. */
     void reserveFor (std::size_t needed)
     {
         if (needed > capacity())

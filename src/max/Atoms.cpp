@@ -81,7 +81,7 @@ float Atoms::number (std::size_t index) const noexcept
 
 t_atom_long Atoms::integer (std::size_t index) const noexcept
 {
-    constexpr double limit = 9.0e18; // what a 64-bit integer still holds
+    constexpr double limit = 9.0e18; // still within a 64-bit integer
     if (index >= length)
         return 0;
     switch (atom_gettype (&items[index])) {
@@ -138,7 +138,7 @@ bool isBadFloat (const t_atom& atom) noexcept { return atom_gettype (&atom) == A
 
 std::string fixedText (double value)
 {
-    std::array<char, 400> digits{}; // the largest double has 309 of them before the point
+    std::array<char, 400> digits{}; // the largest double has 309 digits before the point
     const auto end = std::to_chars (digits.begin(), digits.end(), value, std::chars_format::fixed, 6);
     return { digits.begin(), end.ptr };
 }

@@ -7,7 +7,7 @@
 namespace orvanemax
 {
 
-/** A list of atoms that somebody else owns, with the tests and readings that handlers share. Any thread. */
+/** A view of atoms owned elsewhere, with the tests and conversions that handlers share. Any thread. */
 class Atoms
 {
 public:
@@ -21,26 +21,26 @@ public:
     [[nodiscard]] const t_atom& operator[] (std::size_t index) const noexcept { return items[index]; }
     [[nodiscard]] const t_atom* begin() const noexcept { return items; }
     [[nodiscard]] const t_atom* end() const noexcept { return items + length; }
-    /** Without the first n, or empty if there are fewer. */
+    /** Drops the first n; empty if there are fewer. */
     [[nodiscard]] Atoms from (std::size_t n) const noexcept;
 
-    /** A letter an atom: l or i a long, f a float, n either, s a symbol; any other letter fails. Atoms behind the
-        letters are ignored. A float that is infinite, not a number, or beyond 32 bits fits no letter. */
+    /** One letter per atom: l or i for a long, f a float, n either, s a symbol; any other letter fails. Extra atoms are
+        ignored. A float that is infinite, NaN or beyond 32 bits fits no letter. */
     [[nodiscard]] bool fit (const char* letters) const noexcept;
-    /** The same, with no atom left over. */
+    /** As fit, without extra atoms. */
     [[nodiscard]] bool fitExactly (const char* letters) const noexcept;
-    /** Every atom is a number that fits in 32 bits. */
+    /** Whether every atom is a number that fits in 32 bits. */
     [[nodiscard]] bool areNumbers() const noexcept;
 
-    /** A long or a float as a number, anything else as 0. */
+    /** A long or a float as a number; otherwise 0. */
     [[nodiscard]] float number (std::size_t index) const noexcept;
-    /** A long, or a float truncated, anything else as 0. */
+    /** A long, or a float truncated; otherwise 0. */
     [[nodiscard]] t_atom_long integer (std::size_t index) const noexcept;
-    /** The empty symbol for anything else. */
+    /** The symbol, or the empty symbol for other types. */
     [[nodiscard]] t_symbol* symbol (std::size_t index) const noexcept;
 
-    /** Each atom followed by one blank: longs in decimal, floats without trailing zeros ("1.5 ", "2. "), symbols by
-        their names; atoms of other types are skipped. */
+    /** Each atom followed by one space: longs in decimal, floats without trailing zeros ("1.5 ", "2. "), symbols by
+        name; other types are skipped. */
     [[nodiscard]] std::string text() const;
 
 private:
@@ -48,22 +48,22 @@ private:
     const t_atom* items = nullptr;
 };
 
-/** A long, a float or a symbol: what attributes hold. */
+/** Whether attributes can hold it: a long, a float or a symbol. */
 [[nodiscard]] bool isKnownType (const t_atom& atom) noexcept;
 
-/** A long or a finite 32-bit float. */
+/** Whether it is a long or a finite 32-bit float. */
 [[nodiscard]] bool isNumber (const t_atom& atom) noexcept;
 
-/** A float that is infinite, not a number, or beyond 32 bits. */
+/** Whether it is a float that is infinite, NaN or beyond 32 bits. */
 [[nodiscard]] bool isBadFloat (const t_atom& atom) noexcept;
 
-/** A float in decimals, always with a point, whatever the locale: six decimals, as printf's %f has them. */
+/** A float with six decimals, as printf's %f, always with a point whatever the locale. */
 [[nodiscard]] std::string fixedText (double value);
 
-/** "TEXT ATOMS" in the Max window, as an error of the object: how malformed input is told. */
+/** Logs malformed input as an error of the object: "TEXT ATOMS". */
 void invalidMessage (void* object, const char* text, Atoms atoms);
 
-/** One text in the Max window; it may hold any characters. */
+/** Logs an error as a single text, which may hold any characters. */
 void tellError (void* object, const std::string& text);
 void tellWarning (void* object, const std::string& text);
 void tellPost (void* object, const std::string& text);

@@ -15,7 +15,7 @@ namespace
 
 using Words = t_orvanemax_symbols;
 
-/** What belongs to the host's boxes and parameters. */
+/** Attributes of the host's boxes and parameters. */
 constexpr SymbolField hostAttributes[] = {
     &Words::annotation,
     &Words::hidden,
@@ -43,14 +43,14 @@ bool isHostAttribute (t_symbol* name) noexcept
                         [name] (SymbolField field) { return symbol (field) == name; });
 }
 
-/** Whether users see the attribute if it holds anything. */
+/** Whether users see the attribute, provided it is not empty. */
 bool isForUsers (void* object, t_symbol* name)
 {
     const MaxAttribute attribute (object, name);
     return attribute.exists() && ! attribute.IsInvisible() && ! attribute.isOpaque() && ! isHostAttribute (name);
 }
 
-/** The number of atoms that were read; a failure is told and counts 0. */
+/** The number of atoms read; a failure is logged and counts as 0. */
 t_clong sizeOf (const AttributeValue& value, void* object, t_symbol* name)
 {
     if (value.error() != MAX_ERR_NONE)

@@ -7,7 +7,7 @@
 namespace orvanemax
 {
 
-/** How a list of attributes is ordered: as the host gives it, by name, or by the property `order`. */
+/** Order of a list of attributes: the host's, by name, or by the property `order`. */
 enum class SortMode
 {
     none = 0,
@@ -17,14 +17,14 @@ enum class SortMode
 
 using AttributeNames = std::vector<t_symbol*>;
 
-/** All attributes of an object. By order: those without one behind all others, equals as they came. Main thread. */
+/** All attributes of an object. Sorting by order is stable; attributes without an order come last. Main thread. */
 [[nodiscard]] AttributeNames attributeNames (void* object, SortMode mode);
 
-/** The same without what users do not see: invisible and opaque ones, those of the host's boxes and parameters, and
-    those that hold nothing. */
+/** As above, without what users do not see: invisible and opaque attributes, those of the host's boxes and parameters,
+    and empty ones. */
 [[nodiscard]] AttributeNames visibleAttributes (void* object, SortMode mode = SortMode::byName);
 
-/** An attribute and what it holds: at least one atom. */
+/** An attribute and its value: at least one atom. */
 struct VisibleValue
 {
     t_symbol* name;
@@ -34,13 +34,13 @@ struct VisibleValue
 /** The visible attributes by name, each read once. */
 [[nodiscard]] std::vector<VisibleValue> visibleValues (void* object);
 
-/** The sum of their atoms. */
+/** The total of their atoms. */
 [[nodiscard]] t_clong numberOfAtoms (const std::vector<VisibleValue>& values) noexcept;
 
-/** How many atoms the attribute holds now; a failure is told and counts 0. */
+/** How many atoms the attribute currently holds; a failure is logged and counts as 0. */
 [[nodiscard]] t_clong GetNumberOfAtomsNeededToStoreAttribute (void* object, t_symbol* name);
 
-/** The sum over a list of attributes. */
+/** The total over a list of attributes. */
 [[nodiscard]] t_clong numberOfAtoms (void* object, const AttributeNames& names);
 
 }

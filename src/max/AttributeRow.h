@@ -4,9 +4,9 @@
 namespace orvanemax
 {
 
-/** One attribute as a class declares it. Rows stand in tables; registration, setters and tests read the same rows.
-    Build one with number(), symbolic(), onOff() and the like, and add what it needs:
-        number (FIELD (gain), "0", "late reverberation gain (dB)").within (-30, 30).ordered (20) */
+/** One attribute of a class. Registration, setters and tests read the same rows.
+    Build one with number(), symbolic(), onOff() and the like, and chain what it needs:
+    number (FIELD (gain), "0", "late reverberation gain (dB)").within (-30, 30).ordered (20) */
 struct AttributeRow
 {
     enum class Filter
@@ -18,31 +18,31 @@ struct AttributeRow
     };
 
     const char* name = nullptr;
-    t_clong offset = 0;                // of its field in the object's record
-    const char* type = nullptr;        // the host's word for it
+    t_clong offset = 0;                // of its field in the object's struct
+    const char* type = nullptr;        // the host's type name
     const char* defaultText = nullptr; // null for none
     const char* label = nullptr;
     const char* style = nullptr;
     t_clong capacity = 0;        // of an array; 0 for a single value
     t_clong countOffset = 0;     // of an array's count field; 0 for a fixed array
-    bool defaultForEach = false; // the default text stands for every element
+    bool defaultForEach = false; // the default text applies to every element
     Filter filter = Filter::none;
-    bool hasBounds = false; // the filter's bounds are properties too
+    bool hasBounds = false; // the filter's bounds are also properties
     double low = 0, high = 0;
     const char* units = nullptr;
-    const char* choices = nullptr; // of an enumeration, split by blanks
+    const char* choices = nullptr; // of an enumeration, separated by blanks
     const char* description = nullptr;
     int order = 0; // 0 for none
     bool canBeReset = true;
 
-    /** Clipped on both sides, and told as minvalue and maxvalue. */
+    /** Clips on both sides, and publishes minvalue and maxvalue. */
     [[nodiscard]] constexpr AttributeRow within (double lowest, double highest) const
     {
         auto row = clipped (lowest, highest);
         row.hasBounds = true;
         return row;
     }
-    /** Clipped, but not told. */
+    /** Clips without publishing the bounds. */
     [[nodiscard]] constexpr AttributeRow clipped (double lowest, double highest) const
     {
         auto row = *this;
@@ -65,14 +65,14 @@ struct AttributeRow
         row.high = highest;
         return row;
     }
-    /** Always that many values. */
+    /** A fixed number of values. */
     [[nodiscard]] constexpr AttributeRow array (t_clong size) const
     {
         auto row = *this;
         row.capacity = size;
         return row;
     }
-    /** As many values as a field of the record says. */
+    /** As many values as a field of the struct says. */
     [[nodiscard]] constexpr AttributeRow list (t_clong size, t_clong offsetOfCount) const
     {
         auto row = array (size);
@@ -118,7 +118,7 @@ struct AttributeRow
     }
 };
 
-/** Where an attribute's value lies: its name, which is its field's name too, and that field's offset. */
+/** Where an attribute is stored: its name, which is also the field's name, and the field's offset. */
 struct AttributeField
 {
     const char* name;

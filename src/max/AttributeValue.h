@@ -6,7 +6,7 @@
 namespace orvanemax
 {
 
-/** The atoms that an attribute of an object, or a property of an attribute, holds at the moment of construction. */
+/** A snapshot of the atoms of an attribute, or of an attribute's property, taken at construction. */
 class AttributeValue
 {
 public:
@@ -32,7 +32,7 @@ public:
 private:
     t_clong count = 0;
     t_atom* storage = nullptr;
-    t_max_err failure; // last: the call that gives it fills the two above
+    t_max_err failure; // last: its initialiser fills the two above
 };
 
 }

@@ -25,7 +25,7 @@ void addText (t_class* c, const char* attribute, const char* property, const cha
         addWord (c, attribute, property, gensym (text));
 }
 
-/** In the user's language. */
+/** Translated into the user's language. */
 void addTranslated (t_class* c, const char* attribute, const char* property, const char* text)
 {
     if (text != nullptr)
@@ -38,7 +38,7 @@ void addParsed (t_class* c, const char* attribute, const char* property, const c
         class_attr_addattr_parse (c, attribute, property, gensym (type), 0, text);
 }
 
-/** Six significant digits at most, with a point whatever the locale. */
+/** At most six significant digits, with a point whatever the locale. */
 std::string shortText (double value)
 {
     std::array<char, 32> text{};
@@ -66,7 +66,7 @@ t_dictionary* dictionaryOf (void* attribute, const char* property)
     return value.atoms().empty() ? nullptr : static_cast<t_dictionary*> (atom_getobj (value.data()));
 }
 
-/** The dictionary of a class, made on first use. */
+/** A class's dictionary, created on first use. */
 t_dictionary* classDictionary (t_class* c, const char* property)
 {
     if (auto* existing = dictionaryOf (class_attr_get (c, gensym ("classdescription")), property))
@@ -88,7 +88,7 @@ void addTexts (t_dictionary* target, const char* key, const std::vector<const ch
     dictionary_appendatoms (target, gensym (key), static_cast<t_clong> (atoms.size()), atoms.data());
 }
 
-/** The description, 0, then pairs of argument name and type. */
+/** Stores the description, 0, then pairs of argument name and type. */
 void document (t_class* c, const MessageRow& row)
 {
     const auto* name = row.documentedName != nullptr ? row.documentedName : row.name;
@@ -152,7 +152,7 @@ void addAttribute (t_class* c, const AttributeRow& row, const char* category, t_
     addText (c, row.name, "description", row.description);
     addParsed (c, row.name, "enumvals", "atom", row.choices);
     addParsed (c, row.name, "dontreset", "long", row.canBeReset ? nullptr : "1");
-    // A patcher keeps the values of such attributes with the box.
+    // A patcher saves such attributes with the box.
     addParsed (c, row.name, "save", "long", "1");
 }
 

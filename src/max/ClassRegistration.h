@@ -16,31 +16,31 @@ struct ArgumentRow
     const char* type = nullptr;
 };
 
-/** One message of a class. The help text is looked up in the catalogue under the documented name when none is given;
-    a message without either is left out of the reference page. */
+/** One message of a class. Without a help text, the catalogue's text for the documented name applies; a message without
+    either is omitted from the reference page. */
 struct MessageRow
 {
     const char* name;
     HostFunction function;
-    int pattern; // A_GIMME, A_SYM, A_CANT, or A_NOTHING for none
+    int pattern; // A_GIMME, A_SYM, A_CANT, or A_NOTHING for no arguments
     const char* help = nullptr;
     ArgumentRow arguments[3] = {};
-    const char* documentedName = nullptr; // where it differs
+    const char* documentedName = nullptr; // if it differs
 };
 
-/** Registers messages in order, with their documentation. A message that fails is posted, and the rest goes on.
-    The documentation lies in the dictionary `methods`, a property of the attribute `classdescription`. */
+/** Registers messages and their documentation, in order. A failure is posted and the rest continues. The documentation
+    goes into the dictionary `methods`, a property of the attribute `classdescription`. */
 void addMessages (t_class* c, Rows<MessageRow> rows);
 
-/** The four attributes that name the class: digest, description, see-also list and version, kept as their labels. Comes
-    before addMessages. */
+/** The four attributes that describe the class: digest, description, see-also list and version, stored as their labels.
+    Call before addMessages. */
 struct DocumentationFields
 {
-    t_clong description, digest, version, seeAlso; // offsets in the record
+    t_clong description, digest, version, seeAlso; // offsets in the struct
 };
 void addDocumentationAttributes (t_class* c, const char* className, const char* version, const DocumentationFields&);
 
-/** What an inlet or outlet is called and for, in the lists `inlets` and `outlets` of `classdescription`. */
+/** Name and purpose of an inlet or outlet, for the lists `inlets` and `outlets` of `classdescription`. */
 struct PortRow
 {
     const char* name;
@@ -48,14 +48,14 @@ struct PortRow
 };
 void addPortDocumentation (t_class* c, const char* list, std::initializer_list<PortRow> ports);
 
-/** Registers an attribute with its accessors (null for the host's own), filter and properties, but not its order. */
+/** Registers an attribute with its accessors (null for the host's own), filter and properties, except its order. */
 void addAttribute (t_class* c, const AttributeRow& row, const char* category, t_clong flags, HostFunction get,
                    HostFunction set);
 
-/** Gives an attribute its place, which comes behind all other properties. */
+/** Sets an attribute's order, which must follow all other properties. */
 void addOrder (t_class* c, const char* name, int order);
 
-/** The whole text of a default: that of one element as often as the attribute holds it. */
+/** The full default text: one element's default, repeated for each element. */
 [[nodiscard]] std::string defaultTextOf (const AttributeRow& row);
 
 /** The dictionary under a property of `classdescription`; null if there is none. Borrowed. */

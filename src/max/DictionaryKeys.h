@@ -4,7 +4,7 @@
 namespace orvanemax
 {
 
-/** The keys of a dictionary, given back at the end of the scope. */
+/** A dictionary's keys, freed at the end of the scope. */
 class DictionaryKeys
 {
 public:
@@ -36,7 +36,7 @@ private:
     t_dictionary* dictionary;
     t_clong count = 0;
     t_symbol** keys = nullptr;
-    t_max_err failure; // last: the call that gives it fills the two above
+    t_max_err failure; // last: its initialiser fills the two above
 };
 
 }

@@ -49,7 +49,7 @@ void sendDictionary (void* object, OwnedDictionary& dictionary)
     t_atom atom{};
     atom_setsym (&atom, name);
     outlet_anything (outlet, gensym ("dictionary"), 1, &atom);
-    dictionary_clear (dictionary.get()); // receivers have copied what they want
+    dictionary_clear (dictionary.get()); // receivers have copied what they need
 }
 
 void setFromArray (Recall& recall, t_symbol* key, void* array)
@@ -68,7 +68,7 @@ void setFromEntry (void* object, Recall& recall, const t_dictionary* dictionary,
         (atom_gettype (&atom) == A_OBJ && ! atomisatomarray (&atom)))
         return tellError (object, std::string ("entry ") + key->s_name + " is not atom ? ");
     if (object_attr_usercanset (object, key) == 0)
-        return; // dictionaries may hold more than attributes, and documentation is for reading
+        return; // the dictionary may hold more than attributes, and documentation is read-only
     if (atom_gettype (&atom) == A_OBJ)
         setFromArray (recall, key, atom_getobj (&atom));
     else

@@ -3,29 +3,29 @@
 
 #include <initializer_list>
 
-/** Attributes in dictionaries: what a box is created from, and the messages that send and read them. Main thread. */
+/** Attributes in dictionaries: the state a box is created from, and the messages that send and read it. Main thread. */
 namespace orvanemax
 {
 
-/** Sets everything that the dictionary of a box holds; with check, tells of `@` words that are no attributes. False,
-    and told, when there is no dictionary. */
+/** Sets all attributes in a box's dictionary; with check, logs `@` words that are not attributes. Returns false, and
+    logs, if there is no dictionary. */
 bool processDictionary (void* object, t_clong argc, t_atom* argv, bool check);
 
-/** Sets the named entries alone. All are tried; false, and told, if one is missing. */
+/** Sets only the named entries. Tries all; returns false, and logs, if one is missing. */
 bool processEntries (void* object, t_clong argc, t_atom* argv, std::initializer_list<const char*> names);
 
 }
 
-/** `dumpdict` sends a dictionary of all visible attributes, `dumpdict NAME ...` one of the named ones. */
+/** `dumpdict` sends a dictionary of all visible attributes, `dumpdict NAME ...` one of those named. */
 void orvanemax_dumpdict (void* x, t_symbol* selector, t_clong argc, t_atom* argv);
 
-/** `dictionary NAME` sets the attributes that a registered dictionary holds. */
+/** `dictionary NAME` sets the attributes in a registered dictionary. */
 void orvanemax_dictionary (void* x, t_symbol* name);
 
 namespace orvanemax
 {
 
-/** A dictionary of ours, freed at the end of its scope. */
+/** Owns a dictionary and frees it at the end of its scope. */
 class OwnedDictionary
 {
 public:
@@ -35,7 +35,7 @@ public:
     OwnedDictionary& operator= (const OwnedDictionary&) = delete;
 
     [[nodiscard]] t_dictionary* get() const noexcept { return dictionary; }
-    /** Under a name of its own, for receivers; the result is what the host registered. */
+    /** Registers it under a unique name, then set to the host's own; returns success. */
     bool registerUnderUniqueName (t_symbol*& name) noexcept
     {
         name = symbol_unique();
@@ -47,7 +47,7 @@ private:
     t_dictionary* dictionary;
 };
 
-/** Adds an attribute's value under its name; one that holds nothing is left out. Failures are told. */
+/** Adds an attribute's value under its name; empty ones are skipped. Failures are logged. */
 void appendAttributeToDictionary (void* object, t_symbol* name, t_dictionary* target);
 
 }

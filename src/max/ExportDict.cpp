@@ -18,7 +18,7 @@ namespace
 
 constexpr t_fourcc jsonType = 0x4A534F4E;
 
-/** What would end or break the text between two quotation marks is escaped. */
+/** Escapes characters that would end or break a quoted string. */
 std::string quoted (const char* text)
 {
     constexpr auto* digits = "0123456789abcdef";
@@ -47,7 +47,7 @@ std::string valueText (const t_atom& atom)
     }
 }
 
-/** In brackets, the last number has a blank of its own before the one that belongs to the bracket. */
+/** In brackets, the last number gets a blank of its own before the bracket's. */
 std::string valueText (Atoms atoms)
 {
     if (atoms.size() == 1)

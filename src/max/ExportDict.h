@@ -9,7 +9,7 @@ void orvanemax_exportdict (void* x, t_symbol* selector, t_clong argc, t_atom* ar
 namespace orvanemax
 {
 
-/** A dictionary as JSON, one key a line, in the order in which the keys were added. Problems are told. */
+/** Writes a dictionary as JSON, one key per line, in insertion order. Logs problems. */
 void writeJson (void* object, t_dictionary* dictionary, std::ostream& out);
 
 }

@@ -7,10 +7,10 @@ namespace orvanemax
 namespace
 {
 
-/** The dialogs take at least MAX_FILENAME_CHARS; more is safer. */
+/** The dialogs need at least MAX_FILENAME_CHARS; more is safer. */
 using NameBuffer = std::array<char, MAX_PATH_CHARS>;
 
-/** The whole path of something that need not exist yet. */
+/** The full path of a file that may not exist yet. */
 std::string pathOf (short folder, const NameBuffer& name)
 {
     NameBuffer path{};

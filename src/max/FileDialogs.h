@@ -6,13 +6,13 @@
 namespace orvanemax
 {
 
-/** Asks for a file to read; empty when the dialog was cancelled. Main thread, like the one below. */
+/** Asks for a file to read; empty if the dialog was cancelled. Main thread, as below. */
 [[nodiscard]] std::string askForFileToOpen();
 
-/** Asks for a file to write, with a name to begin with. */
+/** Asks for a file to write, with a suggested name. */
 [[nodiscard]] std::string askForFileToSave (const char* defaultName, t_fourcc type);
 
-/** Finds a file along the host's search path; empty if there is none of that name. */
+/** Searches the host's search path for a file; empty if it is not found. */
 [[nodiscard]] std::string locateFile (const char* name);
 
 }

@@ -6,12 +6,12 @@
 namespace orvanemax
 {
 
-/** To be called while an exception is handled: reports it through the object ("TEXT", "out of memory : TEXT" or
-    "unknown exception"), or through none if the object is gone. */
+/** Call inside a catch block: reports the exception through the object ("TEXT", "out of memory : TEXT" or
+    "unknown exception"), or without one if the object is gone. */
 void reportException (void* object) noexcept;
 
-/** Runs a body for the object as a call under way; nothing that it throws goes further. What the body had not done yet
-    stays undone. HostFunction is the same for whole functions. */
+/** Runs a body as a call in progress on the object, and catches whatever it throws; the rest of the body is skipped.
+    HostFunction does the same for whole functions. */
 template <typename Body>
 void guarded (void* object, Body&& body) noexcept
 {

@@ -10,9 +10,8 @@ namespace orvanemax
 template <auto function>
 struct HostEntry;
 
-/** What stands between the host and a function of ours, whose first argument is the object: the call is known as one
-    under way in the object (see ObjectCall), and nothing that is thrown reaches the host. A setter or getter that
-    throws answers MAX_ERR_GENERIC. */
+/** Wraps a function of ours, whose first argument is the object, for the host: registers the call as in progress (see
+    ObjectCall) and lets no exception reach the host. A setter or getter that throws returns MAX_ERR_GENERIC. */
 template <typename Result, typename Object, typename... Rest, Result (*function) (Object*, Rest...)>
 struct HostEntry<function>
 {
@@ -29,7 +28,7 @@ struct HostEntry<function>
     }
 };
 
-/** The same for what makes an object, null when it throws. */
+/** The same for constructors; returns null on an exception. */
 template <void* (*function) (t_symbol*, t_clong, t_atom*)>
 struct HostConstructor
 {
@@ -44,7 +43,7 @@ struct HostConstructor
     }
 };
 
-/** The same for what frees one: no call of the object, but the end of all. */
+/** The same for destructors: ends the object instead of registering a call. */
 template <auto function>
 struct HostDestructor;
 
@@ -61,9 +60,8 @@ struct HostDestructor<function>
     }
 };
 
-/** A function as it is handed to the host: there is no way to one but hostFunction() and its
-    kin, and so none without a guard. An
-    empty one leaves the work to the host. */
+/** A function in the form the host takes. Only hostFunction() and its variants make one, so none is unguarded. An empty
+    one leaves the work to the host. */
 class HostFunction
 {
 public:

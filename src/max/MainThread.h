@@ -7,15 +7,15 @@
 namespace orvanemax
 {
 
-/** The host counts the atoms of a deferred call in 16 bits; a longer list loses its end. */
+/** The host counts a deferred call's atoms in 16 bits; longer lists are truncated. */
 [[nodiscard]] inline short deferrable (t_clong argc) noexcept
 {
     return static_cast<short> (std::clamp<t_clong> (argc, 0, std::numeric_limits<short>::max()));
 }
 
-/** Runs a deferred function on the main thread with a copy of the atoms: from the main thread by defer_medium, which
-    may run it at once or later. From any other it goes to the end of the queue; there defer_medium does the same only
-    for the scheduler's thread, so threads of other owners need defer_low. */
+/** Runs a function on the main thread with a copy of the atoms: from the main thread by defer_medium, which may run it
+    now or later; from any other thread at the end of the queue. defer_medium would queue only for the scheduler thread,
+    so other threads need defer_low. */
 inline void runOnMainThread (void* object, HostFunction function, t_symbol* selector, t_clong argc, const t_atom* argv)
 {
     auto* atoms = const_cast<t_atom*> (argv); // the host copies them
@@ -25,10 +25,10 @@ inline void runOnMainThread (void* object, HostFunction function, t_symbol* sele
         defer_low (object, function, selector, deferrable (argc), atoms);
 }
 
-/** A message's handler, called on the main thread alone. */
+/** A message handler that runs only on the main thread. */
 using Handler = void (*) (void* object, t_symbol* selector, t_clong argc, t_atom* argv);
 
-/** A handler in the form of a deferred call. */
+/** A handler with a deferred call's signature. */
 template <Handler handler>
 void deferredHandler (void* object, t_symbol* selector, short argc, t_atom* argv)
 {
@@ -40,8 +40,8 @@ void deferredBareHandler (void* object, t_symbol*, short, t_atom*)
     handler (object);
 }
 
-/** What is registered for a handler that touches the component, an outlet or a dialog: a message from another thread
-    posts itself to the main thread, where one that came from there runs at once. */
+/** Register this for a handler that touches the component, an outlet or a dialog: runs at once on the main thread, and
+    is deferred to it from any other. */
 template <Handler handler>
 void mainThreadEntry (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
 {
@@ -51,14 +51,14 @@ void mainThreadEntry (void* object, t_symbol* selector, t_clong argc, t_atom* ar
         defer_low (object, hostFunction<deferredHandler<handler>>(), selector, deferrable (argc), argv);
 }
 
-/** What is registered for a handler that always does its work behind the queue. */
+/** Register this for a handler that must always be queued. */
 template <Handler handler>
 void queuedEntry (void* object, t_symbol* selector, t_clong argc, t_atom* argv)
 {
     runOnMainThread (object, hostFunction<deferredHandler<handler>>(), selector, argc, argv);
 }
 
-/** The same two for a message that takes no arguments. */
+/** Both, for a message without arguments. */
 template <void (*handler) (void* object)>
 void mainThreadEntry (void* object)
 {

@@ -20,8 +20,8 @@ enum class Flag
     isOther
 };
 
-/** A property that is 1 or not. A Max error counts as one only if atoms came with it: hosts differ on whether a
-    missing property is an error. */
+/** Whether a property is 1. A Max error counts only if atoms came with it: hosts differ on whether a missing property
+    is an error. */
 Flag readFlag (t_object* attribute, t_symbol* property, const char* failure)
 {
     const AttributeValue value (attribute, property);

@@ -3,12 +3,12 @@
 #include "math/OrvaneDspVector.h"
 #include "text/OrvaneDspString.h"
 
-/** An attribute as its properties tell it. A property that is missing is no error: each reader has its answer for it.
-    Other failures are told in the Max window. Main thread. */
+/** An attribute seen through its properties. A missing property is no error: each reader has a default for it. Other
+    failures are logged to the Max console. Main thread. */
 class MaxAttribute
 {
 public:
-    /** The attribute of an object, or a class. */
+    /** For an attribute of an object or a class. */
     MaxAttribute (void* object, t_symbol* name) noexcept;
     explicit MaxAttribute (t_object* existing) noexcept : attribute (existing) {}
 
@@ -18,20 +18,20 @@ public:
     [[nodiscard]] t_clong flags() const noexcept;
 
     [[nodiscard]] bool hasOrder() const noexcept;
-    /** 0 when it has none. */
+    /** 0 if it has none. */
     [[nodiscard]] t_atom_long GetOrder() const;
-    /** The choices of an enumeration; the fallback alone when there are none. */
+    /** The choices of an enumeration; only the fallback if there are none. */
     [[nodiscard]] qel::Vector<qel::String> GetEnumChoices (const qel::String& fallback) const;
-    /** A property's atoms as text; the fallback when it holds none. */
+    /** A property's atoms as text; the fallback if it is empty. */
     [[nodiscard]] qel::String GetValueOf (t_symbol* property, const qel::String& fallback = {}) const;
     [[nodiscard]] qel::String label (const qel::String& fallback = {}) const;
     [[nodiscard]] qel::String description (const qel::String& fallback = {}) const;
     [[nodiscard]] bool IsInvisible() const;
-    /** False for one that a reset leaves alone. */
+    /** False if a reset must not change it. */
     [[nodiscard]] bool CanBeReset() const;
-    /** The attribute as the host has it; its properties are attributes of this object. */
+    /** The host's attribute object; its properties are attributes of this object. */
     [[nodiscard]] t_object* object() const noexcept { return attribute; }
-    /** Neither messages nor the inspector may read or set it. */
+    /** Whether messages and the inspector cannot access it. */
     [[nodiscard]] bool isOpaque() const noexcept;
 
 private:

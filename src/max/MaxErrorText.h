@@ -4,7 +4,7 @@
 namespace orvanemax
 {
 
-/** The name of a code of the host. */
+/** The name of a host error code. */
 [[nodiscard]] constexpr const char* errorText (t_max_err error) noexcept
 {
     switch (error) {

@@ -11,12 +11,12 @@ using orvanemax::hostFunction;
 namespace
 {
 
-// What the decoration of a window takes beside the component. The client area of a Windows window still comes out
-// a few pixels smaller than the component.
+// What a window's decoration adds to the component's size. The client area of a Windows window still ends up a few
+// pixels smaller than the component.
 constexpr int decorationWidth = 5;
 constexpr int decorationHeight = 22;
 
-/** Truncates towards zero; what no integer can hold ends at the nearest, and not-a-number at 0. */
+/** Truncates towards zero; clamps to the range of int, and NaN becomes 0. */
 int pixels (float value)
 {
     using Limits = std::numeric_limits<int>;
@@ -25,7 +25,7 @@ int pixels (float value)
     return static_cast<int> (std::clamp<double> (value, Limits::min(), Limits::max()));
 }
 
-/** The frame itself if any of it would be seen, else moved onto the main screen: the screen that it was kept for may be
+/** The frame itself if any of it is visible, otherwise moved onto the main screen: the screen it was stored for may be
     gone. */
 juce::Rectangle<int> onAScreen (juce::Rectangle<int> frame)
 {
@@ -37,7 +37,7 @@ juce::Rectangle<int> onAScreen (juce::Rectangle<int> frame)
     return main == nullptr ? frame : frame.constrainedWithin (displays.logicalToPhysical (main->userArea));
 }
 
-/** The manager that a deferred call carries as its first atom; an error in the Max window if there is none. */
+/** The manager in the first atom of a deferred call; logs an error to the Max console if there is none. */
 MaxMspJuceWindowManager* managerIn (t_object* owner, short argc, t_atom* argv)
 {
     auto* manager = argc > 0 && argv != nullptr ? static_cast<MaxMspJuceWindowManager*> (atom_getobj (argv)) : nullptr;
@@ -135,7 +135,7 @@ void MaxMspJuceWindowManager::changeWindowTopLeftPoint_deferred (t_object* owner
         object_bug (owner, "invalid number of arguments in changeWindowTopLeftPoint_deferred : %d", argc);
         return;
     }
-    // A position takes effect when the next window is made: the one on the screen is never moved.
+    // A position applies to the next window; the open one is never moved.
     managerIn (owner, argc, argv);
 }
 
@@ -160,7 +160,7 @@ void MaxMspJuceWindowManager::close_deferred (t_object* owner, t_symbol*, short 
 
 void MaxMspJuceWindowManager::refreshPosition() noexcept
 {
-    // The platform does not tell where its window stands, so a later window starts in the corner.
+    // The platform does not report the window's position, so a later window opens in the corner.
     top = 0;
     left = 0;
 }
@@ -194,21 +194,21 @@ void MaxMspJuceWindowManager::build (bool show)
     component->setVisible (show);
     component->toFront (true);
 
-    // Once more, so that a heavyweight peer takes the size of the client area.
+    // Again, so that a heavyweight peer takes the size of the client area.
     takeOut();
     component->setSize (area.getWidth(), area.getHeight());
     window->attach (component);
     component->setBounds (area);
     component->setVisible (show);
 
-    // The focus went when the component was taken out: keys work from the first moment, without a click.
+    // Taking the component out removed the focus: keys must work at once, without a click.
     if (component->isShowing())
         component->grabKeyboardFocus();
 }
 
 void MaxMspJuceWindowManager::takeOut()
 {
-    component->setVisible (false); // while it has its peer, in which an OpenGL context has its listener
+    component->setVisible (false); // before its peer goes: an OpenGL context has its listener there
     window->attach (nullptr);
 }
 

@@ -7,25 +7,24 @@
 
 /** Shows a component in a floating window inside the Max process.
 
-    The window is made by the first open() and only hidden by close(). Everything that touches it is put
-    behind defer(), so that it runs after the caller has left. All calls on the main thread; lengths are
-    physical pixels of the screen. */
+    The first open() creates the window, close() only hides it. Whatever touches the window is deferred, so that it runs
+    after the caller has returned. Main thread; lengths are in physical screen pixels. */
 class MaxMspJuceWindowManager
 {
 public:
-    /** Neither the owner nor the component is owned. The flag is for the window factory, which ignores it. */
+    /** Owns neither the owner nor the component. The flag goes to the window factory, which ignores it. */
     MaxMspJuceWindowManager (t_object* owner, juce::Component* component, bool flag);
 
-    /** Ends the window at once, without defer: the owner goes with it. */
+    /** Destroys the window at once, not deferred: its owner is being freed. */
     ~MaxMspJuceWindowManager();
 
     MaxMspJuceWindowManager (const MaxMspJuceWindowManager&) = delete;
     MaxMspJuceWindowManager& operator= (const MaxMspJuceWindowManager&) = delete;
 
-    /** Hides the window and knows the owner no more: it goes before this manager does. Nothing but the end follows. */
+    /** Hides the window and forgets the owner, which is freed before this manager. Call nothing else after it. */
     void leaveOwner();
 
-    /** Where the next new window will appear; an open one stays. Warns when the window is not moveable. */
+    /** Position for the next new window; an open one stays. Warns if the window is not moveable. */
     void setTopLeft (int newTop, int newLeft);
     void setTopLeft (const float (&topLeft)[2]);
 
@@ -33,7 +32,7 @@ public:
     void setMoveable (bool isMoveable) noexcept;
     void setTitle (const char* text);
 
-    /** Makes the window or brings it to the front; without show it stays empty. */
+    /** Creates the window or brings it to the front; without show it stays empty. */
     void open (bool show);
     void close();
 

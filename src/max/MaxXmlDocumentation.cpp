@@ -21,7 +21,7 @@ constexpr auto* author = "The halcyra developers";
 constexpr auto* copyright =
     "Copyright (c) 2026 the halcyra developers. Free software under the GPL, version 3 or later.";
 
-/** Calls back for each entry of a documentation list, with its key and its atoms. */
+/** Calls use for each entry of a documentation list, with its key and atoms. */
 template <typename Use>
 void forEachEntry (void* object, const char* list, const char* operation, Use&& use)
 {
@@ -75,7 +75,7 @@ void addArguments (XmlPage& page, void* object)
     });
 }
 
-/** The host's type by the page's word for it. */
+/** The page's word for a host type. */
 const char* typeWord (const t_symbol* type)
 {
     const std::string name = type == nullptr ? "" : type->s_name;
@@ -140,7 +140,7 @@ void addAttributes (XmlPage& page, void* object, SortMode mode)
     page.close ("attributelist");
 }
 
-/** Atoms of a message: its description, 0, then pairs of argument name and type. */
+/** The atoms of a message: its description, 0, then pairs of argument name and type. */
 void addMethods (XmlPage& page, void* object)
 {
     page.line ("<!--MESSAGES-->");
@@ -169,7 +169,7 @@ std::string withClassNameMarked (std::string text, const std::string& className)
     return text;
 }
 
-/** Names split by commas or blanks. */
+/** Names separated by commas or blanks. */
 void addSeeAlso (XmlPage& page, const std::string& names)
 {
     page.line ("<!--SEEALSO-->");

@@ -4,12 +4,12 @@
 
 #include <string>
 
-/** Writes an object's reference page, in the host's .maxref.xml form, from what its class knows about itself: the
-    documentation attributes, the dictionaries under `classdescription`, and the attributes' properties. Main thread. */
+/** Generates an object's reference page, in the host's .maxref.xml format, from its class: the documentation
+    attributes, the dictionaries under `classdescription`, and the attributes' properties. Main thread. */
 class MaxXmlDocumentation
 {
 public:
-    /** The object is not owned. */
+    /** Does not own the object. */
     MaxXmlDocumentation (void* object, const char* stylesheet, orvanemax::SortMode sortMode);
 
     /** The whole page as text. */
@@ -23,5 +23,5 @@ private:
     orvanemax::SortMode sortMode;
 };
 
-/** Writes the page into the current folder, named by the class, and tells where it is. */
+/** Writes the page, named after the class, into the current folder and logs its path. */
 void orvanemax_generatexml (void* x);

@@ -5,8 +5,8 @@
 namespace orvanemax
 {
 
-/** The last act of whatever changes an object's state: tells those who keep it, such as pattr. An object that was freed
-    by what spoke before has nobody to tell. Main thread. */
+/** Call last after changing an object's state: notifies clients that store it, such as pattr. Does nothing if earlier
+    output has freed the object. Main thread. */
 inline void notifyModified (void* object)
 {
     if (! objectIsGone())

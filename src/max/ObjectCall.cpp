@@ -13,7 +13,7 @@ namespace
 thread_local ObjectCall* innermost = nullptr;
 thread_local bool partsWait = false;
 
-/** What is destroyed when all calls have returned. Main thread. */
+/** Parts to destroy once all calls have returned. Main thread. */
 std::vector<std::function<void()>>& waitingParts()
 {
     static std::vector<std::function<void()>> parts;
@@ -23,7 +23,7 @@ std::vector<std::function<void()>>& waitingParts()
 void destroyWaitingParts()
 {
     if (innermost != nullptr) {
-        partsWait = true; // a message loop inside a call, at whose end it comes here again
+        partsWait = true; // inside a call's nested message loop; retried when that call ends
         return;
     }
     for (const auto& destroy : std::exchange (waitingParts(), {}))

@@ -1,23 +1,22 @@
 #pragma once
 #include <functional>
 
-/** How an object outlives its own callbacks.
+/** How an object survives its own callbacks.
 
-    A patch may delete a box while the box speaks: during a call of an outlet or a notification, and so in the middle of
-    whatever made it speak, a method, a setter, a deferred call, or a hand on the window. The host takes the record back
-    at once. So:
+    A patch may delete a box while the box is sending: during an outlet call or a notification, and therefore in the
+    middle of the method, setter, deferred call or window event that caused it. The host frees the struct at once. So:
 
-    - Every function that the host calls makes an ObjectCall first (HostFunction does), and so does every callback of
-      the component that can make the object speak.
-    - The function that frees the object calls objectGoes() with what these calls may still stand in: the component and
+    - Every function that the host calls first constructs an ObjectCall (HostFunction does so), and so does every
+      callback of the component that can make the object send.
+    - The function that frees the object calls objectGoes() with what these calls may still be using: the component and
       its window.
-    - What spoke asks objectIsGone() before it touches the record again.
+    - After sending, check objectIsGone() before touching the struct again.
 
-    Calls know each other by thread: objects are freed on the main thread, where all of them speak. */
+    Calls find each other per thread: objects are freed on the main thread, and all sending happens there. */
 namespace orvanemax
 {
 
-/** One call under way in an object, from its construction to its destruction; calls nest. */
+/** One call in progress on an object, from construction to destruction; calls nest. */
 class ObjectCall
 {
 public:
@@ -36,11 +35,11 @@ private:
     ObjectCall* outer;
 };
 
-/** True if the object of this thread's innermost call was freed since the call began: its record is not there. */
+/** True if the object of this thread's innermost call was freed since the call began: its struct is invalid. */
 [[nodiscard]] bool objectIsGone() noexcept;
 
-/** Ends the calls that are under way in the object, and destroys its parts: at once if there are none, else on a later
-    turn of JUCE's message loop, when the outermost call of all objects has returned. Main thread. */
+/** Marks the object as gone for its calls in progress, and destroys its parts: at once if there are none, otherwise on
+    a later turn of JUCE's message loop, once the outermost call of all objects has returned. Main thread. */
 void objectGoes (const void* object, std::function<void()> destroyParts);
 
 }

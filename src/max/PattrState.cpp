@@ -16,7 +16,7 @@ namespace orvanemax
 namespace
 {
 
-/** The values of the attributes one behind the other. */
+/** The attributes' values, concatenated. */
 std::vector<t_atom> collect (void* object, const std::vector<VisibleValue>& attributes)
 {
     std::vector<t_atom> values;
@@ -30,7 +30,7 @@ std::vector<t_atom> collect (void* object, const std::vector<VisibleValue>& attr
     return values;
 }
 
-/** Hands the values over in new memory, or in the caller's, whose size nobody knows. */
+/** Returns the values in new memory, or in the caller's, whose capacity is unknown. */
 bool handOver (void* object, const std::vector<t_atom>& values, t_clong* ac, t_atom** av)
 {
     const auto bytes = values.size() * sizeof (t_atom);
@@ -56,7 +56,7 @@ void setOne (void* object, Recall& recall, t_symbol* name, const t_atom* first, 
         tellError (object, std::string (errorText (error)) + " in object_attr_setvalueof " + name->s_name);
 }
 
-/** An attribute's size is asked when its turn comes: those before it may have changed it. */
+/** Reads an attribute's size only when its turn comes: setting those before may change it. */
 void setAll (void* object, const AttributeNames& names, const t_atom* values, t_clong count)
 {
     Recall recall (object, names);

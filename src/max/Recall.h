@@ -8,23 +8,23 @@
 namespace orvanemax
 {
 
-/** An attribute that is recalled behind all others: it bends or refuses another one, or is bent by one. */
+/** An attribute to recall after all others, because it modifies or rejects another one, or is modified by one. */
 struct LateAttribute
 {
     const char* name;
-    std::optional<t_atom_long> lifted; // what lets the other one through, where it is in the way
-    const char* refuses = nullptr;     // that other one
+    std::optional<t_atom_long> lifted; // lets the other one through, where this one blocks it
+    const char* refuses = nullptr;     // the one it rejects
 };
 
-/** Names the class's late attributes, in the order in which they are set. At registration; the rows must last. */
+/** Registers the class's late attributes in the order in which to set them. At registration; the rows must persist. */
 void setLateAttributes (Rows<LateAttribute> rows) noexcept;
 
-/** Sets many attributes of an object as one: what stands in the way of one is lifted first, and set last to its own
-    recalled value or, if none comes, to the one that stood before. Main thread. */
+/** Sets many attributes of an object as one: lifts what blocks another one first, and sets it last to its recalled
+    value or, if there is none, to its previous one. Main thread. */
 class Recall
 {
 public:
-    /** The names are those that will be set. */
+    /** Takes the names that will be set. */
     Recall (void* object, const std::vector<t_symbol*>& names);
     ~Recall();
 

@@ -4,8 +4,7 @@
 namespace orvanemax
 {
 
-/** A table of rows that lives as long as the process: behaviour that comes in rows is written in one, and walked by
-    whoever registers, dispatches, documents or tests it. */
+/** A static table of rows, read by registration, dispatch, documentation and tests. */
 template <typename Row>
 class Rows
 {

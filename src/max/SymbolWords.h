@@ -1,7 +1,7 @@
 #pragma once
 
-/** The words of the family's symbol table, in the order of its fields. W (word) is a field named as its word;
-    AS (field, text) one whose word is no identifier. New words are added at the end alone. */
+/** The words of the family's symbol table, in field order. W (word) is a field named like its word; AS (field, text) is
+    one whose word is not an identifier. Append new words at the end only. */
 // clang-format off
 #define ORVANEMAX_SYMBOL_WORDS(W, AS) \
     W(active) W(add) W(air) W(annotation) W(anchor) W(angular) W(aperture) W(append) W(area) W(areas) \

@@ -35,7 +35,7 @@ std::string escaped (const std::string& text)
             break;
         default:
             if (byte >= 0x20 || c == '\t' || c == '\n')
-                out += c; // the other control characters have no form in XML
+                out += c; // other control characters cannot be represented in XML
         }
     }
     return out;

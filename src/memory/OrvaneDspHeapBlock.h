@@ -4,15 +4,15 @@
 namespace qel
 {
 
-/** Owned raw bytes on aligned storage, with their count. Copying copies the bytes; empty means a null pointer and a
-    count of 0. Growth is guarded, and one that fails leaves the block as it was. */
+/** Owns a block of raw bytes on aligned storage. Copying copies the bytes; an empty block is null with a count of 0.
+    Growth is guarded; if it fails the block is unchanged. */
 class HeapBlock
 {
 public:
     HeapBlock() = default;
-    /** Bytes of value 0. */
+    /** Zero-filled bytes. */
     explicit HeapBlock (std::size_t bytes);
-    /** A copy of bytes that lie elsewhere. */
+    /** Copies bytes from elsewhere. */
     HeapBlock (const void* source, std::size_t bytes);
     HeapBlock (const HeapBlock& other);
     HeapBlock (HeapBlock&& other) noexcept;

@@ -28,7 +28,7 @@ void MemoryOutput::writeRepeated (char byte, std::size_t count)
 
 void MemoryOutput::setPosition (std::size_t position) noexcept { writePosition = std::min (position, highWater); }
 
-/** Where the next count bytes go; the position is behind them already. */
+/** Returns where to write the next count bytes, and moves the position past them. */
 std::byte* MemoryOutput::makeRoomFor (std::size_t count)
 {
     constexpr std::size_t slack = 32, mostAhead = 1048576;

@@ -5,8 +5,8 @@
 namespace qel
 {
 
-/** A growing sink of bytes. Writing goes on at a position that may be set back; the size is the highest position
-    that was ever written. Growth is guarded. */
+/** A growing byte buffer to write to, at a position that can be moved back; the size is the highest position ever
+    written. Growth is guarded. */
 class MemoryOutput
 {
 public:
@@ -40,9 +40,9 @@ public:
     [[nodiscard]] std::size_t position() const noexcept { return writePosition; }
     [[nodiscard]] String toString() const { return { std::string (data(), size()) }; }
 
-    /** Limited to the size. */
+    /** Clamped to the size. */
     void setPosition (std::size_t position) noexcept;
-    /** Forgets what was written and keeps the storage. */
+    /** Discards the contents but keeps the storage. */
     void reset() noexcept { writePosition = highWater = 0; }
 
 private:

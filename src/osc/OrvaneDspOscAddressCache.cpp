@@ -12,7 +12,7 @@ namespace
 constexpr std::size_t firstNumBuckets = 8;
 constexpr std::size_t fastGrowthLimit = 512;
 
-/** FNV-1a in 64 bits. */
+/** 64-bit FNV-1a. */
 std::uint64_t hash (const String& text) noexcept
 {
     std::uint64_t result = 0xcbf29ce484222325;
@@ -57,7 +57,7 @@ OscAddressCache::Bucket& OscAddressCache::bucketOf (const String& text) noexcept
     return buckets[hash (text) % buckets.size()];
 }
 
-/** Moves a node from a list, which may be the table's own, to its bucket's end. */
+/** Moves a node from a list, possibly the table's own, to the end of its bucket. */
 void OscAddressCache::putIn (Nodes& from, Nodes::iterator node)
 {
     auto& bucket = bucketOf (node->text);

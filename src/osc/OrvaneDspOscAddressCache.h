@@ -7,19 +7,18 @@
 namespace qel
 {
 
-/** Parsed pattern addresses by their text: a hash table that never forgets, so that a handler's fixed addresses cost
-    one hash a comparison. It grows with each new text that it is asked for, and is meant for texts of programs, not
-    of users. Message thread only. */
+/** Caches parsed pattern addresses by their text, so that comparing with a handler's fixed addresses costs one hash.
+    Entries are never evicted, so look up only texts fixed in the program, never user input. Message thread only. */
 class OscAddressCache
 {
 public:
     OscAddressCache();
 
-    /** The one of the process. */
+    /** The process-wide cache. */
     static OscAddressCache& shared();
 
-    /** The address parsed from a text, on its first use. It stays where it is for good.
-        Raises what the address raises, and then keeps nothing. */
+    /** Returns the address for a text, parsed on first use; the reference stays valid for the life of the cache.
+        Throws as the address does, and then stores nothing. */
     [[nodiscard]] const OscAddress& find (const String& text);
 
     [[nodiscard]] std::size_t size() const noexcept { return nodes.size(); }
@@ -33,7 +32,7 @@ private:
     };
     using Nodes = std::list<Node>;
 
-    /** The nodes of a bucket stand side by side in the list; with none, both ends are the list's end. */
+    /** The nodes of a bucket are adjacent in the list; for an empty bucket both ends are the list's end. */
     struct Bucket
     {
         Nodes::iterator first, last;

@@ -25,7 +25,7 @@ constexpr SignatureLetter signatureLetters[] = {
 
 char OSCArgument::tag() const noexcept
 {
-    constexpr char letters[] = "NIihfd?sb"; // by the variant's alternatives; a bool has two letters
+    constexpr char letters[] = "NIihfd?sb"; // indexed by the variant's alternatives; bool has two letters
     static_assert (sizeof (letters) == std::variant_size_v<decltype (value)> + 1);
     if (const auto* truth = std::get_if<bool> (&value))
         return *truth ? 'T' : 'F';

@@ -8,8 +8,8 @@
 namespace qel
 {
 
-/** One typed value of a message. Its tag is a letter:
-    i, h  32-bit and 64-bit integer     f, d  32-bit and 64-bit float     s  text     b  blob
+/** One typed value of a message. The type tags:
+    i, h  32-bit and 64-bit integer     f, d  32-bit and 64-bit float     s  string     b  blob
     T, F  true and false                N  nil                            I  impulse */
 class OSCArgument
 {
@@ -31,20 +31,20 @@ public:
 
     [[nodiscard]] char tag() const noexcept;
 
-    /** Whether the value is of a signature's letter:
-        b  T F i h      d  d      f  f      i, l  i h      n  f i h d      s  s      u  i or h that is not negative
+    /** Whether a signature letter accepts the value:
+        b  T F i h      d  d      f  f      i, l  i h      n  f i h d      s  s      u  non-negative i or h
         Any other letter accepts nothing. */
     [[nodiscard]] bool is (char letter) const noexcept;
 
-    /** The number, converted; 0 if it is none. */
+    /** The number, converted; 0 for other types. */
     [[nodiscard]] float asFloat() const noexcept;
-    /** T and F are what they say, an integer is true if it is exactly 1; anything else is false. */
+    /** The value of T and F; an integer is true if it is exactly 1; anything else is false. */
     [[nodiscard]] bool asBool() const noexcept;
-    /** The integer of i and h; 0 if it is none. */
+    /** The value of i and h; 0 for other types. */
     [[nodiscard]] std::int64_t asInteger() const noexcept;
-    /** The text of s; else empty. */
+    /** The text of s; empty for other types. */
     [[nodiscard]] String asText() const;
-    /** The bytes of b; else empty. */
+    /** The bytes of b; empty for other types. */
     [[nodiscard]] HeapBlock asBlob() const;
 
 private:

@@ -58,7 +58,7 @@ void OSCBundle::add (const String& address, const Colour& value)
 
 void OSCBundle::append (const OSCBundle& other)
 {
-    const auto count = other.size(); // the other may be this very bundle
+    const auto count = other.size(); // the other may be this bundle itself
     for (std::size_t i = 0; i < count; ++i)
         push_back (other[i]);
 }

@@ -9,7 +9,7 @@ namespace qel
 
 class OSCBundle;
 
-/** What a bundle holds: a message or another bundle, owned. Copies are deep. */
+/** A bundle element: a message or a nested bundle, owned. Copies are deep. */
 class OSCBundleElement
 {
 public:
@@ -22,7 +22,7 @@ public:
 
     [[nodiscard]] bool isMessage() const noexcept { return ownMessage != nullptr; }
     [[nodiscard]] bool isBundle() const noexcept { return ownBundle != nullptr; }
-    /** Both raise "Access error in OSC bundle element." when the element holds the other kind. */
+    /** Both throw "Access error in OSC bundle element." if the element is of the other kind. */
     [[nodiscard]] const OSCMessage& message() const;
     [[nodiscard]] const OSCBundle& bundle() const;
 
@@ -31,7 +31,7 @@ private:
     std::unique_ptr<OSCBundle> ownBundle;
 };
 
-/** Messages and bundles in the order in which they were added. */
+/** Messages and bundles in insertion order. */
 class OSCBundle : public Vector<OSCBundleElement>
 {
 public:
@@ -43,7 +43,7 @@ public:
     void add (const OSCMessage& message);
     void add (const OSCBundle& bundle);
 
-    /** A message with one argument, four (red, green, blue, alpha) for a colour. Raise as the address does. */
+    /** Adds a message with one argument, or four (red, green, blue, alpha) for a colour. Throws as the address does. */
     void add (const String& address, std::int32_t value);
     void add (const String& address, float value);
     void add (const String& address, bool value);
@@ -51,7 +51,7 @@ public:
     void add (const String& address, const String& value);
     void add (const String& address, const Colour& value);
 
-    /** Copies the elements of another bundle behind the present ones. */
+    /** Appends copies of another bundle's elements. */
     void append (const OSCBundle& other);
 };
 

@@ -4,17 +4,17 @@
 namespace qel
 {
 
-/** The list of addresses that an object answers, for its documentation. */
+/** The addresses that an object accepts, for its documentation. */
 class OscDocumentation
 {
 public:
     struct Entry
     {
         OscAddress address;
-        String arguments; ///< such as "[string]"
+        String arguments; ///< for example "[string]"
         String description;
 
-        /** By the three texts. */
+        /** Compares all three texts. */
         friend bool operator== (const Entry& a, const Entry& b) noexcept
         {
             return a.address.text() == b.address.text() && a.arguments == b.arguments && a.description == b.description;
@@ -22,7 +22,7 @@ public:
         friend bool operator!= (const Entry& a, const Entry& b) noexcept { return ! (a == b); }
     };
 
-    /** Adds an entry at the end, unless its address is the root or an equal entry is there already. */
+    /** Appends an entry, unless its address is the root or the same entry exists. */
     void add (const OscAddress& address, const String& arguments, const String& description);
 
     [[nodiscard]] const Vector<Entry>& entries() const noexcept { return list; }

@@ -8,22 +8,22 @@
 namespace qel
 {
 
-/** The face by which a component is driven and inspected with messages. To answer one more address in a class:
-    1. a row in the class's table: signature letters, address, what it does; 2. its state in getOscState.
-    Signatures are tested before addresses, which keeps the look-up off the path of messages with wrong arguments.
-    Message thread; a program that comes to the state from another thread as well holds the mutex around each call. */
+/** Message interface that drives and inspects a component. To add an address to a class:
+    1. a row in the class's table: signature letters, address, action; 2. its state in getOscState.
+    Signatures are checked before addresses, so that messages with wrong arguments skip the look-up.
+    Message thread; a program that accesses the state from another thread too must hold the mutex around each call. */
 class OscInterface : public MaxConsoleNotifier
 {
 public:
     ~OscInterface() override = default;
 
-    /** True if the message was understood; then it has been applied. */
+    /** Returns whether the message was recognised; if so, it has been applied. */
     virtual bool processOscMessage (const OSCMessage& message);
     /** One message for each parameter, in a fixed order. */
     virtual OSCBundle getOscState();
-    /** What the family's objects all document; most classes keep it. */
+    /** The addresses that all objects of the family document; most classes keep it. */
     virtual Vector<OscDocumentation::Entry> getOscDocumentation();
-    /** Called by who embeds the component when a preset was loaded into it or exported from it. */
+    /** Call after a preset was loaded into the component or exported from it. */
     virtual void oscPresetLoaded() {}
     virtual void oscPresetExported() {}
 
@@ -32,7 +32,7 @@ public:
 protected:
     std::recursive_mutex oscMutex;
     OSCBundle oscState;
-    /** At the disposal of the class that embeds the interface. */
+    /** For use by the class that embeds the interface. */
     String oscName, oscPath, oscPreset;
     bool oscEnabled = true;
 };

@@ -7,13 +7,13 @@
 namespace qel
 {
 
-/** An address with typed arguments. Message thread only, since it asks the shared cache of addresses. */
+/** An address with typed arguments. Message thread only, because it uses the shared address cache. */
 class OSCMessage
 {
 public:
     OSCMessage() = default;
     explicit OSCMessage (const OscAddress& to) : destination (to) {}
-    /** Raises "OSC format error: ..." as the address does. */
+    /** Throws "OSC format error: ..." as the address does. */
     explicit OSCMessage (const String& to) : destination (to) {}
 
     /** Adds an argument: OSCMessage ("/minmax").add (20.f).add (40.f). */
@@ -26,23 +26,23 @@ public:
 
     [[nodiscard]] const OscAddress& address() const noexcept { return destination; }
     [[nodiscard]] std::size_t size() const noexcept { return arguments.size(); }
-    /** Not bounds-tested. */
+    /** Not bounds-checked. */
     [[nodiscard]] const OSCArgument& operator[] (std::size_t index) const noexcept { return arguments[index]; }
 
-    /** Whether the message is meant for an address; wildcards count on either side. Raises as the address does. */
+    /** Whether the message is addressed to this; wildcards work on either side. Throws as the address does. */
     [[nodiscard]] bool matches (const String& wanted) const;
-    /** The same over the first parts only, as OscAddress::startsWith. */
+    /** Matches only the leading parts, as OscAddress::startsWith does. */
     [[nodiscard]] bool startsWith (const String& wanted) const;
 
-    /** Whether there is exactly one argument, of this letter (see OSCArgument::is). */
+    /** Whether there is exactly one argument, accepted by this letter (see OSCArgument::is). */
     [[nodiscard]] bool has (char letter) const noexcept;
-    /** Whether each letter accepts its argument. When exact there is one letter for each argument; else there may be
-        arguments left over. */
+    /** Whether each letter accepts its argument. If exact, the counts must match; otherwise extra arguments are
+        allowed. */
     [[nodiscard]] bool has (const char* letters, bool exact) const noexcept;
 
-    /** All arguments, if each is a number; else empty. */
+    /** All arguments if all are numbers; otherwise empty. */
     [[nodiscard]] Vector<float> toFloats() const;
-    /** Red, green, blue, alpha, each clipped to 0 to 1; a missing one is 0, a missing alpha 1. */
+    /** Red, green, blue, alpha, each clamped to 0 to 1. Missing components default to 0, alpha to 1. */
     [[nodiscard]] Colour toColour() const;
 
 private:

@@ -1,7 +1,7 @@
 #pragma once
 #include "registry/MaxMspExternal.h"
 
-/** The texts of the room reverberator and of its control interface. */
+/** Documentation texts of the room reverberator and of its control interface. */
 namespace Ambrel::External
 {
 

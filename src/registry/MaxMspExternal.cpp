@@ -17,7 +17,7 @@ struct NameRow
     Type type;
 };
 
-/** An object's variants share its type. */
+/** Variants of an object share its type. */
 constexpr NameRow nameRows[] = {
     { "halcyra~", Type::HalcyraTilda },
     { "halcyra~.embedded", Type::HalcyraTilda },
@@ -30,7 +30,7 @@ struct MethodRow
     const char* help;
 };
 
-/** Messages that several objects of the family share. A row without a text answers "0". */
+/** Messages common to several objects of the family. A row without a text returns "0". */
 constexpr MethodRow methodRows[] = {
     { "loudspeakers", "sets the positions of all speakers, in any of the coordinate formats." },
     { "loudspeaker", "moves or dresses one speaker, counted from 1." },

@@ -4,15 +4,15 @@
 #include <cstdint>
 #include <memory>
 
-/** The catalogue of the family's objects: what each is called, and the texts of its reference page.
-    Looking up is free of side effects but for the report of an unknown name. Any thread. */
+/** Catalogue of the family's objects: their names and the texts of their reference pages.
+    Look-ups have no side effect except logging an unknown name. Any thread. */
 namespace Ambrel
 {
 
 namespace MaxMspExternal
 {
 
-/** A number for each object of the family, 0 to 151. Only the objects that have a row here are named. */
+/** Identifies each object of the family, 0 to 151. Only objects with a row here have names. */
 enum class Type : std::int32_t
 {
     HalcyraTilda = 0,
@@ -22,7 +22,8 @@ enum class Type : std::int32_t
 
 }
 
-/** The texts of one object. A description may hold marks such as "<br/><br/>"; see-also names are split by ", ". */
+/** The texts of one object. Descriptions may contain marks such as "<br/><br/>"; see-also names are separated by ",
+    ". */
 class MaxMspExternalDocumentation
 {
 public:
@@ -36,19 +37,20 @@ public:
 namespace MaxMspExternal
 {
 
-/** The type of an object's name. An unknown name is told by qel::debugReport as "unknwon external : NAME" and gives type 0. */
+/** The type for an object's name. Logs an unknown name by qel::debugReport as "unknwon external : NAME" and returns
+    0. */
 [[nodiscard]] Type typeOf (const qel::String& name);
 
-/** The documentation of a type; null for one that has no texts here. */
+/** The documentation of a type; null if it has none here. */
 [[nodiscard]] std::unique_ptr<MaxMspExternalDocumentation> make (Type type);
 
-/** Texts by an object's name; empty for an unknown one. */
+/** Texts by object name; empty for an unknown name. */
 [[nodiscard]] qel::String descriptionOf (const qel::String& name);
 [[nodiscard]] qel::String digestOf (const qel::String& name);
 [[nodiscard]] qel::String seeAlsoOf (const qel::String& name);
 
-/** The help text of a message that several objects share. An unknown one is reported as "unknwon method : NAME" on
-    the error stream and gives the empty text. */
+/** The help text of a common message. Logs an unknown name to stderr as "unknwon method : NAME" and returns empty
+    text. */
 [[nodiscard]] qel::String methodHelp (const qel::String& name);
 
 }

@@ -7,12 +7,12 @@
 namespace Ambrel
 {
 
-/** Values by name, in the order of their first entry. Small and filled once; looking a name up never inserts. */
+/** Values by name, in insertion order. Small and filled once; looking up a name never inserts it. */
 template <typename Value>
 class NamedTable
 {
 public:
-    /** A name that is there already gets the new value and keeps its place. */
+    /** Replaces the value of an existing name and keeps its place. */
     void set (const qel::String& name, const Value& value)
     {
         if (find (name) == nullptr) {
@@ -22,7 +22,7 @@ public:
         values[indexOf (name)] = value;
     }
 
-    /** Null for a name that is not in the table. */
+    /** Null for an unknown name. */
     [[nodiscard]] const Value* find (const qel::String& name) const noexcept
     {
         const auto index = indexOf (name);

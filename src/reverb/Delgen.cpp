@@ -13,11 +13,11 @@ namespace
 
 constexpr std::uint32_t tableSize = 16;
 constexpr float table[tableSize] = { 2, 5, 7, 11, 18, 23, 29, 37, 46, 59, 71, 82, 97, 113, 127, 145 };
-/** Up to 8 delays pick from the first 8 numbers, always with the two ends. */
+/** Up to 8 delays use the first 8 ranks, always including both ends. */
 constexpr std::uint32_t ranks[tableSize] = { 1, 8, 7, 4, 6, 3, 5, 2, 9, 10, 11, 12, 13, 14, 15, 16 };
 constexpr std::uint32_t endOfFirstHalf = 7;
 
-constexpr float leastSpan = 3.2879817f; // ms: the table's last number in samples at 44100 Hz
+constexpr float leastSpan = 3.2879817f; // ms: the last number of the table in samples at 44100 Hz
 
 std::uint32_t limitedCount (std::uint32_t count) { return std::clamp (count, 1u, Delgen::maxNumDelays); }
 
@@ -100,7 +100,7 @@ void Delgen::computeDelays()
     if (! (max - min > leastSpan))
         max = min + leastSpan;
 
-    // A single delay has a mean of 0: the exponent is 0 then, and the delay stands at the maximum.
+    // A single delay has a mean of 0, so the exponent is 0 and the delay ends at the maximum.
     const float exponent = (1 / distr - 1) / (1 / mean - 1);
     const float span = max - min;
     sum = 0;
@@ -119,7 +119,7 @@ bool Delgen::change (const Range& wanted)
     const auto before = range;
     range = wanted;
     computeDelays();
-    const float largestSum = range.max * static_cast<float> (maxNumDelays); // whatever the count becomes
+    const float largestSum = range.max * static_cast<float> (maxNumDelays); // for any later count
     if (std::isfinite (largestSum) && std::isfinite (sum))
         return true;
     range = before;

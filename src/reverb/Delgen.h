@@ -6,27 +6,27 @@
 namespace Ambrel
 {
 
-/** Turns a count, a range in ms and a distribution into delay times: mutually incommensurate for up to 16 delays,
-    randomised above, the same at each run. The distribution bends the delays towards the minimum (small) or the
-    maximum (large). What would leave a number that is not finite is refused, and all stays as it was.
-    Single precision throughout. Message thread. */
+/** Generates delay times in ms from a count, a range and a distribution: mutually incommensurate for up to 16 delays,
+    randomised above, identical on each run. The distribution shifts delays towards the minimum (small) or the maximum
+    (large). Changes with a non-finite result are rejected and leave everything unchanged. Single precision throughout.
+    Message thread. */
 class Delgen : public qel::OscInterface
 {
 public:
     static constexpr std::uint32_t maxNumDelays = 64;
     static constexpr float defaultDistr = 0.5f;
 
-    /** The distribution is ignored: it starts at its default. */
+    /** The distribution is ignored and starts at its default. */
     Delgen (std::uint32_t numDelays, float minimum, float maximum, float distribution);
 
     /** In ms, ascending. */
     [[nodiscard]] const qel::Vector<float>& getDelays() const noexcept { return delays; }
 
-    /** The minimum is at least 1, the maximum at least the minimum, the distribution within 0.1 to 0.9. */
+    /** Clamps the minimum to at least 1, the maximum to at least the minimum, the distribution to 0.1 to 0.9. */
     qel::Vector<float> setMinMax (float minimum, float maximum, float distribution);
-    /** Finds the maximum for a wished sum of the delays. The distribution is taken as it stands. */
+    /** Finds the maximum for a given sum of the delays. The distribution is not clamped. */
     qel::Vector<float> setMinSum (float minimum, float wishedSum, float distribution);
-    /** 1 to 64; the distribution goes back to its default. */
+    /** 1 to 64; resets the distribution to its default. */
     void setNumDelays (std::uint32_t count);
     /** Keeps the minimum and the distribution. */
     void setSum (float wishedSum);
@@ -47,18 +47,18 @@ private:
     float makeTableTemplate();
     float makeRandomTemplate();
     void computeDelays();
-    /** False, and all as it was, if the result is not finite. */
+    /** Returns false and changes nothing if the result is not finite. */
     bool change (const Range& wanted);
     bool changeMinMax (const Range& wanted);
     bool changeMinSum (float minimum, float wishedSum, float distribution);
 
     std::uint32_t numdelays;
-    float sum = 0; ///< ms, of the delays before they are limited
+    float sum = 0; ///< ms, of the delays before clamping
     Range range{ 1, 1, defaultDistr };
     qel::Vector<float> delays;        ///< ms
-    qel::Vector<float> positions;     ///< the template, 0 to 1; those of ranks past numdelays may exceed 1
-    qel::Vector<std::uint32_t> order; ///< the rank of each position; empty when all are in use
-    float mean = 0;                   ///< of the positions in use
+    qel::Vector<float> positions;     ///< the template, 0 to 1; ranks past numdelays may exceed 1
+    qel::Vector<std::uint32_t> order; ///< the rank of each position; empty if all are used
+    float mean = 0;                   ///< of the positions used
 };
 
 }

@@ -36,7 +36,7 @@ struct Ramp
     }
 };
 
-/** Uniform from 0.95 to 1.05. */
+/** Uniform over 0.95 to 1.05. */
 float randomFactor() noexcept
 {
     const auto draw = static_cast<float> (qel::rand());

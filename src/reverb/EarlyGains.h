@@ -4,9 +4,9 @@
 namespace halcyra
 {
 
-/** Fills out with the signed gains of as many early taps as it holds, at most 64, of mean magnitude 1. A shape of 0 lets
-    them fall from first to last, 0.5 makes them equal, 1 lets them rise. Above eight taps they vary at random by 5 %,
-    and the inner ones fade where the spread, in ms, is small. */
+/** Fills out, at most 64 taps, with signed early-tap gains of mean magnitude 1. A shape of 0 makes them fall, 0.5 makes
+    them equal, 1 makes them rise. Above eight taps they vary at random by 5 %, and the inner ones fade if the spread
+    (ms) is small. */
 void earlyGains (qel::Vector<float>& out, float shape, float spread, bool normalize);
 
 }

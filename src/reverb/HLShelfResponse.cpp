@@ -11,11 +11,11 @@ constexpr float pi = 3.1415927f;
 
 float linear (float dB) noexcept { return std::pow (10.0f, dB / 20.0f); }
 
-/** One shelf in the bilinear plane: how far apart its gains are, and where it turns. */
+/** One shelf in the bilinear plane: its gain ratio and turnover frequency. */
 struct Shelf
 {
-    float ratio; // linear gain below the turn over the gain above it
-    float turn;  // the prewarped turning frequency
+    float ratio; // linear gain below the turnover over the gain above it
+    float turn;  // prewarped turnover frequency
 
     Shelf (float below, float above, float frequency)
         : ratio (linear (below - above)), turn (std::tan (frequency * pi) / std::sqrt (ratio))

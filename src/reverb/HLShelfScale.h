@@ -4,7 +4,7 @@
 namespace halcyra
 {
 
-/** Where gains and frequencies lie on a response curve of a given size in pixels, and back. 20 to 20000 Hz from left to
+/** Maps gains and frequencies to pixels on a response curve of a given size, and back: 20 to 20000 Hz from left to
     right on a logarithmic scale, 30 to -30 dB from top to bottom. */
 struct HLShelfScale
 {
@@ -17,7 +17,7 @@ struct HLShelfScale
 
     [[nodiscard]] double x (double hz) const noexcept;
     [[nodiscard]] double y (double dB) const noexcept;
-    /** Not limited to the scale. */
+    /** Not clamped to the scale. */
     [[nodiscard]] double frequency (double x) const noexcept;
     [[nodiscard]] double gain (double y) const noexcept;
 };

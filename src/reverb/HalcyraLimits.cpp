@@ -8,7 +8,7 @@ namespace halcyra
 float limited (const ParameterRow& row, float wish, const StageTimes& present) noexcept
 {
     const auto lowest = static_cast<float> (row.range.lowest), highest = static_cast<float> (row.range.highest);
-    switch (row.number) { // the last word of each rule wins where its limits cross
+    switch (row.number) { // where limits cross, the last clamp of each rule wins
     case parameter::earlyStart:
         return std::min (std::max (wish, lowest), present.earlyEnd);
     case parameter::earlyEnd:

@@ -4,13 +4,13 @@
 namespace halcyra
 {
 
-/** Where the stages stand at present, in ms: what a stage's new time is held against. */
+/** The stages' present times in ms, which limit a new one. */
 struct StageTimes
 {
     float earlyStart, earlyEnd, clusterStart, clusterEnd;
 };
 
-/** The value that a wish for a parameter comes to: within its range, and no stage before the one that precedes it. */
+/** Limits a requested parameter value: to its range, and no stage before the one that precedes it. */
 [[nodiscard]] float limited (const ParameterRow& row, float wish, const StageTimes& present) noexcept;
 
 }

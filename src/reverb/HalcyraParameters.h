@@ -3,12 +3,12 @@
 #include <cmath>
 #include <cstdint>
 
-/** The number of a reverb parameter, 0 to 19: what travels with every change. */
+/** A reverb parameter's number, 0 to 19; identifies it in every change. */
 using HalcyraReverbParameter = int;
-/** The number of a filter set: 0 direct, 1 room, 2 early, 3 cluster. */
+/** A filter's number: 0 direct, 1 room, 2 early, 3 cluster. */
 using HalcyraFilter = int;
 
-/** The reverberator's parameters, in the order of their numbers. A fresh record holds the defaults of parameterTable. */
+/** The reverb parameters, in the order of their numbers. A new record holds the defaults of parameterTable. */
 struct HalcyraTimeStructure
 {
     HalcyraTimeStructure() noexcept;
@@ -27,7 +27,7 @@ struct HalcyraTimeStructure
     float airFrequency;         // Hz
 };
 
-/** One three-band filter: gains in dB, crossover frequencies in Hz. A fresh record holds the defaults of shelfTable. */
+/** One three-band filter: gains in dB, crossover frequencies in Hz. A new record holds the defaults of shelfTable. */
 struct HLShelfParameters
 {
     HLShelfParameters() noexcept;
@@ -48,7 +48,7 @@ struct HLShelfParameters
 namespace halcyra
 {
 
-/** The parameters by name. */
+/** The parameter numbers by name. */
 namespace parameter
 {
 enum : HalcyraReverbParameter
@@ -77,7 +77,7 @@ enum : HalcyraReverbParameter
 };
 }
 
-/** A decimal number such as "-1.995", rounded once from the quotient of two whole numbers. */
+/** Parses a decimal number such as "-1.995", rounded once, from the quotient of two integers. */
 constexpr double decimal (const char* text) noexcept
 {
     const bool isNegative = *text == '-';
@@ -94,12 +94,12 @@ constexpr double decimal (const char* text) noexcept
     return (isNegative ? -digits : digits) / scale;
 }
 
-/** The values that a slider takes: from one end to the other in steps. */
+/** The values a slider takes: from one end to the other in steps. */
 struct SliderRange
 {
     double lowest, highest, step;
 
-    /** The nearest step, as a slider rounds. Single precision in and out. */
+    /** Rounds to the nearest step, as a slider does. Single precision in and out. */
     [[nodiscard]] float stepped (float value) const noexcept
     {
         const double wish = static_cast<double> (value);
@@ -108,23 +108,23 @@ struct SliderRange
     }
 };
 
-/** One parameter: where it is held, how it is called, and how its control behaves.
-    To add one: give the record a field, the list of names a name, and this table a row. */
+/** One parameter: where it is stored, its names, and how its control behaves.
+    To add one: a field in the record, a name in the list of names, and a row in this table. */
 struct ParameterRow
 {
     HalcyraReverbParameter number;
     float HalcyraTimeStructure::*value;       // null for a switch
     std::uint8_t HalcyraTimeStructure::*flag; // null for a number
-    const char* selector;                     // the message that carries it, and that message's first word
+    const char* selector;                     // the message that sends it, and that message's first word
     const char* key;
     const char* name;        // of its slider or toggle
-    const char* label;       // what stands beside it
-    SliderRange range;       // the values that the parameter takes, whoever sets it
-    double midPoint;         // the value in the middle of the slider; 0 for a linear one
-    const char* defaultText; // its default, as the attribute's documentation gives it
-    int decimals;            // of the text that shows the value
-    const char* unit;        // the end of that text, its leading blank included
-    const char* spoken;      // what a screen reader calls the control
+    const char* label;       // shown beside it
+    SliderRange range;       // the legal values, whoever sets it
+    double midPoint;         // the value at the slider's middle; 0 for a linear slider
+    const char* defaultText; // its default, as in the attribute's documentation
+    int decimals;            // in the text that shows the value
+    const char* unit;        // suffix of that text, with its leading blank
+    const char* spoken;      // the control's name for screen readers
 
     [[nodiscard]] constexpr bool isSwitch() const noexcept { return flag != nullptr; }
     [[nodiscard]] constexpr double defaultValue() const noexcept { return decimal (defaultText); }
@@ -157,49 +157,50 @@ inline constexpr std::array<ParameterRow, parameter::count> parameterTable { {
 } };
 // clang-format on
 
-/** Where a double click sends the slider: to the default. The air frequency goes by the default of the air switch, 1,
-    so its slider falls to its low end. */
+/** The value a double click resets the slider to: the default. The air frequency uses the default of the air switch, 1,
+    so its slider goes to its low end. */
 constexpr double ParameterRow::doubleClick() const noexcept
 {
     return number == parameter::airFrequency ? parameterTable[parameter::air].defaultValue() : defaultValue();
 }
 
-/** The room's volume in cubic metres: a control that sets others, with no number of its own. */
+/** The room's volume in cubic metres: sets other parameters, and has no number of its own. */
 inline constexpr SliderRange roomRange{ 10, 15000, 10 };
 inline constexpr float defaultRoomSize = 2000;
 
-/** The row of a parameter number, null for any other number. */
+/** The row of a parameter number; null for an unknown number. */
 [[nodiscard]] constexpr const ParameterRow* parameterRow (HalcyraReverbParameter number) noexcept
 {
     return number >= 0 && number < parameter::count ? &parameterTable[static_cast<std::size_t> (number)] : nullptr;
 }
 
-/** A field of the record by its row; a switch counts as 0 or 1. */
+/** Reads the row's field from the record; a switch counts as 0 or 1. */
 [[nodiscard]] constexpr float valueOf (const HalcyraTimeStructure& record, const ParameterRow& row) noexcept
 {
     return row.isSwitch() ? static_cast<float> (record.*row.flag) : record.*row.value;
 }
 
-/** The four filter sets, in the order of their numbers. */
+/** The four filters, in the order of their numbers. */
 inline constexpr std::array<const char*, 4> filterNames{ "direct", "room", "early", "cluster" };
 
-/** One field of a filter: what a message may set, and how its slider behaves. */
+/** One field of a filter: the values a message may set, and how its slider behaves. */
 struct ShelfRow
 {
     float HLShelfParameters::*value;
-    const char* name;        // the message's word, and the slider's name
-    const char* label;       // what stands above the slider
-    float lowest, highest;   // what a filter takes
+    const char* name;        // the message's word and the slider's name
+    const char* label;       // shown above the slider
+    float lowest, highest;   // limits of the filter
     SliderRange range;       // of the slider
-    double midPoint;         // the value in the middle of the slider; 0 for a linear one
-    const char* defaultText; // its default, where a double click sends the slider too
-    bool isFrequency;        // else a gain
-    const char* spoken;      // what a screen reader calls the field
+    double midPoint;         // the value at the slider's middle; 0 for a linear slider
+    const char* defaultText; // its default, which a double click also sets
+    bool isFrequency;        // otherwise a gain
+    const char* spoken;      // the field's name for screen readers
 
     [[nodiscard]] constexpr double defaultValue() const noexcept { return decimal (defaultText); }
 };
 
-/** All fields of a filter, in their order. The slider of G0 is narrower than the filter: it then stands at its end. */
+/** All fields of a filter, in order. G0's slider has a narrower range than the filter; beyond it, it stays at its
+    end. */
 inline constexpr std::array<ShelfRow, 6> shelfTable{ {
     { &HLShelfParameters::G0, "G0", "global", -200, 30, { -60, 10, 0.05 }, 0, "0", false, "global gain" },
     { &HLShelfParameters::Gl, "Gl", "low", -30, 30, { -30, 30, 0.05 }, 0, "0", false, "low gain" },
@@ -228,7 +229,7 @@ constexpr auto joinedShelfDefaults()
 /** The defaults of a filter's fields as one text, "0 0 ...". */
 inline constexpr auto filterDefaultText = detail::joinedShelfDefaults();
 
-/** The filter with every field within its limits. */
+/** The filter with every field clipped to its limits. */
 [[nodiscard]] constexpr HLShelfParameters clipped (HLShelfParameters filter) noexcept
 {
     for (const auto& row : shelfTable)
@@ -238,7 +239,7 @@ inline constexpr auto filterDefaultText = detail::joinedShelfDefaults();
     return filter;
 }
 
-/** No field is infinite or not a number. */
+/** Whether all fields are finite. */
 [[nodiscard]] inline bool isFinite (const HLShelfParameters& filter) noexcept
 {
     for (const auto& row : shelfTable)

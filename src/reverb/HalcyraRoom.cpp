@@ -20,14 +20,14 @@ constexpr float latestEarly = highest (parameter::earlyEnd), latestCluster = hig
                 latestReverb = highest (parameter::reverbStart);
 constexpr float leastDensity = static_cast<float> (parameterRow (parameter::modalDensity)->range.lowest);
 
-/** The one at the top wins over the one at the bottom, should they cross. */
+/** If the bounds cross, the top one wins. */
 float bounded (float value, float bottom, float top) noexcept { return value > top ? top : std::max (value, bottom); }
 
-/** The bounds of the modal density. Eight channels are one block; more channels count whole blocks. */
+/** Bounds of the modal density. Eight channels make one block; more channels count in whole blocks. */
 struct DensityBounds
 {
-    float lower, upper; // of one block
-    float third;        // one more upper bound of one block
+    float lower, upper; // per block
+    float third;        // another upper bound per block
     float blocks;
 
     DensityBounds (int numinternals, float reverbStart, float clusterStart) noexcept
@@ -55,7 +55,7 @@ void computeTimes (RoomParameters& room, float volume) noexcept
     room.earlyStart = std::max (std::min (room.earlyEnd - (89 * r + 1), room.earlyEnd), 1.0f);
     room.earlyEnd = bounded (room.earlyEnd, room.earlyStart, latestEarly);
     room.clusterEnd = 295 * r + 5 + room.clusterStart;
-    room.reverbStart = 0.9f * room.clusterEnd; // before the cluster's end is limited
+    room.reverbStart = 0.9f * room.clusterEnd; // before the cluster's end is clamped
     room.clusterEnd = bounded (room.clusterEnd, room.earlyEnd, latestCluster);
     room.clusterStart = bounded (room.clusterStart, room.earlyStart, latestCluster);
     room.reverbStart = bounded (room.reverbStart, room.clusterStart, latestReverb);
@@ -90,7 +90,7 @@ void validateRoomParameters (RoomParameters& room, int numinternals) noexcept
     room.earlyEnd = bounded (room.earlyEnd, room.earlyStart + 1, latestEarly);
     room.earlyDistr = std::clamp (room.earlyDistr, 0.1f, 0.9f);
     room.clusterStart = bounded (room.clusterStart, room.earlyStart + 1, latestCluster);
-    // The cluster stage stays at least as wide as the gap between the stages' starts.
+    // The cluster stage stays at least as wide as the gap between the two stages' starts.
     while (room.clusterStart - room.earlyStart > room.clusterEnd - room.earlyEnd)
         room.clusterEnd += 1;
     room.clusterEnd = bounded (room.clusterEnd, std::max (room.clusterStart + 1, room.earlyEnd), latestCluster);

@@ -4,11 +4,11 @@
 namespace halcyra
 {
 
-/** The volumes of rooms, in cubic metres. */
+/** Room volumes in cubic metres. */
 inline constexpr float smallestRoom = static_cast<float> (roomRange.lowest),
                        largestRoom = static_cast<float> (roomRange.highest);
 
-/** What a room's volume makes of the time structure. Times in ms. */
+/** The time structure derived from a room's volume. Times in ms. */
 struct RoomParameters
 {
     float earlyStart = 1, earlyEnd = 1, earlyDistr = 0.5f;
@@ -17,11 +17,11 @@ struct RoomParameters
     float modalDensity = 0.2f;
 };
 
-/** The legal parameters nearest to a room of that volume, limited to those of rooms, with that global decay time in
-    seconds and that number of internal channels. */
+/** The legal parameters nearest to a room of this volume, clamped to the room range, for a global decay time in
+    seconds and a number of internal channels. */
 [[nodiscard]] RoomParameters computeRoomParameters (int numinternals, float volume, float decayTime) noexcept;
 
-/** Brings the stages into their ranges and their order. */
+/** Brings the stages into range and order. */
 void validateRoomParameters (RoomParameters& room, int numinternals) noexcept;
 
 }

@@ -11,7 +11,7 @@ namespace halcyra
 namespace
 {
 
-/** What a room size derives, in the order in which it is told. */
+/** The parameters that a room size sets, in the order of notification. */
 constexpr HalcyraReverbParameter roomParameters[] = { parameter::earlyStart,  parameter::earlyEnd,
                                                       parameter::earlyDistr,  parameter::clusterStart,
                                                       parameter::clusterEnd,  parameter::clusterDistr,
@@ -33,7 +33,7 @@ bool isFilter (HalcyraFilter number) noexcept
     return number >= 0 && number < static_cast<HalcyraFilter> (filterNames.size());
 }
 
-/** The derived value of a room, by the number of its parameter. */
+/** A room's value for a parameter number. */
 float derived (const RoomParameters& room, HalcyraReverbParameter number) noexcept
 {
     switch (number) {
@@ -144,7 +144,7 @@ void ReverbModel::wishTime (int index, float wish)
     store (number, row.range.stepped (limited (row, wish, stageTimes())), Edit::message);
 }
 
-/** The wishes as they fit together, whatever stands at present. */
+/** The requested times made consistent with each other, whatever the present ones. */
 ReverbModel::Times ReverbModel::fitted (Times wishes) const noexcept
 {
     const auto lowest = [] (auto number) { return static_cast<float> (rowOf (number).range.lowest); };
@@ -152,7 +152,7 @@ ReverbModel::Times ReverbModel::fitted (Times wishes) const noexcept
     fit.earlyStart = lowest (parameter::earlyStart);
     fit.clusterStart = lowest (parameter::clusterStart);
     fit.clusterEnd = static_cast<float> (rowOf (parameter::clusterEnd).range.highest);
-    if (const auto index = linkedIndex (held); index >= 0) // the others fit around what the hand holds
+    if (const auto index = linkedIndex (held); index >= 0) // the others fit around the one the user is dragging
         wishes[static_cast<std::size_t> (index)] = fit.*rowOf (held).value = valueOf (values, rowOf (held));
     for (std::size_t i = 0; i < wishes.size(); ++i) {
         const auto& row = rowOf (linkedTimes[i]);
@@ -264,8 +264,8 @@ void ReverbModel::recallParameters (const HalcyraTimeStructure& wish, Edit edit)
     recall (wishes.data(), wishes.size(), edit);
 }
 
-/** Stored, and so told, in this order: the room size and what stands before the times, the times, other numbers, and
-    last switches and filters, which are told at once. */
+/** Stores, and so notifies, in this order: the room size and what precedes the times, the times, other numbers, and
+    last switches and filters, which notify at once. */
 void ReverbModel::recall (const Wish* first, std::size_t count, Edit edit)
 {
     timesWished.reset();
@@ -306,7 +306,7 @@ void ReverbModel::recall (const Wish* first, std::size_t count, Edit edit)
     }
 }
 
-// ---- Telling
+// ---- Notification
 
 void ReverbModel::changed (const Change& change)
 {

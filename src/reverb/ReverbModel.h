@@ -9,7 +9,7 @@
 namespace halcyra
 {
 
-/** One number of the model: a parameter by its number, the room size, or a field of a filter. */
+/** One value of the model: a parameter by its number, the room size, or a field of a filter. */
 using ReverbCell = int;
 
 namespace cell
@@ -26,20 +26,20 @@ inline constexpr int count = firstFilter + fieldsOfFilter * static_cast<int> (fi
 }
 }
 
-/** Who changes a value. */
+/** Where a change comes from. */
 enum class Edit
 {
-    quiet,   // nobody is told
-    message, // told
-    hand     // told, and a step that can be undone
+    quiet,   // no notification
+    message, // notifies
+    hand     // notifies, and can be undone
 };
 
-/** The reverberator's values, each held once: 20 parameters, the room size and four filters.
+/** Stores the reverberator's values, each once: 20 parameters, the room size and four filters.
 
-    A parameter passes through its row and its neighbours on the way in and is then in force; a filter is only clipped.
-    Values that are not finite and numbers that name nothing are ignored. Switches and filters are told at once, numbers
-    when the turn ends, once each and in the order of their first change. A turn begins with its first change, which
-    calls wakeTurnEnd; whoever hears that calls endTurn() behind everything that waits already. One thread. */
+    A parameter is limited by its row and its neighbours and takes effect at once; a filter is only clipped. Non-finite
+    values and unknown numbers are ignored. Switches and filters notify at once; number parameters notify once each when
+    the turn ends, in the order of their first change. A turn begins with its first change, which calls wakeTurnEnd; the
+    receiver calls endTurn() behind everything already queued. One thread. */
 class ReverbModel
 {
 public:
@@ -54,22 +54,22 @@ public:
     {
     public:
         virtual ~Listener() = default;
-        /** A value has changed: what shows it follows. */
+        /** A value has changed: views update. */
         virtual void reverbChanged (const Change&) {}
-        /** The parameter's value leaves now. */
+        /** Send the parameter's value now. */
         virtual void parameterTold (HalcyraReverbParameter) {}
         virtual void filterTold (HalcyraFilter) {}
-        /** The edits of the hand before and after this are gestures of their own. */
+        /** The user's edits before and after this are separate gestures. */
         virtual void gestureBounded() {}
     };
 
-    /** Internal channels bear on what a room size derives. */
+    /** The number of internal channels affects what a room size sets. */
     explicit ReverbModel (int numinternals) noexcept;
 
     ReverbModel (const ReverbModel&) = delete;
     ReverbModel& operator= (const ReverbModel&) = delete;
 
-    /** Not owned; may come and go during a call. */
+    /** Not owned; may be added and removed during a call. */
     void addListener (Listener* listener) { listeners.add (listener); }
     void removeListener (Listener* listener) { listeners.remove (listener); }
 
@@ -78,50 +78,50 @@ public:
     /** Filter 0 to 3. */
     [[nodiscard]] const HLShelfParameters& filter (HalcyraFilter number) const;
     [[nodiscard]] float roomSize() const noexcept { return room; }
-    /** 0 for a cell that is none. */
+    /** 0 for an unknown cell. */
     [[nodiscard]] float value (ReverbCell cell) const noexcept;
 
-    /** Sets one parameter, a switch by 0 or another number. Once messages of one turn have set all five linked times
-        (the starts and ends of the stages), their last wishes are recalled together, whatever their order. */
+    /** Sets one parameter; a switch is on for any number but 0. Once messages of one turn have set all five linked
+        times (starts and ends of the stages), their last values are recalled together, independent of order. */
     void setParameter (HalcyraReverbParameter number, float wish, Edit edit);
-    /** Derives eight parameters from a volume in cubic metres, whatever stood before. All eight are told if the stepped
-        volume is another one than before, else those that change. */
+    /** Sets eight parameters from a volume in cubic metres, whatever their values. Notifies all eight if the stepped
+        volume differs from the last one, otherwise those that change. */
     void setRoomSize (float cubicMetres, Edit edit);
-    /** An equal filter changes and tells nothing, unless forced. */
+    /** An equal filter neither changes nor notifies, unless forced. */
     void setFilter (HalcyraFilter number, const HLShelfParameters& wish, Edit edit, bool forced = false);
-    /** Always told, even when equal. */
+    /** Notifies always, even if equal. */
     void setFilterField (HalcyraFilter number, std::size_t field, float wish, Edit edit);
     void resetFilter (HalcyraFilter number, Edit edit) { setFilter (number, {}, edit, true); }
-    /** All parameters as that record has them, and the room size back to its default. */
+    /** Sets all parameters from the record, and resets the room size to its default. */
     void recallParameters (const HalcyraTimeStructure& wish, Edit edit);
     void resetParameters (Edit edit) { recallParameters ({}, edit); }
-    /** Those and the filters', which are told first. */
+    /** Resets the parameters and the filters; the filters notify first. */
     void reset (Edit edit);
 
-    /** A value to bring back. */
+    /** A value to recall. */
     struct Wish
     {
         ReverbCell cell;
         float value;
     };
-    /** Brings values back together: the linked times in an order in which they fit. */
+    /** Recalls values together: the linked times in an order in which they fit. */
     void recall (const Wish* first, std::size_t count, Edit edit);
 
-    /** While a hand holds a control, nobody else changes its value but its neighbours' limits. */
+    /** While the user holds a control, only its neighbours' limits can change its value. */
     void hold (ReverbCell cell) noexcept { held = cell; }
     void release() noexcept { held = cell::none; }
 
-    /** Keeps what the hand has done so far apart from what it does next, as each key press is one step to undo. */
+    /** Ends the present gesture, as each key press is one undo step. */
     void boundGesture()
     {
         listeners.call ([] (Listener& l) { l.gestureBounded(); });
     }
 
-    /** Called at a turn's first change. */
+    /** Called at the first change of a turn. */
     std::function<void()> wakeTurnEnd;
-    /** Tells the numbers that have changed. What they set going begins a new turn. */
+    /** Notifies the number parameters that have changed. Changes made meanwhile begin a new turn. */
     void endTurn();
-    /** Numbers that wait have been told otherwise. */
+    /** Drops pending notifications that were sent by other means. */
     void forgetWaiting() noexcept { waiting.clear(); }
 
 private:
@@ -131,7 +131,7 @@ private:
                                                               parameter::earlyStart };
     using Times = std::array<float, std::size (linkedTimes)>;
 
-    /** Parameter numbers in the order in which they came, each once. */
+    /** Parameter numbers in the order added, without duplicates. */
     class Numbers
     {
     public:

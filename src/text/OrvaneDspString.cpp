@@ -18,7 +18,7 @@ std::ptrdiff_t position (std::size_t found) noexcept
 
 char lowerCase (char c) noexcept { return c >= 'A' && c <= 'Z' ? static_cast<char> (c - 'A' + 'a') : c; }
 
-/** How many bytes the character takes that begins with this byte; 1 for what begins none. */
+/** Length of the UTF-8 character that starts with this byte; 1 for an invalid lead byte. */
 std::ptrdiff_t characterLength (char lead) noexcept
 {
     const auto byte = static_cast<unsigned char> (lead);
@@ -27,7 +27,7 @@ std::ptrdiff_t characterLength (char lead) noexcept
 
 bool isContinuation (char c) noexcept { return (static_cast<unsigned char> (c) & 0xc0) == 0x80; }
 
-/** The end of the character at p, or null if the bound cuts it. A broken character ends where it breaks. */
+/** End of the character at p, or null if it is truncated. An invalid character ends where it breaks. */
 const char* nextCharacter (const char* p, const char* end) noexcept
 {
     const auto length = characterLength (*p);

@@ -8,18 +8,19 @@
 namespace qel
 {
 
-/** Text, UTF-8 by convention: a value around a standard narrow string. Any thread, each text its own.
-    Numbers are written and read the classic way, whatever the locale of the process is. Letter case and white
-    space are those of ASCII. Positions and lengths are in bytes; a position of -1 means "nowhere". */
+/** UTF-8 text, wrapping std::string. Any thread, each instance on one.
+    Numbers are formatted and parsed in the C locale, whatever the process's. Case and white space are ASCII only.
+    Positions and lengths are in bytes; a position of -1 means not found. */
 class String
 {
 public:
     String() = default;
-    /** Null gives the empty text. */
+    /** Null becomes empty text. */
     String (const char* characters) : text (characters == nullptr ? "" : characters) {}
     String (std::string characters) : text (std::move (characters)) {}
     explicit String (std::string_view characters) : text (characters) {}
-    /** The whole UTF-8 characters between two bounds, up to a zero. One that end cuts is left out. */
+    /** The whole UTF-8 characters between two pointers, up to a null byte. A character truncated by `end` is
+        dropped. */
     String (const char* begin, const char* end);
 
     explicit String (int value);
@@ -28,20 +29,20 @@ public:
     explicit String (unsigned long value) : String (static_cast<unsigned long long> (value)) {}
     explicit String (long long value);
     explicit String (unsigned long long value);
-    /** With 1 to 6 decimals and a magnitude below 1e20: that many decimals, halves away from zero. Else up to
-        `decimals` significant digits (6 for 0), with an exponent where it is shorter. */
+    /** With 1 to 6 decimals and a magnitude below 1e20: that many decimals, halves rounded away from zero. Otherwise up
+        to `decimals` significant digits (6 for 0), with an exponent where that is shorter. */
     String (double value, int decimals);
     explicit String (bool) = delete;
     explicit String (char) = delete;
 
     /** "true" for exactly 1, else "false". */
     [[nodiscard]] static String fromBool (int value);
-    /** One number in a printf format that holds one conversion for it ("%02d", "gain %.3f dB"). */
+    /** Formats one number by a printf format with one conversion ("%02d", "gain %.3f dB"). */
     [[nodiscard]] static String formatted (const char* format, int value);
     [[nodiscard]] static String formatted (const char* format, double value);
-    /** Lower-case hexadecimal digits with no leading zeros. */
+    /** Lower-case hexadecimal digits without leading zeros. */
     [[nodiscard]] static String hex (std::uint64_t value);
-    /** 0 to 15, or -1 for what is no hexadecimal digit. */
+    /** 0 to 15, or -1 if not a hexadecimal digit. */
     [[nodiscard]] static int hexDigit (char digit) noexcept;
     /** 0 to 255 from two hexadecimal digits, or -1. */
     [[nodiscard]] static int hexByte (char high, char low) noexcept;
@@ -55,7 +56,7 @@ public:
     [[nodiscard]] bool empty() const noexcept { return text.empty(); }
     [[nodiscard]] char operator[] (std::size_t index) const { return text[index]; }
 
-    /** The number at the beginning, behind white space; 0 if there is none. Limited to the range of int. */
+    /** Parses the number at the start, after white space; 0 if there is none. Clamped to the range of int. */
     [[nodiscard]] int toInt() const noexcept;
     [[nodiscard]] double toDouble() const noexcept;
 
@@ -63,7 +64,7 @@ public:
     [[nodiscard]] String trimmedStart() const;
     [[nodiscard]] String trimmedEnd() const;
     [[nodiscard]] String toLowerCase() const;
-    /** Between double quotation marks, unless it begins and ends with a double or with a single one already. */
+    /** Adds double quotes, unless the text already begins and ends with double or single quotes. */
     [[nodiscard]] String quoted() const;
     [[nodiscard]] String substr (std::size_t start, std::size_t count = std::string::npos) const;
 
@@ -77,15 +78,15 @@ public:
     /** True for an empty text. */
     [[nodiscard]] bool containsOnly (const String& bytes) const noexcept;
     [[nodiscard]] bool containsNonWhiteSpace() const noexcept;
-    /** Both false if either side is empty. */
+    /** Both return false if either side is empty. */
     [[nodiscard]] bool startsWith (const String& start) const noexcept;
     [[nodiscard]] bool endsWith (const String& end) const noexcept;
 
-    /** Remove n bytes, or as many as there are. */
+    /** Remove n bytes, or all if there are fewer. */
     void removeFromStart (std::size_t n);
     void removeFromEnd (std::size_t n);
     void removeLastOccurrenceOf (const String& part);
-    /** Repeats until the text no longer ends with it. */
+    /** Repeats until the text no longer ends with this. */
     void removeAllAtEnd (const String& end);
     void replaceAll (const String& part, const String& by);
     void replaceAll (char byte, char by);

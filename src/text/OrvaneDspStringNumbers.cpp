@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <limits>
 
-/** Numbers to text and back. Nothing here asks for the process's locale but to undo what printf did with it. */
+/** Converts numbers to text and back, independent of the process's locale except to undo printf's use of it. */
 namespace qel
 {
 
@@ -22,7 +22,7 @@ std::string decimal (Integer value)
     return { digits.data(), std::to_chars (digits.data(), digits.data() + digits.size(), value).ptr };
 }
 
-/** Whole digits of what is below 1e27 and not negative. */
+/** The integer digits of a non-negative value below 1e27. */
 std::string wholeDigits (double value)
 {
     std::array<char, 32> digits{};
@@ -42,20 +42,20 @@ std::string fixedDecimals (double value, int decimals)
 
 std::string significantDigits (double value, int precision)
 {
-    constexpr int standardPrecision = 6, fullPrecision = 17; // beyond 17 a double has nothing to say
+    constexpr int standardPrecision = 6, fullPrecision = 17; // a double has no more than 17 significant digits
     const int digits = precision > 0 ? std::min (precision, fullPrecision) : standardPrecision;
     std::array<char, 40> text{};
     const auto end = std::to_chars (text.data(), text.data() + text.size(), value, std::chars_format::general, digits);
     return { text.data(), end.ptr };
 }
 
-/** A printf format around its one conversion: what stands before, "%" with flags and sizes, its letter, the rest. */
+/** A printf format split at its one conversion: the text before, "%" with flags and widths, its letter, the rest. */
 struct Format
 {
     std::string before, conversion, after;
 };
 
-/** Copies up to the next conversion, "%%" as "%"; returns where it stopped. */
+/** Copies up to the next conversion, unescaping "%%"; returns where it stopped. */
 const char* copyLiteral (const char* p, std::string& literal)
 {
     while (*p != 0 && (*p != '%' || p[1] == '%')) {
@@ -65,7 +65,7 @@ const char* copyLiteral (const char* p, std::string& literal)
     return p;
 }
 
-/** Length modifiers are left out, since the type of the number is known. */
+/** Drops length modifiers, because the number's type is known. */
 Format parseFormat (const char* p)
 {
     Format format;
@@ -103,7 +103,7 @@ void usePoint (std::string& number)
         number.replace (place, point.size(), ".");
 }
 
-/** A conversion for another kind of number than is given would read what is not there: it prints nothing. */
+/** A conversion for another kind of number would read an argument that is not there: it prints nothing. */
 template <typename Number>
 String printFormatted (const char* text, Number number, std::string_view lettersThatFit)
 {
@@ -115,7 +115,7 @@ String printFormatted (const char* text, Number number, std::string_view letters
     return { format.before + printed + format.after };
 }
 
-/** Where the number in a text begins, for readers that want no white space and no "+". */
+/** Start of the number in a text, for parsers that accept neither white space nor "+". */
 const char* startOfNumber (const std::string& text) noexcept
 {
     const char* p = text.c_str();
@@ -124,7 +124,7 @@ const char* startOfNumber (const std::string& text) noexcept
     return *p == '+' && p[1] != '-' ? p + 1 : p;
 }
 
-/** Ten to this power is about as much as the number; only one that is not 0 is asked for. */
+/** The approximate decimal exponent of a non-zero number. */
 long long powerOfTen (std::string_view digits) noexcept
 {
     constexpr long long beyondAllDigits = 1'000'000'000'000;
@@ -135,14 +135,14 @@ long long powerOfTen (std::string_view digits) noexcept
     long long exponent = 0;
     if (mantissa.size() < digits.size()) {
         const auto text = digits.substr (mantissa.size() + (digits[mantissa.size() + 1] == '+' ? 2 : 1));
-        exponent = text.front() == '-' ? -beyondAllDigits : beyondAllDigits; // stays if it is not within 64 bits
+        exponent = text.front() == '-' ? -beyondAllDigits : beyondAllDigits; // kept if the exponent exceeds 64 bits
         std::from_chars (text.data(), text.data() + text.size(), exponent);
     }
     return std::clamp (exponent, -beyondAllDigits, beyondAllDigits) + static_cast<long long> (point) -
            static_cast<long long> (firstDigit);
 }
 
-/** The value of a number that does not fit into a double: what it tends to. */
+/** The limit, 0 or infinity, for a number that does not fit into a double. */
 double limitOf (std::string_view digits) noexcept
 {
     const double magnitude = powerOfTen (digits) < 0 ? 0.0 : std::numeric_limits<double>::infinity();

@@ -5,13 +5,13 @@
 namespace qel
 {
 
-/** The shared empty list of texts. */
+/** A shared empty list. */
 [[nodiscard]] const Vector<String>& emptyStrings();
 
-/** The parts between separators, in order. An empty text has none. */
+/** The parts between separators, in order. Empty text has no parts. */
 [[nodiscard]] Vector<String> split (const String& text, char separator, bool keepEmptyParts);
 
-/** The index of the first match, or -1. Ignoring case compares the letters of ASCII as lower case. */
+/** Index of the first match, or -1. Case is ignored for ASCII letters only. */
 [[nodiscard]] std::ptrdiff_t indexOf (const Vector<String>& texts, const String& wanted, bool ignoreCase = false);
 [[nodiscard]] bool isContained (const Vector<String>& texts, const String& wanted, bool ignoreCase = false);
 

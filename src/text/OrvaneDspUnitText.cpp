@@ -8,7 +8,7 @@ namespace qel
 namespace
 {
 
-/** Beyond this a number is not written out in whole digits. */
+/** Larger numbers are not written as integers. */
 constexpr double largestWhole = 1e15;
 
 bool isWhole (double value) noexcept { return std::abs (value) < largestWhole && std::trunc (value) == value; }

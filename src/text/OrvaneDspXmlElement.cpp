@@ -12,14 +12,14 @@ namespace qel
 namespace
 {
 
-/** Under this name a text node keeps its text. */
+/** A text node stores its text under this name. */
 const String textOfNode = "text";
 
 }
 
 XmlElement::XmlElement (const String& tagName) : tag (tagName) {}
 
-/** Link by link: neither a deep tree nor a long list may unwind through the stack. */
+/** Iterative: neither a deep tree nor a long list may overflow the stack. */
 XmlElement::~XmlElement()
 {
     while (attributes)
@@ -125,7 +125,7 @@ void XmlElement::writeStart (XmlWriter& writer) const
         writer.attribute (attribute->name.str(), attribute->value.str());
 }
 
-/** Without recursion: it keeps the next child of each element that is open in a list of its own. */
+/** Iterative: keeps the next child of each open element in a list. */
 void XmlElement::writeTree (XmlWriter& writer) const
 {
     if (isTextNode())

@@ -9,7 +9,7 @@
 namespace qel
 {
 
-/** An element of an XML tree, or a piece of text in one. A tree may be of any depth. Each tree on one thread. */
+/** An element or a text node of an XML tree of any depth. Each tree on one thread. */
 class XmlElement
 {
 public:
@@ -20,9 +20,9 @@ public:
     XmlElement& operator= (const XmlElement&) = delete;
     ~XmlElement();
 
-    /** A piece of text, to be a child. */
+    /** A text node, to add as a child. */
     [[nodiscard]] static std::unique_ptr<XmlElement> createTextNode (const String& text);
-    /** The root of a file's document, or null if the file is no XML. Never raises; XmlReader tells more. */
+    /** The root of a file's document; null if it is not well-formed XML. Never throws; XmlReader reports the reason. */
     [[nodiscard]] static std::unique_ptr<XmlElement> parse (const File& file);
 
     [[nodiscard]] const String& tagName() const noexcept { return tag; }
@@ -31,32 +31,32 @@ public:
     /** A text node's text; empty for an element. */
     [[nodiscard]] const String& text() const;
 
-    /** Pieces of text count as children. */
+    /** Includes text nodes. */
     [[nodiscard]] std::size_t numberOfChildren() const noexcept;
-    /** Null beyond the end. To walk all children, follow firstChild and nextSibling. */
+    /** Null past the end. To iterate over children, use firstChild and nextSibling. */
     [[nodiscard]] const XmlElement* child (std::size_t index) const noexcept;
     [[nodiscard]] const XmlElement* firstChild() const noexcept { return childList.get(); }
     [[nodiscard]] const XmlElement* nextSibling() const noexcept { return next.get(); }
-    /** Goes to the end of the children; null is ignored. Returns the child. */
+    /** Appends a child and returns it; null is ignored. */
     XmlElement* addChild (std::unique_ptr<XmlElement> child) noexcept;
 
     [[nodiscard]] bool hasAttribute (const String& name) const noexcept;
     [[nodiscard]] String textAttribute (const String& name, const String& fallback = {}) const;
-    /** The number that the text begins with, 0 if it begins with none; the fallback only if the attribute is missing.
-        Beyond an int's range it is the nearest int. */
+    /** Parses the leading number, 0 if there is none, clamped to int; returns the fallback only if the attribute is
+        missing. */
     [[nodiscard]] int intAttribute (const String& name, int fallback = 0) const noexcept;
-    /** As above, in any locale; "inf", "nan" and numbers beyond a double's range come as what they are. */
+    /** As above, in any locale; "inf", "nan" and out-of-range numbers are returned as such. */
     [[nodiscard]] double doubleAttribute (const String& name, double fallback = 0.0) const noexcept;
-    /** An attribute of that name is overwritten; a new one goes to the end. */
+    /** Overwrites an existing attribute; appends a new one. */
     void setAttribute (const String& name, const String& value);
     void setAttribute (const String& name, const char* value) { setAttribute (name, String (value)); }
     void setAttribute (const String& name, int value);
-    /** With as many digits as it takes to read the same number back. */
+    /** With as many digits as needed to read the same number back. */
     void setAttribute (const String& name, double value);
 
-    /** The document as UTF-8 text, lines ending with "\r\n". */
+    /** Writes the document as UTF-8, with "\r\n" line ends. */
     void writeTo (MemoryOutput& output, const Layout& layout) const;
-    /** Writes beside the file and moves the whole over it; on failure the old file stands. Raises as FileWriter. */
+    /** Writes a temporary file and moves it over the target; on failure the old file remains. Throws as FileWriter. */
     bool writeTo (const File& file, const String& dtd, const String& encoding, std::size_t lineWrapLength) const;
 
 private:

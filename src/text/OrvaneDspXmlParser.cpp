@@ -11,7 +11,7 @@ namespace qel
 namespace
 {
 
-/** In bytes. Some thousand times what anyone writes, and still a tree that memory holds. */
+/** In bytes: far larger than any real file, and the tree still fits in memory. */
 constexpr std::uint64_t largestDocument = 256 << 20;
 
 constexpr std::string_view whiteSpace = " \t\r\n";
@@ -51,7 +51,7 @@ void appendUtf8 (std::string& text, unsigned code)
     continued (code);
 }
 
-/** A number from -128 to 127 is a byte, as our own writer tells those above 127; a larger one a character's code. */
+/** A number from -128 to 127 is a byte (our writer escapes those above 127 so), a larger one a code point. */
 bool appendCharacter (std::string& text, int code)
 {
     const bool isSurrogate = code >= 0xd800 && code <= 0xdfff;
@@ -64,7 +64,7 @@ bool appendCharacter (std::string& text, int code)
     return true;
 }
 
-/** Takes an escape, whose "&" is gone, off the text; false if there is none. */
+/** Decodes an escape, whose "&" is already consumed; returns false if it is invalid. */
 bool takeEscape (std::string_view& raw, std::string& decoded)
 {
     for (const auto& [name, character] : namedEscapes)
@@ -165,7 +165,7 @@ bool XmlParser::readDocument()
     return skipAside (false) && (rest.empty() || failAtCharacter (rootName));
 }
 
-/** Skips what may stand before and behind the root element. */
+/** Skips what may precede or follow the root element. */
 bool XmlParser::skipAside (bool doctypeToo)
 {
     for (;;) {
@@ -199,7 +199,7 @@ bool XmlParser::skipDoctype()
     return fail ("malformed DTD");
 }
 
-/** One piece of what the innermost open element holds, or its end. */
+/** Parses one piece of the innermost open element's content, or its end tag. */
 bool XmlParser::readContent()
 {
     if (rest.empty())

@@ -9,7 +9,7 @@
 namespace qel
 {
 
-/** One attribute of an element, its escapes decoded. */
+/** One attribute of an element, unescaped. */
 struct XmlAttribute
 {
     std::string_view name;
@@ -18,33 +18,33 @@ struct XmlAttribute
 
 using XmlAttributes = std::vector<XmlAttribute>;
 
-/** Receives a document piece by piece, in its order. What it is given is valid during the call only. It raises
-    nothing but a lack of memory. */
+/** Receives a document's pieces in order. Arguments are valid only during the call. May throw only
+    std::bad_alloc. */
 class XmlVisitor
 {
 public:
     virtual ~XmlVisitor() = default;
 
-    /** The names of the attributes are distinct. */
+    /** Attribute names are unique. */
     virtual void startElement (std::string_view tagName, const XmlAttributes& attributes) = 0;
-    /** The innermost element that is open ends. */
+    /** Ends the innermost open element. */
     virtual void endElement() = 0;
-    /** A piece of text inside an element; one that is white space alone is not reported. */
+    /** Text inside an element; text of only white space is not reported. */
     virtual void text (std::string_view characters) = 0;
 };
 
-/** Parses XML without building a tree: memory for the text alone. It never raises and never recurses, so no document,
-    however deep, can end the process. A header, a DOCTYPE, comments and instructions are skipped.
-    A visitor learns of a malformed document only by the result, after it was given what stands before the fault. */
+/** Parses XML without building a tree; stores only the text. Never throws and never recurses, so no document, however
+    deep, can crash the process. Headers, DOCTYPE, comments and processing instructions are skipped. A malformed
+    document shows only in the result: the visitor has already received what precedes the fault. */
 class XmlParser
 {
 public:
-    /** Whether the document is well-formed to its end; if not, lastError() says why. */
+    /** Returns whether the document is well-formed to its end; if not, lastError() says why. */
     [[nodiscard]] bool parse (std::string_view document, XmlVisitor& visitor) noexcept;
-    /** The file is read into memory first: whatever happens to it meanwhile, all of the parse sees the same text. */
+    /** Loads the file first, so that the whole parse sees the same text if the file changes meanwhile. */
     [[nodiscard]] bool parse (const File& file, XmlVisitor& visitor) noexcept;
 
-    /** Of the last parse; empty if it succeeded. */
+    /** Error of the last parse; empty if it succeeded. */
     [[nodiscard]] const String& lastError() const noexcept { return error; }
 
 private:
@@ -73,7 +73,7 @@ private:
     XmlVisitor* visitor = nullptr;
     std::string_view rest, rootName;
     String error;
-    std::vector<std::string_view> open; // names of the elements that are open
+    std::vector<std::string_view> open; // names of the open elements
     XmlAttributes attributes;
     std::vector<std::string_view> names;
 };

@@ -8,15 +8,15 @@
 namespace qel
 {
 
-/** Reads XML into a tree. It never raises, whatever the text. White space between elements is dropped. */
+/** Reads XML into a tree. Never throws, whatever the text. White space between elements is dropped. */
 class XmlReader : private XmlVisitor
 {
 public:
-    /** The root element, or null; then lastError() says why. */
+    /** The root element; null on failure, and lastError() says why. */
     [[nodiscard]] std::unique_ptr<XmlElement> read (const String& document) noexcept;
     [[nodiscard]] std::unique_ptr<XmlElement> read (const File& file) noexcept;
 
-    /** Of the last read; empty if it succeeded. */
+    /** Error of the last read; empty if it succeeded. */
     [[nodiscard]] const String& lastError() const noexcept { return parser.lastError(); }
 
 private:

@@ -17,7 +17,7 @@ namespace
 
 constexpr const char* lineEnd = "\r\n";
 
-/** What stands for a character that can't stand for itself; null for one that can, or that goes by its number. */
+/** The named escape for a character; null if it needs none or is escaped by number. */
 const char* namedEscape (char c) noexcept
 {
     switch (c) {
@@ -52,8 +52,8 @@ std::string_view shortest (std::array<char, 64>& buffer, Number value)
 
 }
 
-/** The digits of single precision do for a float, unless reading them as a double and then narrowing it goes astray:
-    rounding twice can end one step aside. */
+/** A float needs only single-precision digits, unless parsing them as a double and then narrowing does not give it
+    back: rounding twice can be off by one step. */
 String xmlNumber (double value)
 {
     std::array<char, 64> buffer{};
@@ -140,7 +140,7 @@ void XmlWriter::attribute (std::string_view name, std::string_view value)
     lineLength += output.position() - before;
 }
 
-/** Text goes on where it stands, since a line end before it would be read back as a part of it. */
+/** Starts no new line: a line break before the text would be read back as part of it. */
 void XmlWriter::text (std::string_view characters)
 {
     if (! open.empty()) {

@@ -10,36 +10,36 @@
 namespace qel
 {
 
-/** How a document is laid out. */
+/** How to lay out a document. */
 struct XmlLayout
 {
     bool allOnOneLine = false;
     bool includeHeader = true;
     String dtd;
     String encoding = "UTF-8";
-    /** Attributes go on in a new line once a line of them is longer. */
+    /** Wraps attributes onto a new line once a line of them is longer. */
     std::size_t lineWrapLength = 60;
 };
 
-/** A number with as many digits as it takes to read the same one back, as a double or as the float that it was. */
+/** A number with as many digits as needed to read it back, as a double or as the original float. */
 [[nodiscard]] String xmlNumber (double value);
 
-/** Writes a document as UTF-8 text piece by piece, lines ending with "\r\n". Between any two pieces the output may be
-    emptied; an element's attributes follow its start. Raises only what the output raises. */
+/** Writes a document as UTF-8 piece by piece, with "\r\n" line ends. The output may be emptied between any two pieces;
+    attributes follow their element's start. Throws only what the output throws. */
 class XmlWriter
 {
 public:
-    /** Both are to outlive the writer. */
+    /** Both must outlive the writer. */
     XmlWriter (MemoryOutput& outputToUse, const XmlLayout& layoutToUse);
 
-    /** What stands before the root: the header, if the layout has one, and the DTD. */
+    /** Writes the header, if the layout has one, and the DTD. */
     void startDocument();
     void endDocument();
 
     void start (std::string_view tagName);
     void attribute (std::string_view name, std::string_view value);
     void text (std::string_view characters);
-    /** Ends the innermost element that is open. */
+    /** Ends the innermost open element. */
     void end();
 
 private:
@@ -61,7 +61,7 @@ private:
     MemoryOutput& output;
     const XmlLayout& layout;
     std::vector<Open> open;
-    std::size_t lineLength = 0; // of the attributes that stand in this line
+    std::size_t lineLength = 0; // of the attributes on this line
 };
 
 }

@@ -60,7 +60,7 @@ TEST (Alloc, TellsWhenThereIsNoMemory)
     EXPECT_EQ (failure ([&] { qel::free (qel::reallocate (p, tooMuch)); }), "bad allocation");
     qel::free (p);
 
-    // What grows is guarded.
+    // Growth is guarded.
     EXPECT_EQ (raised ([&] { qel::Vector<char>().resize (tooMuch); }), "out of memory");
     EXPECT_EQ (raised ([&] { qel::HeapBlock().resize (tooMuch); }), "out of memory");
 }

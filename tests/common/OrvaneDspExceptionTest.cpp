@@ -43,7 +43,7 @@ TEST (Exception, IsSilentWhenItIsCopiedOrToldToBe)
 {
     CaptureStderr();
     const Exception silent ("quiet", {}, false);
-    const Exception copy = silent; // NOLINT(performance-unnecessary-copy-initialization): it is what is tested
+    const Exception copy = silent; // NOLINT(performance-unnecessary-copy-initialization): the copy is under test
     EXPECT_STREQ (copy.what(), "quiet");
     EXPECT_EQ (GetCapturedStderr(), "");
 }
@@ -72,7 +72,7 @@ TEST (ExceptionDeathTest, EndsTheProcessIfAskedTo)
 namespace
 {
 
-/** What comes out of a guard around an operation, and whether it is of the kind for unknown things. */
+/** What a guard around an operation throws, and whether it is the kind for unknown exceptions. */
 std::pair<std::string, bool> guarded (qel::GuardText text, void (*operation)())
 {
     CaptureStderr();

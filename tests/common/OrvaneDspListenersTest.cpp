@@ -15,7 +15,7 @@ struct Listener
     int number = 0;
 };
 
-/** Three listeners in the order of their addresses. */
+/** Three listeners, ordered by address. */
 class ListenersTest : public testing::Test
 {
 protected:
@@ -74,7 +74,7 @@ TEST_F (ListenersTest, MayRemoveOthersDuringTheWalk)
 {
     struct Case
     {
-        std::vector<std::size_t> removed; // by the first that is called
+        std::vector<std::size_t> removed; // by the first one called
         std::vector<int> order;
     };
     const Case cases[] = {

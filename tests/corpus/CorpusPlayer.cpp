@@ -10,13 +10,13 @@
 
 extern "C" int LLVMFuzzerTestOneInput (const std::uint8_t* data, std::size_t size);
 
-/** For targets that have something to set up once. */
+/** For targets with one-time setup. */
 extern "C" __attribute__ ((weak)) int LLVMFuzzerInitialize (int* argc, char*** argv);
 
 namespace
 {
 
-/** Inputs that are the same on every run and platform. */
+/** Generates inputs that are the same on every run and platform. */
 void playRandom (int count)
 {
     std::mt19937 random (4711);
@@ -31,8 +31,8 @@ void playRandom (int count)
 
 }
 
-/** Gives each file of a folder to a fuzz target, in the order of their names, and then as many
-    random inputs as are asked for. An empty folder is a fault. */
+/** Runs a fuzz target on each file of a folder, by name, then on the requested number of random inputs. An empty folder
+    is an error. */
 int main (int argc, char** argv)
 {
     if (argc < 2) {
@@ -47,7 +47,7 @@ int main (int argc, char** argv)
         inputs.push_back (entry.path());
     std::sort (inputs.begin(), inputs.end());
     for (const auto& path : inputs) {
-        std::cout << path.filename().string() << std::endl; // before the call: it names the one that ends the process
+        std::cout << path.filename().string() << std::endl; // first, so that a crash shows its input
         std::ifstream file (path, std::ios::binary);
         const std::vector<char> bytes{ std::istreambuf_iterator<char> (file), {} };
         LLVMFuzzerTestOneInput (reinterpret_cast<const std::uint8_t*> (bytes.data()), bytes.size());

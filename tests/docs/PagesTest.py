@@ -1,4 +1,4 @@
-"""The pages of the documentation as a reader meets them: links lead somewhere, help and documents agree.
+"""Checks the documentation pages: links resolve, help and documents agree.
 
 Called as PagesTest.py ROOT PATCHBENCH."""
 
@@ -23,7 +23,7 @@ PAGES = sorted([*ROOT.glob("*.md"), *(ROOT / "docs").glob("*.md")])
 
 
 class Reader(HTMLParser):
-    """What a browser would find in a page: links, pictures, headings by their anchors."""
+    """A page's links, pictures, and headings by anchor, as a browser would see them."""
 
     def __init__(self, text):
         super().__init__()

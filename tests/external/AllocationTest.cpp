@@ -6,7 +6,7 @@
 
 CONTROL_TESTS (Allocation);
 
-/** Every allocation that our own code makes while a message is taken and carried out. */
+/** Fails every allocation that our own code makes while a message is handled, one at a time. */
 TEST_P (Allocation, AMessageThatGetsNoMemoryHarmsNothingAndTheNextOneWorks)
 {
     auto box = settled ("@numsources 2 @numspeakers 2");
@@ -14,7 +14,7 @@ TEST_P (Allocation, AMessageThatGetsNoMemoryHarmsNothingAndTheNextOneWorks)
     float gain = 0;
     for (const auto* message : everyMessage) {
         if (std::string_view (message) == "open")
-            continue; // a window is JUCE's, which takes no failure
+            continue; // a window is JUCE's, which cannot handle failed allocations
         SCOPED_TRACE (message);
         constexpr int mostAllocations = 3000;
         for (int number = 0; number < mostAllocations; ++number) {

@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-/** The main of tests that run the object on the bench: with windows in memory, pumped by settle(). */
+/** Main for tests that run the object on the bench, with windows in memory, pumped by settle(). */
 int main (int argc, char** argv)
 {
     testing::InitGoogleMock (&argc, argv);

@@ -8,7 +8,7 @@ class ControlTest : public BenchTestInBothModes
 protected:
     ControlTest() { patch.load (ext_main); }
 
-    /** An object that has said all it says when it is made. */
+    /** A new object whose initial output has been discarded. */
     TestBox settled (const std::string& words = "")
     {
         auto box = make ("halcyra~.control " + words);
@@ -17,7 +17,7 @@ protected:
         return box;
     }
 
-    /** What a message makes the object say. */
+    /** The object's output for a message. */
     Messages saying (TestBox& box, const std::string& message)
     {
         box.send (message);
@@ -25,7 +25,7 @@ protected:
         return box.console();
     }
 
-    /** The state as pattr has it. */
+    /** The state as pattr stores it. */
     static std::string stateOf (TestBox& box)
     {
         return bench::textOf (bench::stateOf (*box).value_or (bench::Atoms()));

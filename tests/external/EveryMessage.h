@@ -1,7 +1,7 @@
 #pragma once
 
-/** One good form of each message that changes something, or answers; and a few bad ones. What makes areas, anchors and
-    snapshots comes before what needs them. */
+/** One valid form of each message that changes or returns something, and a few invalid ones. Messages that create
+    areas, anchors and snapshots precede those that need them. */
 constexpr const char* everyMessage[] = {
     "gain 3",
     "reverb tr0 4",

@@ -23,13 +23,13 @@ thread_local bool failed = false;
 
 enum class Owner
 {
-    nobody, // the standard library and this file, on behalf of their caller
-    host,   // and the test
+    nobody, // the standard library and this file, on their caller's behalf
+    host,   // includes the test
     juce,
     product
 };
 
-/** Whose function it is, by its name as the linker knows it: C names are the host's and the system's. */
+/** A function's owner by its linker symbol: C names belong to the host and the system. */
 Owner ownerOf (const char* name) noexcept
 {
     const auto isIn = [name] (const char* scope) { return std::strstr (name, scope) != nullptr; };
@@ -45,7 +45,7 @@ Owner ownerOf (const char* name) noexcept
     return isIn ("N4juce") || isIn ("NK4juce") || isIn ("IN4juce") ? Owner::juce : Owner::product;
 }
 
-/** The functions of this program by their addresses. */
+/** This program's functions by address. */
 struct Functions
 {
     struct Row
@@ -74,7 +74,7 @@ struct Functions
                 rows.push_back ({ static_cast<std::uintptr_t> (address), ownerOf (rest + 3) });
         }
         if (list == nullptr || pclose (list) != 0 || rows.size() < 1000)
-            std::abort(); // without the names nothing would ever fail
+            std::abort(); // without the symbols nothing would ever fail
     }
 
     [[nodiscard]] Owner at (const void* address) const noexcept
@@ -89,7 +89,7 @@ struct Functions
     std::vector<Row> rows;
 };
 
-/** Whether the innermost function that is not the standard library's is ours. */
+/** Whether the innermost function outside the standard library is ours. */
 bool isCalledByProduct()
 {
     static const Functions functions;
@@ -101,12 +101,12 @@ bool isCalledByProduct()
     return false;
 }
 
-/** Whether this is the allocation that is to fail. */
+/** Whether this allocation must fail. */
 bool failsNow()
 {
     if (untilFailure < 0)
         return false;
-    const auto left = std::exchange (untilFailure, -1); // what asks for the caller allocates itself
+    const auto left = std::exchange (untilFailure, -1); // the stack walk itself allocates
     const bool counts = isCalledByProduct();
     untilFailure = counts ? left - 1 : left;
     failed = failed || (counts && left == 0);
@@ -115,7 +115,7 @@ bool failsNow()
 
 }
 
-// The linker leads the program's calls of malloc and realloc here.
+// The linker redirects the program's calls of malloc and realloc here.
 extern "C" void* __real_malloc (std::size_t bytes);
 extern "C" void* __real_realloc (void* p, std::size_t bytes);
 extern "C" __attribute__ ((noinline)) void* __wrap_malloc (std::size_t bytes)

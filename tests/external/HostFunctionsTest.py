@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Every function that the host or the component calls is behind a guard: HostFunctionsTest.py SOURCES
+"""Checks that every function called by the host or the component is guarded: HostFunctionsTest.py SOURCES
 
-The host takes functions as `method`. The one way from a function to a `method` is max_method(), and the one file that
-may use it is the wrapper's. What the component calls is what the listener overrides."""
+The host takes functions as `method`. Only max_method() converts a function to one, and only the wrapper's file may
+use it. The component calls what the listener overrides."""
 
 import pathlib
 import re

@@ -36,7 +36,7 @@ TEST_P (Lifecycle, WhatBangSendsBringsAChangedObjectIntoTheSameState)
     ASSERT_TRUE (patch.connect (*first, 0, *second));
     first.send ("bang");
     settle();
-    // Angles and back cost a position its last bits.
+    // Converting to angles and back loses a position's last bits.
     const auto sent = bench::stateOf (*first).value(), arrived = bench::stateOf (*second).value();
     ASSERT_EQ (sent.size(), arrived.size());
     for (std::size_t i = 0; i < sent.size(); ++i)
@@ -77,7 +77,7 @@ TEST_P (Lifecycle, AFreshObjectHidesAperturesAndShowsItsDefaults)
     EXPECT_EQ (box.attribute ("showaperture"), "0");
     EXPECT_EQ (box.attribute ("defer"), "0");
     EXPECT_EQ (box.attribute ("format"), "aed");
-    EXPECT_EQ (box.attribute ("name"), "\"1\" \"2\""); // the fresh scene overwrites names
+    EXPECT_EQ (box.attribute ("name"), "\"1\" \"2\""); // a new scene resets the names
     EXPECT_EQ (box.attribute ("gain"), "3.");
     EXPECT_EQ (box.attribute ("early_start"), "22.22");
 }
@@ -158,10 +158,10 @@ TEST_P (Lifecycle, LoadingTwiceKeepsOneMessageManager)
 
 TEST_P (Lifecycle, AWindowThatWouldTouchNoScreenOpensOnOne)
 {
-    // The screen in memory has 1400 by 900 pixels; rows of top, left, and where the window comes to stand.
+    // The screen in memory is 1400 by 900 pixels; rows of top, left, and where the window appears.
     const std::pair<const char*, const char*> rows[] = {
         { "50 800", "created 800 50 935 462 Halcyra" },
-        { "899 1399", "created 1399 899 935 462 Halcyra" }, // one pixel of it is seen
+        { "899 1399", "created 1399 899 935 462 Halcyra" }, // one pixel of it is visible
         { "900 0", "created 0 438 935 462 Halcyra" },
         { "0 1400", "created 465 0 935 462 Halcyra" },
         { "-462 0", "created 0 0 935 462 Halcyra" },

@@ -278,14 +278,14 @@ TEST_P (MessagesIn, NumbersThatAreNoneNeverEnterTheState)
         box.send ("shoeboxcorners", list ({ bad, bad, 0, 0, 0, 0 }));
         settle();
     }
-    // Infinity is clipped where there is a range; what is no number is nowhere within one.
+    // Infinity is clipped if there is a range; NaN fits no range.
     for (const auto* name : { "windowmoveable", "showfps", "zoom", "gain", "infinite", "numangulardivisions", "yaw",
                               "aperture", "radius", "sourceslevels", "speakerslevels", "numsources", "direct" })
         box.send (name, list ({ std::nan (""), std::nan (""), 0, 0, 0, 0 }));
     settle();
     EXPECT_EQ (stateOf (box), before);
     EXPECT_FALSE (box.console().empty());
-    EXPECT_EQ (saying (box, "gain 1"), Messages()); // and an ordinary one still lands
+    EXPECT_EQ (saying (box, "gain 1"), Messages()); // and a valid one still lands
     EXPECT_EQ (box.attribute ("gain"), "1.");
 }
 

@@ -29,7 +29,7 @@ constexpr int stepsOfWalk = 13000;
 #endif
 constexpr int stepsBetweenRecalls = 60;
 
-/** What left last by an outlet, by box and first words: "reverb tr0". */
+/** The last output per outlet message, by box and first words: "reverb tr0". */
 using Told = std::map<std::string, bench::Atoms>;
 
 template <typename Part>
@@ -116,7 +116,7 @@ protected:
         told.clear();
     }
 
-    /** One or more steps, until all has been told. */
+    /** One or more steps, until all notifications have been sent. */
     void turn (Dice& dice, const Sizes& sizes)
     {
         const bool isHeld = dice.oneIn (4);
@@ -240,7 +240,7 @@ protected:
         }
     }
 
-    /** A control of the page in front, or something of the scene. */
+    /** A control on the front page, or an object of the scene. */
     juce::Point<int> target (Dice& dice)
     {
         auto& component = componentOf (*walker);
@@ -304,9 +304,9 @@ protected:
             pool[static_cast<std::size_t> (dice.below (30))] = std::move (state);
     }
 
-    // ---- What must hold at any time
+    // ---- Invariants at any time
 
-    /** Whoever is told something and asks for it gets what he was told. */
+    /** Whoever reads back what was just sent gets the same value. */
     void isStoredAlready (const bench::Event& event)
     {
         const auto* box = patch.find (event.box);
@@ -340,7 +340,7 @@ protected:
         }
     }
 
-    // ---- What must hold when a turn has ended
+    // ---- Invariants at the end of a turn
 
     void agree (const TestBox& box)
     {
@@ -485,7 +485,7 @@ protected:
         }
     }
 
-    /** The present state is that of the room, whatever stood before. */
+    /** The present state is the room's, whatever preceded it. */
     void expectRoom (float cubicMetres)
     {
         const auto& model = componentOf (*walker).getModel();
@@ -588,7 +588,7 @@ protected:
                 EXPECT_EQ (to.attribute (name), walker->attribute (name)) << name << " by " << road;
     }
 
-    /** Two of the modes store no yaw: what was there before they were chosen stays. */
+    /** Two of the modes store no yaw: the yaws set before they were selected remain. */
     void yawsArrived (TestBox& to, const std::string& road)
     {
         const auto& sources = componentOf (*walker).getPlane()->GetScene().sources;

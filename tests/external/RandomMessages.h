@@ -5,7 +5,7 @@
 #include <cmath>
 #include <random>
 
-/** What a patch may send to an object of some size, thrown by dice: good and bad messages of every kind. */
+/** Random messages, valid and invalid, of every kind that a patch may send to an object of a given size. */
 namespace walk
 {
 
@@ -50,7 +50,7 @@ private:
 
 inline std::string text (double value) { return bench::textOf (static_cast<float> (value)); }
 
-/** Mostly inside a range and on its ends, at times beyond them. */
+/** Mostly within a range and at its ends, sometimes beyond. */
 inline std::string numberAbout (Dice& dice, double low, double high)
 {
     switch (dice.below (10)) {
@@ -218,7 +218,7 @@ inline std::string randomMessage (Dice& dice, const Sizes& sizes)
     }
 }
 
-/** What a message carries if the bench's words cannot. */
+/** Numbers that the bench's syntax cannot express. */
 inline bench::Atoms badNumbers (Dice& dice)
 {
     bench::Atoms atoms (static_cast<std::size_t> (1 + dice.below (6)));

@@ -6,15 +6,15 @@
 #include "host/bench/WindowDriver.h"
 #include "support/bench/HookClass.h"
 
-/** An object whose patch acts while it speaks: "victim", with a hook on both outlets and on its notifications. Run under
-    the address sanitizer, these tests find whatever is touched after it is gone. */
+/** An object whose patch acts while it is sending: "victim", with a hook on both outlets and on its notifications.
+    Under the address sanitizer these tests find any access after it is freed. */
 class Reentrancy : public ControlTest
 {
 public:
     Reentrancy() { patch.load (hook_main); }
     ~Reentrancy() override { onHook() = nullptr; }
 
-    /** Null once it is freed. */
+    /** Null once freed. */
     bench::Box* victim() { return patch.find ("victim"); }
 
     void send (const std::string& message, bench::Thread thread = bench::Thread::main)
@@ -58,17 +58,17 @@ public:
         settle();
     }
 
-    /** A road by which an object comes to speak. */
+    /** One way to make an object send. */
     struct Road
     {
         std::string name;
         std::function<void (Reentrancy&)> prepare;
         std::function<void (Reentrancy&)> act;
-        bool isHand = false; // on the window, whose every edit speaks
+        bool isHand = false; // edits in the window; each of them sends
     };
 
-    /** Walks the road with an object that is fresh but for its preparation; what the patch does at the speech with this
-        number, from 0. Returns how often the object spoke. */
+    /** Triggers a fresh, prepared object, and runs the patch's reaction at its output with this number, from 0. Returns
+        how often the object sent. */
     int walk (const Road& road, int number, const std::function<void()>& reaction)
     {
         onHook() = nullptr;
@@ -103,7 +103,7 @@ INSTANTIATE_TEST_SUITE_P (DeferMedium, Reentrancy, bothDeferModes, deferModeName
 namespace
 {
 
-/** A value of an attribute that is not its default. */
+/** A non-default value of an attribute. */
 std::string otherValue (const orvanemax::AttributeRow& row)
 {
     const std::string type = row.type;
@@ -123,7 +123,7 @@ std::string otherValue (const orvanemax::AttributeRow& row)
     return " " + std::to_string (row.hasBounds ? 0.7 * row.low + 0.3 * row.high : 2.0);
 }
 
-/** Under `defer 0` the scene is changed within the message, under 1 behind the queue. */
+/** Under `defer 0` the scene changes within the message, under 1 after the queue. */
 void prepareScene (Reentrancy& test, const char* defer)
 {
     for (const auto* message :
@@ -190,7 +190,7 @@ std::vector<Reentrancy::Road> Reentrancy::roads()
         for (const auto* word : { "v", "a", "g", "tab", "-", "cursor left", "ctrl + w" })
             t.key (word);
     });
-    // What was done by hand leaves again as it is taken back, from inside the key that takes it back.
+    // Undoing a user edit sends it again, from within the undo key's handler.
     const auto takenBack = [&] (const char* name, int page, auto&& edit) {
         all.push_back ({ name,
                          [=] (auto& t) {
@@ -229,7 +229,7 @@ TEST_P (Reentrancy, AnObjectMayBeFreedInsideWhateverItSays)
     for (const auto& road : roads()) {
         SCOPED_TRACE (road.name);
         int speeches = 0;
-        // By the first speeches, one in the middle and the last.
+        // At the first outputs, one in the middle and the last.
         for (const int number : { 0, 1, 2 })
             speeches = std::max (speeches, walk (road, number, [this] { patch.free (victim()); }));
         const auto all = walk (road, -1, [] {});
@@ -250,7 +250,7 @@ TEST_P (Reentrancy, AnObjectMayBeToldAnythingInsideWhateverItSays)
     std::size_t next = 0;
     for (const auto& road : roads()) {
         SCOPED_TRACE (road.name);
-        // One reply each, in turn; it speaks itself, and then is not replied to.
+        // One reply each, in turn; replies send too, and are not replied to.
         const auto* reply = replies[next++ % std::size (replies)];
         for (const int number : { 0, 1 })
             walk (road, number, [this, reply] { send (reply); });

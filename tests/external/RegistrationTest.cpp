@@ -37,7 +37,7 @@ TEST_P (Registration, AttributesStandInTheirOrderWithWhatTheirRowsSay)
         expected.emplace_back (row->name);
         const auto words = bench::propertyOf (*box, row->name, "label");
         ASSERT_TRUE (words) << row->name;
-        EXPECT_EQ (words->at (0).a_w.w_sym, gensym (row->label)) << row->name; // blanks and all, in one symbol
+        EXPECT_EQ (words->at (0).a_w.w_sym, gensym (row->label)) << row->name; // including blanks, as one symbol
         const auto minimum = bench::propertyOf (*box, row->name, "minvalue");
         EXPECT_EQ (minimum && ! minimum->empty(), row->hasBounds) << row->name;
     }

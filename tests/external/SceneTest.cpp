@@ -15,7 +15,7 @@ constexpr double pi = 3.14159265358979;
 
 struct Reach
 {
-    const char* message; // an attribute, and a value that is not its default
+    const char* message; // an attribute and a non-default value
     double expected;
     double (*held) (const Plane& plane);
 };

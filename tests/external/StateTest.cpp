@@ -23,7 +23,7 @@ constexpr const char* changes[] = {
     "showradius 1",
     "gridmode none",
     "zoom 0.05",
-    "globalproportion 0.2", // 0.05 has become the least of the margin before
+    "globalproportion 0.2", // 0.05 is now the minimum of the margin above
     "yoffset 5",
     "yoffset -0.",
     "format xyz",
@@ -61,7 +61,7 @@ TEST_P (SavedState, StagesThatCrossTheirNeighboursComeBackInOneGo)
 {
     const std::vector<const char*> receivers[] = {
         {},
-        { "cluster_start 70" }, // cluster_end would stop at it
+        { "cluster_start 70" }, // cluster_end would limit it
         { "cluster_end 290", "early_end 110", "early_start 100", "cluster_start 120" },
     };
     for (const auto& changes : receivers) {
@@ -167,7 +167,7 @@ TEST_P (SavedState, EntriesOfADictionaryThatAreNoAtomsAreToldAndTheOthersTaken)
     const auto before = stateOf (box);
     const auto* documentation = box.record<t_halcyra_control>()->classdescription;
     EXPECT_EQ (saying (box, "dictionary mixed"), Messages{ "error entry gain is not atom ? " });
-    EXPECT_EQ (box.record<t_halcyra_control>()->classdescription, documentation); // it is not the user's to set
+    EXPECT_EQ (box.record<t_halcyra_control>()->classdescription, documentation); // users cannot set it
     EXPECT_EQ (box.leftOutlet(), Messages{ "reverb trl 2." });
     box.send ("trl 1");
     settle();

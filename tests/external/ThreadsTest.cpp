@@ -35,7 +35,7 @@ namespace
 
 constexpr int rounds = 3;
 
-/** One message of each kind that touches the component, an outlet or a window. */
+/** One message of each kind that accesses the component, an outlet or a window. */
 constexpr const char* messages[] = {
     "gain 3",
     "reverb tr0 4",
@@ -70,7 +70,7 @@ constexpr const char* messages[] = {
     "backgroundcolor 1 0 0 1",
 };
 
-/** Whether calls are deferred, and whether the scene is shown as it changes, in every pairing. */
+/** Deferred or not, and with the scene repainted or not, in every combination. */
 constexpr std::array<const char*, 2> settings[] = {
     { "display 0", "defer 0" },
     { "display 0", "defer 1" },
@@ -118,7 +118,7 @@ TEST_P (Threads, BothAtOnceDisturbNeither)
 
 TEST_P (Threads, ThreeAtOnceSendAndAskEverything)
 {
-    // Every message; every attribute's value as it was, and the question for it.
+    // Every message; every attribute, set to its own value and queried.
     auto box = settled ("@numsources 2 @numspeakers 2");
     Messages all (std::begin (messages), std::end (messages));
     for (const auto& name : bench::visibleAttributes (*box)) {

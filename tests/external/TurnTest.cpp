@@ -7,7 +7,7 @@
 #include <functional>
 #include <utility>
 
-/** What comes in one turn, or behind an edit by hand, builds on what was there before it. */
+/** What arrives in one turn, or after a user edit, is based on the state before it. */
 class Turn : public ControlTest
 {
 protected:
@@ -58,7 +58,7 @@ INSTANTIATE_TEST_SUITE_P (DeferMedium, Turn, bothDeferModes, deferModeName);
 namespace
 {
 
-/** What is carried out when it comes, and what waits for the end of the queue. */
+/** Handled at once, or after the queue. */
 constexpr const char* atOnce[] = {
     "source 1 xyz 1 1 0",
     "source 1 x++ 1",
@@ -95,7 +95,7 @@ TEST_P (Turn, EndsAsItsMessagesOneByOneWould)
         box.send (second);
         settle();
         auto state = stateOf (box);
-        for (const auto* name : { "a", "b" }) { // what the snapshots hold
+        for (const auto* name : { "a", "b" }) { // the snapshots' contents
             box.send ("sourcespositions 9 9 9 8 8 8");
             settle();
             box.send (std::string ("recall ") + name);
@@ -120,7 +120,7 @@ TEST_P (Turn, EndsAsItsMessagesOneByOneWould)
 TEST_P (Turn, APartialMessageBehindTheHandLeavesTheRestAsTheHandSetIt)
 {
     auto box = prepared();
-    box.send ("zoom 0.3"); // nothing leaves the window
+    box.send ("zoom 0.3"); // nothing is sent
     openAt (box, 2);
     const auto& component = *box.record<t_halcyra_control>()->component;
     const auto& plane = *component.getPlane();

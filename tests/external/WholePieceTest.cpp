@@ -3,7 +3,7 @@
 #include "gui/plane/PlaneComponent.h"
 #include "support/files/ScratchFolder.h"
 
-/** A whole piece of work: a scene is made, dressed, stored, saved and freed, and a new object takes it over. */
+/** A whole session: a scene is created, styled, stored, saved and freed, and a new object restores it. */
 CONTROL_TESTS (WholePiece);
 
 namespace
@@ -26,7 +26,7 @@ constexpr const char* work[] = {
     "speaker 2 xyz 1 1 0",
     "listener xyz 0.1 0.1 0",
     "listener rpy 1 2 30",
-    // its dress
+    // its style
     "gridmode circular",
     "gridlines 3",
     "dashedgrid 1",
@@ -102,7 +102,7 @@ TEST_P (WholePiece, IsTakenOverByANewObjectDownToThePixel)
     EXPECT_EQ (second.dumpOutlet(), dump);
     EXPECT_EQ (differingPixels (sceneOf (second), picture), 0);
 
-    // The snapshots came along too.
+    // The snapshots were restored too.
     second.leftOutlet();
     second.send ("recall close");
     settle();

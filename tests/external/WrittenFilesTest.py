@@ -1,5 +1,5 @@
-"""The files that the object writes are what others can read: the JSON export by a JSON reader, the reference page and
-the snapshots by an XML reader; and the page tells of the class as the bench sees it."""
+"""Checks the files that the object writes: a JSON parser reads the export, an XML parser the reference page and the
+snapshots; and the page describes the class as the bench sees it."""
 
 import json
 import re
@@ -65,9 +65,9 @@ class WrittenFiles(unittest.TestCase):
         page = xml.parse(self.path("halcyra~.control.maxref.xml")).getroot()
         documented = {m.get("name"): [a.get("type") for a in m.findall("arglist/arg")]
                       for m in page.findall("methodlist/method")}
-        documented["dictionary"] = documented.pop("readdict")  # the documentation has a name of its own for it
+        documented["dictionary"] = documented.pop("readdict")  # documented under its own name
         kinds = {line[2]: line[3:] for line in self.heard("method")}
-        # what only the host calls is not documented, but for the double click
+        # messages for the host are not documented, except the double click
         self.assertEqual(set(kinds) - set(documented), {"assist", "getvalueof", "setvalueof"})
         for name, arguments in documented.items():
             with self.subTest(message=name):
@@ -78,7 +78,7 @@ class WrittenFiles(unittest.TestCase):
 
 
 def type_of(word):
-    """The documented type of a value that the bench prints: quotation marks tell symbols of digits from numbers."""
+    """The documented type of a value as printed by the bench: quotes distinguish symbols of digits from numbers."""
     if re.fullmatch(r"-?\d+", word):
         return "int"
     return "float" if re.fullmatch(r"-?(\d+\.\d*|\d*\.\d+|\d+)(e[-+]\d+)?", word) else "symbol"

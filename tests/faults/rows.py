@@ -1,8 +1,8 @@
-"""The faults that the suite must catch: file, a piece of its code that stands there once, what replaces it, what breaks.
+"""The faults that the suite must catch: file, code that occurs there once, its replacement, the consequence.
 
-A row is a kind of fault rather than a place: order, signs, limits, missing notifications, swapped fields, dropped
-guards, off-by-one, the wrong thread, a lost repaint. When the code of a row changes, move the fault along; a row that
-no longer fits fails the suite."""
+A row stands for a kind of fault rather than a place: order, signs, limits, missing notifications, swapped fields,
+dropped guards, off-by-one, wrong thread, lost repaint. When a row's code changes, update the row; a row that no longer
+fits fails the suite."""
 
 ROWS = [
     # src/common, src/memory, src/math
@@ -41,7 +41,7 @@ ROWS = [
     ("src/geometry/OrvaneDspSpeakerAlignment.cpp", "alignment.points[i] = toSecond >= toFirst ? first : second;",
      "alignment.points[i] = toSecond >= toFirst ? second : first;", "a speaker is moved through the listener"),
     ("src/geometry/OrvaneDspSpeakerAlignment.cpp", "343.2f", "340.0f", "the speed of sound"),
-    ("src/geometry/OrvaneDspCoordinatesSnapshot.cpp", "places.erase (place); // first: its key is the snapshot's name", "",
+    ("src/geometry/OrvaneDspCoordinatesSnapshot.cpp", "places.erase (place); // first: its key points into the snapshot's name", "",
      "after a removal a snapshot's name leads to freed memory"),
     ("src/geometry/OrvaneDspCoordinatesSnapshot.cpp", "output.resize (std::min (a.size(), b.size()));",
      "output.resize (std::max (a.size(), b.size()));", "two snapshots of different sizes read past the end"),
@@ -67,7 +67,7 @@ ROWS = [
      "return partsMatch (other.names, names);", "a pattern on the left matches nothing"),
     ("src/osc/OrvaneDspOscBundle.cpp", "add (value.red).add (value.green).add (value.blue)",
      "add (value.red).add (value.blue).add (value.green)", "a colour's components in a bundle"),
-    ("src/osc/OrvaneDspOscBundle.cpp", "const auto count = other.size(); // the other may be this very bundle\n    for (std::size_t i = 0; i < count; ++i)",
+    ("src/osc/OrvaneDspOscBundle.cpp", "const auto count = other.size(); // the other may be this bundle itself\n    for (std::size_t i = 0; i < count; ++i)",
      "for (std::size_t i = 0; i + 1 < other.size(); ++i)", "the last element of a bundle is not appended"),
 
     # src/registry
@@ -91,7 +91,7 @@ ROWS = [
     ("src/max/PattrState.cpp", "if (*ac > 0 && *av != nullptr)", "if (*av != nullptr)", "memory of size 0 is taken for the caller's"),
     ("src/max/DictionaryState.cpp", "if (object_attr_usercanset (object, key) == 0)",
      "if (object_attr_get (object, key) == nullptr)", "a dictionary overwrites the documentation"),
-    ("src/max/DictionaryState.cpp", "dictionary_clear (dictionary.get()); // receivers have copied what they want", "",
+    ("src/max/DictionaryState.cpp", "dictionary_clear (dictionary.get()); // receivers have copied what they need", "",
      "a dictionary's entries outlive the call of its receivers"),
     ("src/max/AttributeServices.cpp", "if (! force && !", "if (force && !", "reset touches what is not to be reset"),
     ("src/max/AttributeServices.cpp", "dumpOne (x, outlet, atoms.symbol (0));", "dumpAll (x, outlet);", "dump NAME dumps all"),
@@ -168,7 +168,7 @@ ROWS = [
     ("src/external/SnapshotMessages.cpp", "x->plane->RemoveAllSnapshots();", "", "clearsnapshot without a name keeps them"),
     ("src/external/SnapshotMessages.cpp", "nameOf (atoms[0]), nameOf (atoms[1]), atoms.number (2)",
      "nameOf (atoms[1]), nameOf (atoms[0]), atoms.number (2)", "xsnapshot goes the other way"),
-    ("src/external/HalcyraControl.cpp", "hideApertures (x); // whatever was saved: a new object starts without", "",
+    ("src/external/HalcyraControl.cpp", "hideApertures (x); // a new object starts without apertures, whatever was saved", "",
      "a saved showaperture comes back on"),
     ("src/external/HalcyraControl.cpp", "sysmem_freeptr (x->*array.atoms);", "static_cast<void> (x);", "the per-source arrays leak"),
     ("src/external/HalcyraControl.cpp", "io == ASSIST_INLET ? \"inlet\" : index == 0 ? \"outlet\"", "io == ASSIST_INLET ? \"inlet\" : index == 1 ? \"outlet\"",
@@ -188,7 +188,7 @@ ROWS = [
      "only the first speaker that moved reaches the attribute"),
     ("src/external/MaxHalcyraListener.cpp", "if (! std::equal (before.begin(), before.end(), values))\n        touchAttribute", "touchAttribute",
      "a filter that did not change is touched"),
-    ("src/external/MaxHalcyraListener.cpp", "mirrorSourceYaw (x, static_cast<std::size_t> (sourceIndex)); // which may follow", "",
+    ("src/external/MaxHalcyraListener.cpp", "mirrorSourceYaw (x, static_cast<std::size_t> (sourceIndex)); // may follow the position", "",
      "a yaw that follows the hand does not reach its attribute"),
     ("src/external/DeferredMessages.cpp", "if (mirror.tellsOfMessages)", "if (mirror.tellsOfMessages || number >= 0)",
      "a filter message notifies though its filter is not one that does"),
@@ -319,7 +319,7 @@ ROWS = [
     ("host/bench/window/JuceWindowDriver.cpp", "entry->second.component == component)", "true)",
      "a window that goes late takes another's place"),
 
-    # what speaks before what is stored; angles; what belongs to another; the hand on what may not be edited
+    # notifications before the value is stored; angles; other owners' data; edits of what is not editable
     ("src/external/MaxHalcyraListener.cpp", "    mirrorSpeakers (x);\n    qel::Point3Array positions;",
      "    const struct Late {\n        t_halcyra_control* x;\n        ~Late() { mirrorSpeakers (x); }\n    } late{ x };\n"
      "    qel::Point3Array positions;", "the speakers are told before they are stored"),
@@ -346,11 +346,11 @@ ROWS = [
      "! surface.options.listenerSelected || ! altAlone", "the wheel turns a listener that is not editable"),
 ]
 
-# The rows that were planted and seen caught: CI plays five of them. Add a row's number once you have seen it caught.
+# Rows that were planted and seen caught: CI runs five of them. Add a row's number once you have seen it caught.
 CAUGHT = [0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 21, 25, 26, 27, 28, 29, 30, 31, 32, 33, 35,
           63, 64, 65, 66, 67, 68, 69, 70, 71, 72, 83, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112, 113, 114,
           115, 116, 117, 119, 121, 122, 123, 124, 144, 145, 146, 147, 163, 164, 165, 166, 170, 174, 175, 176, 177,
           178]
 
-# Rows that no test catches, with the reason; CI does not play them.
+# Rows that no test catches, with the reason; CI skips them.
 SURVIVORS = {}

@@ -117,7 +117,7 @@ TEST (File, ReadsAllBytesOfOrdinaryFilesAlone)
     EXPECT_TRUE (pipe.readAll().empty()) << "nobody writes into it";
 }
 
-#ifndef __SANITIZE_ADDRESS__ // which ends the process when memory runs out
+#ifndef __SANITIZE_ADDRESS__ // it aborts when memory runs out
 TEST (File, WhatMemoryDoesNotHoldIsReadAsNothing)
 {
     const ScratchFolder scratch;

@@ -27,7 +27,7 @@ enum Call
 };
 constexpr const char* callNames[] = { "write", "fsync", "close", "rename" };
 
-/** How many times more each call is refused. */
+/** How many more times each call fails. */
 std::array<int, numberOfCalls> refusals{};
 
 bool isRefused (Call call)
@@ -67,7 +67,7 @@ extern "C"
 namespace
 {
 
-/** While it lives, the system refuses all bytes of a file beyond a number, as on a disk that is full by then. */
+/** Limits files to this many bytes for its lifetime, as a full disk would. */
 class DiskOfBytes
 {
 public:
@@ -134,7 +134,7 @@ TEST_F (SafeReplacement, ADiskThatIsFullAtAnyByteLeavesTheOldFileWhole)
     EXPECT_NE (target.readAll().str().find ("second"), std::string::npos);
 }
 
-/** Snapshots go out in pieces: the disk may be full behind any of them. */
+/** Snapshots are written in pieces: the disk may be full after any of them. */
 TEST_F (SafeReplacement, ADiskThatIsFullBetweenThePiecesOfASnapshotFileLeavesTheOldFileWhole)
 {
     qel::CoordinatesSnapshotStore store;

@@ -12,7 +12,7 @@ using qel::Point3Array;
 namespace
 {
 
-/** The hull's corners as grid points again. */
+/** The hull's corners, converted back to grid points. */
 GridPoints hullOf (const GridPoints& points, int exponent)
 {
     GridPoints corners;
@@ -37,7 +37,7 @@ void expectHull (const GridPoints& points, const GridPoints& hull)
         }
         for (const auto& p : points) {
             EXPECT_GE (turn (a, b, p), 0);
-            if (hull.size() <= 2) { // all in a line: between the two ends
+            if (hull.size() <= 2) { // collinear: between the two ends
                 EXPECT_LE (Wide (a.x - p.x) * (b.x - p.x) + Wide (a.y - p.y) * (b.y - p.y), 0);
             }
         }

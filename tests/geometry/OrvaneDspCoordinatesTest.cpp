@@ -108,7 +108,7 @@ TEST (SetPoint, ReadsEveryFormat)
     const float root = std::sqrt (0.5f);
     const Row rows[] = {
         { "xyz", { 1, 2, 3 }, { 1, 2, 3 } },
-        { "xyz", { 1, 2, 3, infinity }, { 1, 2, 3 } }, // the fourth is not looked at
+        { "xyz", { 1, 2, 3, infinity }, { 1, 2, 3 } }, // the fourth is ignored
         { "xy", { 1, 2 }, { 1, 2, 0 } },
         { "x++", { 1 }, { 4, 4, 0 } },
         { "y++", { -1 }, { 3, 3, 0 } },
@@ -228,7 +228,7 @@ TEST (WritePoint, KnowsTheAbsoluteFormsAlone)
     EXPECT_FALSE (writePoint ({ std::nanf (""), 0, 0 }, CoordinateType::xyz, values));
 }
 
-/** What a format leaves out is set to what it reads: the plane, or the unit sphere. */
+/** Missing components are set as the reader sets them: in the plane, or on the unit sphere. */
 TEST (WritePoint, IsReadBackToTheSamePoint)
 {
     std::mt19937 random (3);

@@ -116,7 +116,7 @@ TEST (Spherical, SetsOneComponentAndKeepsTheOthers)
     for (int i = 0; i < 2'000; ++i) {
         const Point3 p = anyPoint (random);
         if (std::abs (elevation (p)) > 80)
-            continue; // so near to the pole the azimuth is not told well
+            continue; // so close to the pole the azimuth is inaccurate
 
         const Point3 turned = withAzimuth (p, 33);
         EXPECT_NEAR (azimuth (turned), 33, 1e-3f);

@@ -12,7 +12,7 @@ namespace qel
 
 inline void PrintTo (const Point3& p, std::ostream* out) { *out << "(" << p.x << ", " << p.y << ", " << p.z << ")"; }
 
-/** Near in every coordinate, relative to the size of what is expected. */
+/** Compares each coordinate, relative to the size of the expected point. */
 MATCHER_P2 (IsNear, expected, tolerance, "is near " + testing::PrintToString (expected))
 {
     const Point3 d = arg - expected;
@@ -21,7 +21,7 @@ MATCHER_P2 (IsNear, expected, tolerance, "is near " + testing::PrintToString (ex
            std::abs (d.z) <= tolerance * size;
 }
 
-/** As near as single precision allows after a few steps. */
+/** Within the precision of a few single-precision steps. */
 inline auto isAbout (const Point3& expected) { return IsNear (expected, 2e-6f); }
 
 }

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-/** Random sets of points on a grid of whole numbers, where the tests can calculate without rounding. */
+/** Random point sets on an integer grid, where tests can compute exactly. */
 namespace pointsets
 {
 
@@ -23,20 +23,20 @@ struct GridPoint
 };
 using GridPoints = std::vector<GridPoint>;
 
-/** Twice the area of a triangle; positive when it turns to the left. */
+/** Twice a triangle's signed area; positive if it turns left. */
 inline Wide turn (GridPoint a, GridPoint b, GridPoint c)
 {
     return Wide (b.x - a.x) * (c.y - a.y) - Wide (b.y - a.y) * (c.x - a.x);
 }
 
-/** Positive if d lies inside the circle through a, b, c, which turn to the left. Coordinates up to 2 to the 28. */
+/** Positive if d lies inside the circle through a, b, c (which turn left). Coordinates up to 2 ^ 28. */
 inline Wide inside (GridPoint a, GridPoint b, GridPoint c, GridPoint d)
 {
     const auto lift = [&] (GridPoint p) { return Wide (p.x - d.x) * (p.x - d.x) + Wide (p.y - d.y) * (p.y - d.y); };
     return lift (a) * turn (d, b, c) + lift (b) * turn (d, c, a) + lift (c) * turn (d, a, b);
 }
 
-/** The points times a power of two, which leaves every sign as it is. */
+/** Scales by a power of two, which preserves every sign. */
 inline qel::Point3Array scaled (const GridPoints& points, int exponent)
 {
     qel::Point3Array result;
@@ -79,7 +79,7 @@ constexpr Kind kinds[] = {
           return GridPoint{ within (r, 1), within (r, 1'000'000) };
       } },
     { "on one circle",
-      [] (std::mt19937& r) { // the whole points of radius 65
+      [] (std::mt19937& r) { // the integer points at radius 65
           constexpr GridPoint eighth[] = { { 65, 0 }, { 63, 16 }, { 60, 25 }, { 56, 33 }, { 52, 39 } };
           auto p = eighth[r() % 5];
           if (r() % 2 != 0)
@@ -92,7 +92,7 @@ constexpr Kind kinds[] = {
       } },
 };
 
-/** Up to a number of points of a kind, repeated ones included. */
+/** Up to a number of points of one kind, possibly with duplicates. */
 inline GridPoints draw (const Kind& kind, std::mt19937& random, unsigned most)
 {
     GridPoints points (random() % (most + 1));
@@ -101,7 +101,7 @@ inline GridPoints draw (const Kind& kind, std::mt19937& random, unsigned most)
     return points;
 }
 
-/** The same without repeated points, in random order. */
+/** As above without duplicates, in random order. */
 inline GridPoints distinct (const GridPoints& points)
 {
     GridPoints result;

@@ -17,7 +17,7 @@
 namespace
 {
 
-/** Runs once, between the first bytes that are read of a file and the others. */
+/** Runs once, after the first bytes of a file have been read. */
 std::function<void()> behindTheFirstBytes;
 
 }
@@ -214,7 +214,7 @@ TEST_F (SnapshotFile, RefusesToWriteNothingOrOverAFile)
     EXPECT_EQ (scratch.names(), std::set<std::string>{ "there.xml" });
 }
 
-/** Floats of all sizes, those at the limits among them. */
+/** Floats of all magnitudes, including the limits. */
 std::vector<float> manyFloats (std::size_t count)
 {
     using Limits = std::numeric_limits<float>;

@@ -98,7 +98,7 @@ TEST (Triangulation, FailsWithNoTrianglesWherePointsCoincideOrLieInALine)
         { { 0, 0, 0 }, { 1, 1, 5 }, { 2, 2, 0 } },
         { { 0, 3, 0 }, { 0, 1, 0 }, { 0, 2, 0 }, { 0, 7, 0 } },
         { { 0, 0, 0 }, { 1, 0, 0 }, { 0, 1, 0 }, { 1, 0, 9 } },
-        { { 0, 0, 0 }, { 1, 0, 0 }, { 0, 1, 0 }, { 1, 1e-14f, 0 } }, // nearer than can be told apart
+        { { 0, 0, 0 }, { 1, 0, 0 }, { 0, 1, 0 }, { 1, 1e-14f, 0 } }, // closer than the tolerance
         { { 0, 0, 0 }, { 1e-20f, 0, 0 }, { 0, 1e-20f, 0 } },
         { { 0, 0, 0 }, { 1, 0, 0 }, { 0, nan, 0 } },
         { { 0, 0, 0 }, { 1, 0, 0 }, { inf, 1, 0 } },
@@ -133,7 +133,7 @@ TEST (PlanarPredicates, AreFreeOfRounding)
     std::mt19937 random (23);
     int zeros = 0;
     for (int i = 0; i < 100'000; ++i) {
-        // Four points near a line, or near a circle by two mirrored pairs, of very different sizes.
+        // Four points near a line, or near a circle through two mirrored pairs, of very different sizes.
         const auto big = [&] { return within (random, 1 << 9) * (1 << random() % 18); };
         const GridPoint a{ big(), big() }, step{ within (random, 1 << 9), within (random, 1 << 9) };
         const GridPoint b{ a.x + step.x * 3, a.y + step.y * 3 },

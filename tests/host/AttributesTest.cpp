@@ -183,11 +183,11 @@ TEST_F (BenchAttributes, OfAClassWithoutADictionaryComeAsTheWordsOfTheBox)
     class_register (CLASS_BOX, c);
     EXPECT_EQ (make ("bench.plain 1 x @count 5 @what 2").attribute ("count"), "5");
     EXPECT_EQ (console(), Messages{ "error \"what\" is not a valid attribute argument" });
-    EXPECT_EQ (make ("bench.plain").attribute ("count"), "0"); // its default is nobody's business but the class's
+    EXPECT_EQ (make ("bench.plain").attribute ("count"), "0"); // only the class uses its default
     EXPECT_EQ (plain, (Messages{ "1 x", "" }));
 }
 
-/** What a function reads that takes a 32-bit count for 64 bits wide. */
+/** What a function that takes a 32-bit count as 64 bits would read. */
 std::int64_t wideCount = 0;
 
 void wideMessage (t_object*, t_symbol*, std::int64_t argc, t_atom*) { wideCount = argc; }

@@ -189,8 +189,8 @@ void addMethods (t_class* c)
     class_addmethod (c, max_method (example_setvalueof), "setvalueof", A_CANT, 0);
     class_addmethod (c, max_method (example_preset), "preset", 0);
     class_addmethod (c, max_method (example_bang), "twice", A_SYM, 0);
-    class_addmethod (c, max_method (example_echo), "twice", A_GIMME, 0); // the later one is reached
-    class_addmethod (c, max_method (example_echo), "level", A_GIMME, 0); // an attribute has this name too
+    class_addmethod (c, max_method (example_echo), "twice", A_GIMME, 0); // the later one is called
+    class_addmethod (c, max_method (example_echo), "level", A_GIMME, 0); // also the name of an attribute
 }
 
 void addAttribute (t_class* c, const char* name, const char* type, t_clong offset, const char* preset, int flags = 0)

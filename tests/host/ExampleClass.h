@@ -1,14 +1,14 @@
 #pragma once
 #include "host/api/MaxApi.h"
 
-/** A small external of every kind of message and attribute, written as Max externals are: the bench's guinea pig. */
+/** A small external with every kind of message and attribute, written the way Max externals are. */
 struct t_example
 {
     t_object ob;
     void* dump;
     void* out;
     t_clong count;
-    t_clong guard; // next to a "long" attribute: an access 8 bytes wide would hit it
+    t_clong guard; // next to a "long" attribute: a write 8 bytes wide would change it
     float level;
     double fine;
     char flag;
@@ -18,13 +18,13 @@ struct t_example
     t_clong seriesCount;
     t_clong seriesGuard;
     t_clong custom;    // set through an accessor of its own
-    t_clong lastCount; // the count that the last accessor or message got
-    t_clong ranOnMain; // whether the last deferred call ran there
+    t_clong lastCount; // the count passed to the last accessor or message
+    t_clong ranOnMain; // whether the last deferred call ran on the main thread
     void* queueElement;
 };
 
-/** The entry point: registers "bench.example". */
+/** Entry point: registers "bench.example". */
 t_clong example_main (void*);
 
-/** How many objects of the class were freed so far. */
+/** How many objects of the class have been freed. */
 int exampleObjectsFreed();

@@ -8,5 +8,5 @@ struct MaxOperation
     void (*function)();
 };
 
-/** Every operation that host/api declares; the table is made from the declarations. */
+/** Every operation declared in host/api; generated from the declarations. */
 const std::vector<MaxOperation>& declaredMaxOperations();

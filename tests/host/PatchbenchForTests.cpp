@@ -1,7 +1,7 @@
 #include "ExampleClass.h"
 #include "host/bench/patchbench/Program.h"
 
-/** patchbench with the example class in place of the product, and without windows. */
+/** patchbench with the example class instead of the product, and without windows. */
 int main (int argc, char** argv)
 {
     const auto find = [] (const std::string& name) -> bench::Entry {

@@ -30,7 +30,7 @@ TEST (Patchbench, EndsWithTheStatusOfWhatWentWrong)
     folder.write ("status test.patch", "new a bench.example\nsend a nonsense\n");
     const auto file = (folder / "status test.patch").string();
     EXPECT_EQ (statusOf ({ file.c_str() }), 0);
-    EXPECT_EQ (statusOf ({ "--defer-medium", "now", "--trace", file.c_str(), file.c_str() }), 1); // "a" is there
+    EXPECT_EQ (statusOf ({ "--defer-medium", "now", "--trace", file.c_str(), file.c_str() }), 1); // "a" already exists
     EXPECT_EQ (statusOf ({ "no such file" }), 1);
     EXPECT_EQ (statusOf ({ "--window", "sideways", file.c_str() }), 2);
     EXPECT_EQ (statusOf ({ "--bogus" }), 2);
@@ -38,7 +38,7 @@ TEST (Patchbench, EndsWithTheStatusOfWhatWentWrong)
     EXPECT_EQ (statusOf ({ "--version" }), 0);
 }
 
-/** The whole program on a file of this text; gives what it complains. */
+/** Runs the whole program on a file with this text; returns its complaints. */
 std::string complaintsAbout (const std::string& name, const std::string& content, int expectedStatus = 1)
 {
     const ScratchFolder folder;

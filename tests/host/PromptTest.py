@@ -1,4 +1,4 @@
-"""The prompt on a pseudo-terminal, judged by what a terminal would show: PromptTest.py PATCHBENCH"""
+"""Runs the prompt on a pseudo-terminal and checks what a terminal would show: PromptTest.py PATCHBENCH"""
 
 import os
 import pty
@@ -21,7 +21,7 @@ PATIENCE = 10.0  # seconds that a busy machine may take for one step
 
 
 class Terminal:
-    """The bench behind a terminal of its own. home: where its history is; None: no HOME at all."""
+    """The bench on its own terminal. home: folder of its history; None: HOME is not set."""
 
     def __init__(self, columns=80, rows=24, home=None, folder="."):
         self.screen = pyte.Screen(columns, rows)
@@ -73,7 +73,7 @@ class Terminal:
         self.wait_for(lambda shown: shown[-len(lines):] == list(lines))
 
     def end(self):
-        """Reads on to the end of the program; returns its status."""
+        """Reads until the program ends; returns its status."""
         end = time.monotonic() + PATIENCE
         while self.process.poll() is None and time.monotonic() < end:
             self.read(0.05)
@@ -145,7 +145,7 @@ class Prompt(unittest.TestCase):
 
     def test_completions_are_listed_below_and_the_line_comes_back(self):
         with Terminal() as terminal:
-            terminal.type("dis\t\x15")  # a single one is completed, and taken away again
+            terminal.type("dis\t\x15")  # a single candidate is completed; Ctrl+U erases it
             terminal.type("di\t")
             terminal.wait_for(lambda lines: lines[-1] == "> di" and any("dialog" in line and "dict" in line and "disconnect" in line for line in lines))
             self.assertEqual(terminal.screen.cursor.x, 4)

@@ -93,7 +93,7 @@ TEST_P (BenchQueues, RunAQueueElementOnceHoweverOftenItWasSet)
     box.send ("qelem");
     settle();
     EXPECT_EQ (box.leftOutlet(), Messages{ "tick" });
-    qelem_set (nullptr); // allowed: many an object never made its element
+    qelem_set (nullptr); // allowed: many objects never created their element
 }
 
 TEST_P (BenchQueues, EndALoopThroughTheQueueWithTheHostsMessage)

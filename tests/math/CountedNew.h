@@ -1,5 +1,5 @@
 #pragma once
 #include <cstddef>
 
-/** How often operator new was called in this program. */
+/** Calls of operator new in this program so far. */
 std::size_t newCalls() noexcept;

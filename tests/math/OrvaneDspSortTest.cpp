@@ -15,7 +15,7 @@ namespace
 constexpr SortMethod methods[] = { SortMethod::introsort, SortMethod::quicksort, SortMethod::heapsort,
                                    SortMethod::insertionSort };
 
-/** Orders that quicksorts are known to stumble over. */
+/** Worst-case orders for common quicksorts. */
 std::vector<Vector<int>> awkwardArrays (std::size_t size)
 {
     qel::Random random (static_cast<unsigned> (size));
@@ -56,7 +56,7 @@ TEST (Sort, IsShallowAndFastOnWhatQuicksortHates)
     }
     Vector<int> rising (20'000);
     std::iota (rising.begin(), rising.end(), 0);
-    qel::sort (rising, SortMethod::quicksort); // 20,000 levels deep if it went down into the larger part
+    qel::sort (rising, SortMethod::quicksort); // 20,000 levels deep if it recursed into the larger part
     EXPECT_TRUE (std::is_sorted (rising.begin(), rising.end()));
 }
 

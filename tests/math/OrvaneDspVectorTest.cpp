@@ -112,7 +112,7 @@ enum class Fault
 };
 Fault fault = Fault::none;
 
-/** An element that cannot be copied just now. */
+/** An element whose copy may fail. */
 struct Fragile
 {
     Fragile() = default;

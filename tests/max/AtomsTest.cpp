@@ -32,7 +32,7 @@ t_atom of (const char* word)
     return atom;
 }
 
-/** A list that lives as long as the test's statement. */
+/** A temporary list for one statement. */
 struct List
 {
     template <typename... Values>

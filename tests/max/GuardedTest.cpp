@@ -9,7 +9,7 @@
 namespace
 {
 
-/** What an object's function throws, by the number of the row. */
+/** What an object's function throws, by row number. */
 struct Thrown
 {
     void (*fail)();

@@ -32,13 +32,13 @@ constexpr PairRow pairRows[] = {
     { "/a/b", "/a/b", true, true },
     { "/a/b", "/a/c", false, false },
     { "/a/b", "/a", false, true },
-    { "/a", "/a/b", false, true }, // the shorter side decides how far
+    { "/a", "/a/b", false, true }, // the shorter side decides how many parts count
     { "/axis/color", "/axis", false, true },
     { "/axis2", "/axis", false, false },
     { "/a//b", "/a/b/", true, true },
     { "/source/*/xyz", "/source/1/xyz", true, true },
     { "/source/*/xyz", "/source/1/2/xyz", false, false },
-    { "/source/1/xyz", "/source/*/xyz", true, true }, // the pattern may stand on either side
+    { "/source/1/xyz", "/source/*/xyz", true, true }, // either side may be the pattern
     { "/source/1/xyz", "/source/*", false, true },
     { "/source/*", "/source/1/xyz", false, true },
     { "/source/*/xyz", "/source/1", false, false }, // a pattern with more parts than its text
@@ -46,8 +46,8 @@ constexpr PairRow pairRows[] = {
     { "/a[!bc]d", "/abd", false, false },
     { "/{foo,bar}/x", "/bar/x", true, true },
     { "/*", "/", false, false },
-    { "/*", "/?*", true, true },    // two patterns: the other one is held against the text of this
-    { "/?b", "/[?]b", true, true }, // as the text of another pattern, a wildcard is a plain character
+    { "/*", "/?*", true, true },    // two patterns: the other one is matched against this one's text
+    { "/?b", "/[?]b", true, true }, // as text of another pattern, a wildcard is an ordinary character
     { "/[?]b", "/?b", false, false },
 };
 

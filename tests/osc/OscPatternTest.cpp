@@ -17,7 +17,7 @@ struct MatchRow
 };
 
 constexpr MatchRow matchRows[] = {
-    // plain characters
+    // ordinary characters
     { "", "", true },
     { "", "a", false },
     { "abc", "abc", true },
@@ -31,7 +31,7 @@ constexpr MatchRow matchRows[] = {
     { "a*c", "abcbc", true },
     { "a*c", "abcb", false },
     { "**", "a", true },
-    { "**", "", false }, // at the text's end only a last * holds
+    { "**", "", false }, // at the end of the text only a final * matches
     { "a**", "a", false },
     { "a*{}", "a", false },
     { "a*[]", "a", false },
@@ -47,9 +47,9 @@ constexpr MatchRow matchRows[] = {
     { "a?", "a", false },
     { "??", "\xc3\xa9\xe2\x82\xac", true }, // é€: two characters of two and three bytes
     { "?", "\xf0\x9f\x8e\xb9", true },
-    { "??", "\xff\xfe", true },        // bytes that are no UTF-8 stand for themselves
-    { "?", "\xe2\x82", false },        // a cut character counts by its bytes
-    { "\x80", "\xed\xb2\x80", false }, // a surrogate's three bytes are no character either
+    { "??", "\xff\xfe", true },        // invalid UTF-8 bytes match themselves
+    { "?", "\xe2\x82", false },        // a truncated character counts per byte
+    { "\x80", "\xed\xb2\x80", false }, // a surrogate's three bytes are not one character
     { "A", "\xe0\x81\x81", false },    // nor is a longer way to write one
     // classes
     { "a[bc]d", "abd", true },
@@ -58,10 +58,10 @@ constexpr MatchRow matchRows[] = {
     { "a[!bc]d", "abd", false },
     { "[abc]", "", false },
     { "[!a]", "", false },
-    { "[a!]", "!", true },  // no inversion behind a member
-    { "[!!]", "!", false }, // only once: not an exclamation mark
+    { "[a!]", "!", true },  // no inversion after a member
+    { "[!!]", "!", false }, // only the first inverts
     { "[!!]", "a", true },
-    { "x[]y", "xy", true }, // an empty class stands for nothing
+    { "x[]y", "xy", true }, // an empty class matches nothing
     { "x[!]y", "xy", true },
     { "x[!]y", "xay", false },
     { "[abc", "a", false },
@@ -73,13 +73,13 @@ constexpr MatchRow matchRows[] = {
     { "[a-c]", "c", true },
     { "[a-c]", "d", false },
     { "[0-9a-f]", "e", true },
-    { "[c-a]", "c", true }, // a range downwards adds nothing
+    { "[c-a]", "c", true }, // a descending range is empty
     { "[c-a]", "b", false },
     { "[c-a]", "a", false },
     { "[a-c-e]", "d", true },
     { "[!a-c]", "d", true },
     { "[!a-c]", "b", false },
-    { "[a-]]", "-", true }, // behind a hyphen the bracket is taken with it
+    { "[a-]]", "-", true }, // after a hyphen the bracket is part of the range
     { "[a-]]", "a", true },
     { "[a-]]", "]", false },
     { "[a-]", "a", false },
@@ -95,7 +95,7 @@ constexpr MatchRow matchRows[] = {
     { "{foo,bar}", "bar", true },
     { "{foo,bar}", "foobar", false },
     { "{foo,bar}x", "foox", true },
-    { "{a,ab}c", "abc", true }, // the first alternative does not shut out the second
+    { "{a,ab}c", "abc", true }, // a failed first alternative does not exclude the second
     { "{ab,a}bc", "abc", true },
     { "x{}y", "xy", true },
     { "x{}y", "xay", false },
@@ -110,7 +110,7 @@ constexpr MatchRow matchRows[] = {
     { "s*[0-9]{,bis}", "source12ter", false },
 };
 
-/** Tries each way in turn, as a reader of the syntax would: exponential, but easily seen to be right. */
+/** Tries every possibility in turn: exponential, but obviously correct. */
 bool matchByTrying (const std::string& pattern, const std::string& text);
 
 bool matchSetByTrying (const std::string& pattern, const std::string& text)

@@ -1,4 +1,4 @@
-"""The package as it is made: its patchers are sound, and all that their boxes say is understood by the object.
+"""Checks the generated package: its patchers are valid, and the object accepts every message in their boxes.
 
 Called as PackageTest.py FOLDER PATCHBENCH VERSION; FOLDER is filled by package/contents."""
 
@@ -19,11 +19,11 @@ import rows
 FOLDER, BENCH, VERSION = Path(sys.argv[1]), Path(sys.argv[2]).resolve(), sys.argv[3]
 OBJECT = "halcyra~.control"
 PATCHERS = sorted(p for p in FOLDER.rglob("*") if p.suffix in (".maxpat", ".maxhelp"))
-# What a message may not print: the host's and the object's ways to complain.
+# Forbidden in a message's output: complaints of the host and of the object.
 COMPLAINT = re.compile(r'^\S+ (error|bug|warn|new failed)\b|doesn\'t understand')
-# Service messages and those that only the host sends.
+# Service messages and those sent only by the host.
 NOT_FOR_USERS = {"generatexml", "preset", "recallpreset"}
-# Messages that ask for a file, and what the dialog answers: what is read is what was written.
+# Messages that ask for a file, and the dialog's answer: what is read was written before.
 DIALOGS = {"writesnapshot": "snapshots.xml", "readsnapshot": "snapshots.xml", "exportdict": "state.json"}
 COLUMN_WIDTH = 470
 LAYOUT_CHECK = """
@@ -41,7 +41,7 @@ def load(path):
 
 
 def pages():
-    """Every patcher of every file, tabs included, with a name for failures."""
+    """Every patcher of every file, including tabs, with a name for failures."""
     for path in PATCHERS:
         root = load(path)
         yield path.name, root
@@ -63,7 +63,7 @@ def is_object(box):
 
 
 def is_display(box, page):
-    """A message box that shows what another box puts into it."""
+    """A message box that displays another box's output."""
     boxes = boxes_of(page)
     return any(boxes[s[0]].get("text") == "prepend set" for s, d in cords_of(page) if d[0] == box["id"])
 
@@ -74,7 +74,7 @@ def overlap(a, b):
 
 
 def split_message(text):
-    """The messages of a box: parted by commas, which a backslash would protect."""
+    """A message box's messages, split at unescaped commas."""
     return [part.strip() for part in re.split(r"(?<!\\),", text)]
 
 
@@ -83,7 +83,7 @@ def in_reading_order(boxes):
 
 
 def played(page, folder):
-    """Bench commands for all that is connected to the page's objects, in reading order."""
+    """Bench commands for everything connected to the page's objects, in reading order."""
     boxes, cords = boxes_of(page), cords_of(page)
     commands = []
     for box in boxes.values():

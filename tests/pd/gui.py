@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The object in Pure Data on a display of its own: real pointer, real keys, Pd's window, JACK, and the end of Pd.
+"""The object in Pure Data on a private display: real pointer and keys, Pd's window, JACK, and the end of Pd.
 
 Usage: xvfb-run -a -s "-screen 0 1920x1080x24" gui.py
 """
@@ -17,10 +17,10 @@ from pathlib import Path
 
 from pd import CLASS, EXTERNALS, QUIET, Patch
 
-PATIENCE = 30  # seconds that a busy machine may take for one step
+PATIENCE = 30  # seconds allowed per step on a busy machine
 GLOBAL_SLIDER = (138, 241)  # decay time, on the first page of the window
 MENU = 32  # height of the menu in Pd's windows
-BOX = (60, 60)  # where the first box of a patch stands, in the patch
+BOX = (60, 60)  # where a patch's first box is
 
 
 def run(*words):
@@ -28,7 +28,7 @@ def run(*words):
 
 
 def until(question, what):
-    """The first answer that is not empty."""
+    """Polls until the result is not empty, and returns it."""
     end = time.monotonic() + PATIENCE
     while not (answer := question()):
         if time.monotonic() > end:
@@ -42,7 +42,7 @@ def windows(title):
 
 
 def drag(window, start, way):
-    """With the left button, in steps as a hand makes them."""
+    """Drags with the left button, in steps like a user's."""
     x, y = start
     run("xdotool", "windowactivate", window, "mousemove", "--window", window, x, y, "sleep", 0.1, "mousedown", 1)
     for step in range(1, 6):
@@ -55,7 +55,7 @@ def click(window, x, y, button=1):
 
 
 def key(window, *keys):
-    """Not by key --window: that leaves modifiers down."""
+    """Without key --window, which leaves modifiers down."""
     run("xdotool", "windowactivate", "--sync", window, "sleep", 0.1, "key", *keys)
 
 
@@ -112,7 +112,7 @@ class Pd:
         return until(lambda: windows(f"^{name}$"), f"the window of {name}")[0]
 
     def resident(self):
-        """kB of memory."""
+        """Memory in kB."""
         return int(re.search(r"VmRSS:\s+(\d+)", Path(f"/proc/{self.process.pid}/status").read_text())[1])
 
     def quit(self):
@@ -242,7 +242,7 @@ class PdWindow(GuiTest):
 
     def select_the_box(self):
         key(self.canvas, "ctrl+e")
-        # By a rectangle around its right end: a click would start to edit its text.
+        # Selects it by a rectangle around its right end: a click would start editing its text.
         run("xdotool", "mousemove", "--window", self.canvas, BOX[0] + 140, BOX[1] - 20 + MENU, "sleep", 0.1, "mousedown", 1)
         run("xdotool", "mousemove", "--window", self.canvas, BOX[0] + 200, BOX[1] + 12 + MENU, "sleep", 0.1)
         run("xdotool", "mousemove", "--window", self.canvas, BOX[0] + 250, BOX[1] + 12 + MENU, "sleep", 0.1, "mouseup", 1)
@@ -266,7 +266,7 @@ class PdWindow(GuiTest):
         self.assertRegex(lines[0], r"#A saved tr0 ")
         self.assertEqual(lines[-1], "#A saved")
 
-        # Loaded again and saved again, it is the same.
+        # Loading and saving it again changes nothing.
         text = self.it.path.read_text()
         self.it.say("quit")
         self.it.process.wait(PATIENCE)

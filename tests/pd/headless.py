@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The object in Pure Data without a display: saved state, order of messages, files, and input that makes no sense."""
+"""The object in Pure Data without a display: saved state, message order, files, and invalid input."""
 
 import random
 import re
@@ -17,7 +17,7 @@ class PdTest(unittest.TestCase):
         self.addCleanup(shutil.rmtree, self.folder)
 
     def printed(self, patch, quit_at=50, *options):
-        """What the console of the patch shows until it quits."""
+        """The patch's console output until it quits."""
         patch.at(quit_at, r"\; pd quit")
         patch.write(self.folder / "test.pd")
         status, rows = play(self.folder / "test.pd", *options)
@@ -52,7 +52,7 @@ class SavedState(PdTest):
         self.assertEqual(first[-1], "#A saved")
         self.assertGreater(len(first), 8)
 
-        # Loaded by another patch, which only saves it again.
+        # Another patch loads it and only saves it again.
         (self.folder / "loaded.pd").write_text(re.sub(r"#X obj \d+ \d+ loadbang", "#X obj 0 0 bag", (self.folder / "first.pd").read_text()))
         patch = Patch()
         patch.obj("loaded")
@@ -108,12 +108,12 @@ class SavedState(PdTest):
 
 
 class ExactRecall(PdTest):
-    """States that the object can reach come back as they were, in one go, whatever limits their values set each other."""
+    """Restores reachable states exactly, in one go, whatever limits their values impose on each other."""
 
     COUNT = 30
 
     def states(self):
-        """Messages that lead to states in which the linked times stand close to each other."""
+        """Messages that lead to states with the linked times close together."""
         dice = random.Random(5)
         for _ in range(self.COUNT):
             pick = lambda low, high: f"{dice.uniform(low, high):.2f}"
@@ -125,7 +125,7 @@ class ExactRecall(PdTest):
             yield r" \, ".join([*messages, f"direct {pick(-60, 10)} 1 2 3 {pick(20, 20000)} {pick(20, 20000)}"])
 
     def saved_by_object(self, path):
-        """The lines behind each of our objects, but for positions, which a cord rounds."""
+        """The lines after each of our objects, except positions, which a cord rounds."""
         objects = path.read_text().split(f" {CLASS}")[1:]
         return [[line for line in text.split(";\n") if line.startswith("#A") and "positions" not in line] for text in objects]
 

@@ -30,7 +30,7 @@ class Listening(unittest.TestCase):
         subprocess.run([sys.executable, ROOT / "package/pd_listen.py", cls.aid], check=True)
 
     def render(self, settings, seconds, sound="impulse", during=""):
-        """Both channels from the moment in which the sound starts."""
+        """Both channels, starting at the onset of the sound."""
         folder = Path(tempfile.mkdtemp())
         self.addCleanup(shutil.rmtree, folder)
         patch = Patch()
@@ -72,7 +72,7 @@ class Listening(unittest.TestCase):
         return numpy.frombuffer(data[start : start + 8 * length], "<f4").reshape(-1, 2).T.astype(float)
 
     def t60(self, sound, low=None, high=None):
-        """From -5 to -35 dB of the energy that is left, in a band or in all."""
+        """Decay from -5 to -35 dB of the remaining energy, in a band or overall."""
         if low:
             sound = signal.sosfilt(signal.butter(4, [low, high], "bandpass", fs=RATE, output="sos"), sound)
         left = numpy.cumsum(sound[::-1] ** 2)[::-1]
@@ -84,7 +84,7 @@ class Listening(unittest.TestCase):
         return r" \, ".join([*QUIET_STAGES.values(), *settings])
 
     def taps(self, sound):
-        """Times in ms of single samples that stand out."""
+        """Times in ms of isolated samples."""
         return numpy.nonzero(numpy.abs(sound) > 0.01)[0] / RATE * 1000
 
     def test_the_decay_time_is_the_one_that_is_set(self):
@@ -178,7 +178,7 @@ class Listening(unittest.TestCase):
         for during in ("", r"early start 37"):
             left, _ = self.render(settings, 1, sound="tone", during=during)
             spectrum = numpy.fft.rfft(left)
-            spectrum[: 5000 * len(left) // RATE] = 0  # what is left of a tone of 300 Hz is a click
+            spectrum[: 5000 * len(left) // RATE] = 0  # apart from the 300 Hz tone, what remains is a click
             inside = numpy.fft.irfft(spectrum, len(left))[RATE // 20 : -RATE // 20]
             clicks.append(20 * math.log10(numpy.abs(inside).max() / numpy.abs(left).max()))
         print(f"above 5 kHz, beside the tone: {clicks[0]:.1f} dB at rest, {clicks[1]:.1f} dB while it moves")

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""The package for Pd as it is packed: every patch opens, everything in it can be clicked, every name leads somewhere.
+"""Checks the packed package for Pd: every patch opens, everything in it can be clicked, every name resolves.
 
-Usage: package.py FOLDER PATCHBENCH; FOLDER is the one that package/pd has filled.
+Usage: package.py FOLDER PATCHBENCH; FOLDER is filled by package/pd.
 """
 
 import hashlib
@@ -22,14 +22,14 @@ FOLDER, BENCH = Path(sys.argv.pop(1)).resolve(), Path(sys.argv.pop(1)).resolve()
 LIBRARY = FOLDER / "halcyra~"
 PATCHES = sorted(LIBRARY.rglob("*.pd"))
 BOX = re.compile(r"#X (obj|msg|text|floatatom|symbolatom|restore|array|coords)\b")
-# What Pd may log without a display, without a hand that answers a panel, and where the listening aid is opened by
-# itself and so has no number of sources.
+# What Pd may log without a display, without a user to answer a panel, and where the listening aid is opened on its own
+# and so has no number of sources.
 EXPECTED = re.compile(r"there is no display|a file name is needed|can't resize to zero")
 COMPLAINT = re.compile(r"error|couldn't|can't|no method|doesn't understand|failed|warning", re.IGNORECASE)
 
 
 def statements(path):
-    """A patch file statement by statement."""
+    """A patch file's statements."""
     return [part.strip() for part in re.split(r"(?<!\\);\n", path.read_text(encoding="utf-8")) if part.strip()]
 
 
@@ -57,7 +57,7 @@ def clicking(path):
 
 
 def click_all(out, boxes, before):
-    """Appends a click on each box of the canvas that is about to be closed."""
+    """Appends a click on each box of the canvas about to be closed."""
     added, clicks = len(boxes), 0
     for number, box in enumerate(boxes):
         kind, *words = box.split()[1:]
@@ -162,7 +162,7 @@ class Package(unittest.TestCase):
                 self.assertTrue(all(name.startswith("halcyra~/") for name in archive.namelist()))
                 if "Linux" in path.name:
                     self.assertEqual({Path(n).name for n in archive.namelist() if not n.endswith("/")}, {p.name for p in LIBRARY.rglob("*") if p.is_file()})
-                else:  # whatever the binary holds can be built from it
+                else:  # everything in the binary can be built from it
                     names = "\n".join(archive.namelist())
                     for needed in ("halcyra/README.md", "juce/juce_gui_basics/juce_gui_basics.h", "libraries/libpng1.6_", "libraries/libjpeg-turbo_", "libraries/zlib_"):
                         self.assertIn(f"halcyra~/{needed}", names)

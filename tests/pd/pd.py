@@ -1,4 +1,4 @@
-"""Runs patches in Pure Data without its window: what the tests of this folder share."""
+"""Runs patches in Pure Data without its window; shared by the tests in this folder."""
 
 import os
 import subprocess
@@ -10,12 +10,12 @@ sys.dont_write_bytecode = True
 ROOT = Path(__file__).resolve().parents[2]
 EXTERNALS = Path(os.environ.get("HALCYRA_PD_FOLDER", ROOT / "build/release/pd"))
 CLASS = "halcyra~.control"
-UNDER = os.environ.get("HALCYRA_PD_UNDER", "").split()  # a program that watches Pd, with its options
+UNDER = os.environ.get("HALCYRA_PD_UNDER", "").split()  # a program to run Pd under, with its options
 QUIET = ["-noprefs", "-nrt", "-noaudio", "-nomidi", "-stderr"]
 
 
 class Patch:
-    """The text of a patch file, box by box. Boxes are known by their numbers."""
+    """The text of a patch file, box by box. Boxes are identified by number."""
 
     def __init__(self):
         self.boxes, self.cords = [], []
@@ -31,14 +31,14 @@ class Patch:
         return self.box("msg", text)
 
     def saved(self, box, *lines):
-        """The lines that stand behind a box in the file."""
+        """Adds the lines after a box in the file."""
         self.boxes[box][1].extend(f"#A {line};" for line in lines)
 
     def cord(self, source, destination, outlet=0, inlet=0):
         self.cords.append(f"#X connect {source} {outlet} {destination} {inlet};")
 
     def at(self, milliseconds, text, *receivers):
-        """A message that is sent at a time after loading; a receiver is a box or (box, inlet)."""
+        """Sends a message at a time after loading; a receiver is a box or (box, inlet)."""
         if not hasattr(self, "start"):
             self.start = self.obj("loadbang")
         delay, message = self.obj(f"delay {milliseconds}"), self.msg(text)
@@ -56,7 +56,7 @@ class Patch:
 
 
 def play(path, *options, timeout=120, display=False, folder=None):
-    """Plays a patch to its end; returns the exit status and the rows of the console."""
+    """Runs a patch to its end; returns the exit status and the console's rows."""
     environment = dict(os.environ)
     if not display:
         environment.pop("DISPLAY", None)

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Plays the bench's transcripts in Pure Data, which has to print what the bench prints.
+"""Runs the bench's transcripts in Pure Data, which must print the same output.
 
 Usage: transcripts.py PATCHBENCH [NAME ...]
 
-Commands that Pd cannot say, or delivers as something else, are left out on both sides; LEFT_OUT tells why.
+Commands that Pd does not support, or delivers differently, are skipped on both sides; LEFT_OUT gives the reasons.
 """
 
 import difflib
@@ -19,7 +19,7 @@ from pd import CLASS, ROOT, Patch, play
 
 BENCH = Path(sys.argv[1]).resolve()
 PLAYED = {"new", "send", "attr", "connect", "disconnect", "wait", "dialog"}
-# How a command begins that is left out, and why.
+# Prefixes of skipped commands, and why.
 LEFT_OUT = [
     (r"mark\b", "what was printed before is left out in the transcript, and compared here"),
     (r"(mouse|key|page)\b|send \S+ open\b", "this Pd has no display"),
@@ -35,12 +35,12 @@ LEFT_OUT = [
 WORD = re.compile(r'"(?:[^"\\]|\\.)*"|\S+')
 NUMBER = re.compile(r"[-+]?(\d+\.?\d*|\.\d+)([eE][-+]?\d+)?")
 OUTLET = re.compile(r"\S+\.[01]")
-LOG = re.compile(r"^Exception occurred in .*\n.*\n\n\n", re.MULTILINE)  # on the error stream; the bench keeps that apart
-SMALLEST = 900  # commands that have to be compared in all, so that a player that skips everything fails
+LOG = re.compile(r"^Exception occurred in .*\n.*\n\n\n", re.MULTILINE)  # on stderr, which the bench keeps separate
+SMALLEST = 900  # minimum of commands compared in all, so that a player that skips everything fails
 
 
 def number(word):
-    """A number as Pd prints it, which is with six digits."""
+    """Rounds a number to six digits, as Pd prints it."""
     if not NUMBER.fullmatch(word):
         return word
     try:
@@ -58,7 +58,7 @@ def unquoted(word):
 
 
 def heard_on_bench(line):
-    """A line of the bench as (box, what), None if Pd shows nothing for it."""
+    """A line of the bench as (box, what); None if Pd shows nothing for it."""
     box, kind, *rest = line.split(" ", 2)
     rest = rest[0] if rest else ""
     values = lambda text: " ".join(unquoted(w) if w.startswith('"') else number(w) for w in WORD.findall(text))
@@ -84,7 +84,7 @@ def word_in_pd(word):
 
 
 def selected(lines):
-    """The commands that can be played, new boxes first, and how many were left out."""
+    """The supported commands, new boxes first, and how many were skipped."""
     played, answer = [], None
     for line in lines:
         words = WORD.findall(line)
@@ -92,7 +92,7 @@ def selected(lines):
             continue
         if words[0] not in PLAYED:
             raise SystemExit(f"no row tells why this is not played: {line}")
-        if words[0] == "dialog":  # where the bench asks, a name is given in Pd
+        if words[0] == "dialog":  # where the bench asks, Pd gets a name
             answer = words[1:]
         elif answer is not None and words[0] == "send":
             line, answer = " ".join([line, *answer]), None
@@ -102,7 +102,7 @@ def selected(lines):
 
 
 def patch_of(lines, path):
-    """The commands as a patch: each a message box that is sent a millisecond after the last."""
+    """The commands as a patch: one message box each, sent a millisecond apart."""
     patch, boxes, time = Patch(), {}, 1
     for line in lines:
         words = WORD.findall(line)
@@ -133,7 +133,7 @@ def bench(lines, folder):
 
 
 def compare(script):
-    """What was compared, and how the two differ."""
+    """Returns the number of commands compared, and the differences."""
     lines = [line for line in script.read_text(encoding="utf-8").splitlines() if line.strip()]
     commands, left_out = selected([line for line in lines if not line.startswith("#")])
     count = sum(line.split()[0] in ("send", "attr") for line in commands)
@@ -145,7 +145,7 @@ def compare(script):
         for side in ("bench", "pd"):
             shutil.copytree(files, work / side) if files.is_dir() else (work / side).mkdir()
         makers = [line for line in commands if line.startswith("new ")]
-        # While objects are made, Pd has no cords yet: only the console shows something.
+        # Pd has no cords while objects are created: only the console shows output.
         at_first = bench(makers, work / "bench")
         expected = [row for row in at_first if not OUTLET.match(row)] + bench(commands, work / "bench")[len(at_first):]
         patch_of(commands, work / "pd/patch.pd")

@@ -59,7 +59,7 @@ TEST (Delgen, KeepsTheSpacingOfItsNumbersAtTheDistributionOfTheirMean)
         { 10, 31, 45 },
         { 10, 19, 31, 45 },
         { 10, 19, 31, 37, 45 },
-        { 10, 15, 19, 26, 31, 37, 45 }, // seven of the first eight numbers: all but 5, the last by rank
+        { 10, 15, 19, 26, 31, 37, 45 }, // seven of the first eight numbers: all but 5, which has the last rank
         { 10, 13, 15, 19, 26, 31, 37, 45 },
         { 10, 13, 15, 19, 26, 31, 37, 45, 54 },
         { 10, 13, 15, 19, 26, 31, 37, 45, 54, 67, 79, 90, 105, 121, 135, 153 },
@@ -119,7 +119,7 @@ TEST (Delgen, LimitsWhatItIsGiven)
     {
         std::uint32_t count;
         float min, max, distr;
-        State expected; // the sum is not looked at
+        State expected; // the sum is ignored
     };
     constexpr Row rows[] = {
         { 0, 20, 40, 0.5f, { 1, 20, 40, 0, 0.5f } },          { 64, 20, 40, 0.5f, { 64, 20, 40, 0, 0.5f } },
@@ -147,7 +147,7 @@ TEST (Delgen, AnswersTheFirstMessageOfItsTableThatFits)
     {
         const char* address;
         std::vector<double> numbers;
-        State expected; // from 8 delays between 20 and 40 at 0.3; the sum is not looked at
+        State expected; // from 8 delays between 20 and 40 at 0.3; the sum is ignored
     };
     const Row rows[] = {
         { "/min", { 30 }, { 8, 30, 40, 0, 0.3f } },
@@ -162,7 +162,7 @@ TEST (Delgen, AnswersTheFirstMessageOfItsTableThatFits)
         { "/minmax", { 10, 30 }, { 8, 10, 30, 0, 0.5f } },
         { "/minsum", { 10, 160, 0.25 }, { 8, 10, 50, 0, 0.25f } },
         { "/minsum", { 10, 160 }, { 8, 10, 30, 0, 0.5f } },
-        { "/minsum", { 20, 120 }, { 8, 10, 20, 0, 0.5f } }, // 15 on average, below the minimum: the two change places
+        { "/minsum", { 20, 120 }, { 8, 10, 20, 0, 0.5f } }, // 15 on average, below the minimum: the two are swapped
         { "/m[ai]x", { 80 }, { 8, 20, 80, 0, 0.3f } },
     };
     for (const auto& row : rows) {

@@ -30,7 +30,7 @@ TEST (HalcyraRoom, ASmallRoomComesToWorkedNumbers)
 
 TEST (HalcyraRoom, TheModalDensityOfALargeRoomIsALimitOfItsBounds)
 {
-    // The gap of 261.18 ms between cluster and reverb start: 12 times it at least for eight channels.
+    // The gap of 261.18 ms between cluster and reverb start: at least 12 times that for eight channels.
     EXPECT_NEAR (computeRoomParameters (8, 15000, 2).modalDensity, 12 * 0.26118f, 1e-4f);
     EXPECT_NEAR (computeRoomParameters (16, 15000, 2).modalDensity, 24 * 0.26118f, 1e-4f);
     EXPECT_NEAR (computeRoomParameters (8, 15000, 30).modalDensity, 7.5f, 1e-4f) << "a quarter of the decay time";

@@ -27,7 +27,7 @@ State stateOf (const ReverbModel& model)
     return state;
 }
 
-/** A model whose turns end when the test says, and what it tells: "7" for a parameter, "filter 0". */
+/** A model whose turns the test ends, and its notifications: "7" for a parameter, "filter 0". */
 struct Model : ReverbModel, private ReverbModel::Listener
 {
     explicit Model (int internals = 8) : ReverbModel (internals)
@@ -165,7 +165,7 @@ TEST (ReverbModel, SingleTimesStopAtTheirNeighboursAndFiveInOneTurnAreARecall)
     EXPECT_EQ (model.parameters().earlyStart, earlyEnd);
 }
 
-/** Any set of edits that a patcher or a hand can make. */
+/** Random edits, as a patcher or a user could make them. */
 void wander (ReverbModel& model, std::mt19937& random, int steps)
 {
     std::uniform_real_distribution<float> part (-0.1f, 1.1f);
@@ -212,7 +212,7 @@ TEST (ReverbModel, EveryStateThatCanBeReachedIsRecalledInOneTurnInAnyOrder)
             receiver.setFilter (filter, sender.filter (filter), Edit::message);
         receiver.endTurn();
         auto expected = stateOf (sender), found = stateOf (receiver);
-        expected[cell::roomSize] = found[cell::roomSize] = 0; // which has no value of its own in a state
+        expected[cell::roomSize] = found[cell::roomSize] = 0; // a state does not store its value
         ASSERT_EQ (expected, found) << "state " << i;
         receiver.reset (Edit::message);
         receiver.endTurn();

@@ -3,8 +3,8 @@
 
 #include <cstdio>
 
-/** Prints designed sections and their responses, for an independent computation to compare with:
-    a line of coefficients b0 b1 b2 a0 a1 a2, then lines of frequency and gain, then an empty line. */
+/** Prints sections and their responses to compare with an independent computation:
+    a line of coefficients b0 b1 b2 a0 a1 a2, lines of frequency and gain, then an empty line. */
 int main()
 {
     for (const float global : { -20.0f, 0.0f, 10.0f })

@@ -1,4 +1,4 @@
-"""Compares the table that the program named on the command line prints with scipy's freqz."""
+"""Compares the output of the program named on the command line with scipy's freqz."""
 import subprocess
 import sys
 
@@ -7,7 +7,7 @@ from scipy.signal import freqz
 
 RATE = 44100.0
 TOLERANCE = 1e-6  # dB
-FLOOR = 1e-12  # squared magnitudes down here are cut off or lost to rounding
+FLOOR = 1e-12  # squared magnitudes below this are clipped or lost to rounding
 
 blocks = subprocess.run(sys.argv[1], capture_output=True, text=True, check=True).stdout.strip().split("\n\n")
 worst, compared = 0.0, 0

@@ -20,9 +20,9 @@
 
 #include <malloc.h>
 
-// 6,400 messages a second to one object, half of them from the scheduler's thread, each of which it must answer by one of
-// its own; meanwhile windows open and close, objects come and go, files are written and read, states are recalled. Once
-// an act of all of this is over, memory, handles, threads and windows are to be what they were.
+// Sends 6,400 messages a second to one object, half of them from the scheduler thread, and expects one answer to each;
+// meanwhile windows open and close, objects are created and freed, files written and read, states recalled. After each
+// act, memory, handles, threads and windows must be back to where they were.
 
 namespace
 {
@@ -30,12 +30,12 @@ namespace
 using Clock = std::chrono::steady_clock;
 
 constexpr auto beat = std::chrono::milliseconds (10);
-constexpr int messagesABeat = 32; // of each thread
+constexpr int messagesABeat = 32; // per thread
 constexpr int beatsAnAct = 50;    // half a second
 constexpr int actsToWarmUp = 3;   // caches fill, symbols are made
 constexpr double memoryMayGrow = 256 * 1024;
 
-/** One thread's messages: a filter and a source in turn, none of which is as the one before. */
+/** One thread's messages: a filter and a source alternating, each different from the one before. */
 class Stream
 {
 public:
@@ -72,7 +72,7 @@ private:
 
 struct Resources
 {
-    double memory; // bytes that are in use
+    double memory; // bytes in use
     long handles, threads, windows;
 
     static Resources present()
@@ -99,8 +99,7 @@ public:
         echoes = 0;
     }
 
-    /** An act: the stream of messages, in each beat of which something else happens as well. What came too late is made
-        up for by the beats that follow. */
+    /** An act: the stream of messages plus one other action per beat. Later beats catch up on late ones. */
     void act()
     {
         for (int i = 0; i < beatsAnAct; ++i) {
@@ -175,7 +174,7 @@ private:
         };
         const auto place = static_cast<std::size_t> (number) % std::size (messages);
         sendTo (guest, messages[place]);
-        if (place + 1 == std::size (messages)) { // another takes its place, while its window is open
+        if (place + 1 == std::size (messages)) { // another replaces it while its window is open
             patch.free (guest);
             makeGuest();
         }
@@ -226,7 +225,7 @@ private:
 
 }
 
-/** Soaks for a number of seconds, tells the figures, and fails if something was lost, has leaked or complained. */
+/** Soaks for a number of seconds, prints the figures, and fails on any loss, leak or complaint. */
 int main (int argc, char** argv)
 {
     const double seconds = argc == 2 ? std::atof (argv[1]) : 0;

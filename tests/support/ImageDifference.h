@@ -1,7 +1,7 @@
 #pragma once
 #include <juce_gui_basics/juce_gui_basics.h>
 
-/** The pixels that differ between two images of one size, as a rectangle. */
+/** Bounding rectangle of the pixels that differ between two images of the same size. */
 [[nodiscard]] inline juce::Rectangle<int> Difference (const juce::Image& a, const juce::Image& b)
 {
     juce::Rectangle<int> changed;

@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <juce_gui_basics/juce_gui_basics.h>
 
-/** The main of every test program that needs JUCE: brings it up once, without a display. */
+/** Main of every test program that needs JUCE: initialises it once, without a display. */
 int main (int argc, char** argv)
 {
     testing::InitGoogleMock (&argc, argv);

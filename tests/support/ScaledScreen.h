@@ -3,8 +3,8 @@
 
 #include <cmath>
 
-/** A screen of any scale that shows a component somewhere in a window. It hears what is to be repainted, and paints
-    that and nothing else when a frame is due. */
+/** A screen of any scale with a component somewhere in a window. Collects invalidated areas, and repaints only those
+    when a frame is due. */
 class ScaledScreen
 {
 public:
@@ -24,7 +24,7 @@ public:
     ScaledScreen (const ScaledScreen&) = delete;
     ScaledScreen& operator= (const ScaledScreen&) = delete;
 
-    /** The window goes to a screen of another scale, which shows it at once. */
+    /** Moves the window to a screen of another scale, which repaints it at once. */
     void MoveToScale (float screenScale)
     {
         scale = screenScale;
@@ -37,13 +37,13 @@ public:
         Frame();
     }
 
-    /** Gives what was repainted, in pixels of the component. */
+    /** Returns what was repainted, in component pixels. */
     juce::RectangleList<int> Frame()
     {
         juce::RectangleList<int> onScreen, ofShown;
         for (const auto& area : std::exchange (dirty, {})) {
             onScreen.add (
-                (area * static_cast<double> (scale)).getIntersection (image.getBounds())); // as windows of X11 do
+                (area * static_cast<double> (scale)).getIntersection (image.getBounds())); // as X11 windows do
             ofShown.add (area - shown.getPosition());
         }
         if (! onScreen.isEmpty()) {

@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-/** What a screen reader meets, walked as one does. */
+/** The accessibility tree, traversed as a screen reader does. */
 namespace spoken
 {
 
 using Role = juce::AccessibilityRole;
 
-/** The roles that a person meets, and which of them can be changed or hold a value. */
+/** The roles that users encounter, and which of them can be edited or have a value. */
 struct RoleRow
 {
     Role role;
@@ -52,7 +52,7 @@ inline void walk (juce::AccessibilityHandler& from, const Visit& visit)
         walk (*child, visit);
 }
 
-/** What a person could not make out: "WHAT: role, name, ..." for each element that lacks something. */
+/** Gaps for screen reader users: "WHAT: role, name, ..." for each element that lacks something. */
 inline std::vector<std::string> gapsBelow (juce::AccessibilityHandler& root)
 {
     std::vector<std::string> gaps;

@@ -6,8 +6,8 @@
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
-/** Shows one component in a window in memory for as long as the stage stands, and works on it as a user would.
-    Every gesture is followed by pumping, so that asynchronous notifications have arrived when it returns. */
+/** Shows one component in a window in memory for its lifetime, and operates it as a user would. Every gesture pumps
+    afterwards, so that asynchronous notifications have arrived when it returns. */
 class Stage
 {
 public:
@@ -17,7 +17,7 @@ public:
     Stage (const Stage&) = delete;
     Stage& operator= (const Stage&) = delete;
 
-    // Positions are pixels of the component on the stage; see at() for those of a part of it.
+    // Positions are in pixels of the component on the stage; at() converts those of its children.
     void move (juce::Point<int> position, juce::ModifierKeys keys = {});
     void press (juce::Point<int> position, juce::ModifierKeys keys = {});
     void drag (juce::Point<int> position, juce::ModifierKeys keys = {});
@@ -33,11 +33,11 @@ public:
     /** Types a key as juce::KeyPress describes it: "w", "ctrl + w", "cursor left". */
     void key (const juce::String& description);
 
-    /** Where a point of a component further in lies on the stage; without one its centre. */
+    /** Converts a point of a descendant to the stage; without a point, its centre. */
     [[nodiscard]] juce::Point<int> at (const juce::Component& part, juce::Point<int> point) const;
     [[nodiscard]] juce::Point<int> at (const juce::Component& part) const;
 
-    /** What the window shows now. */
+    /** What the window currently shows. */
     [[nodiscard]] juce::Image picture() const;
 
 private:

@@ -13,7 +13,7 @@ namespace
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-/** Brings in a locale with a decimal comma for the length of a test, if the machine has one. */
+/** Sets a locale with a decimal comma for its lifetime, if the machine has one. */
 class CommaLocale : public testing::Test
 {
 protected:
@@ -139,7 +139,7 @@ TEST (StringToNumbers, ReadsWhatStandsAtTheBeginning)
     EXPECT_EQ (manyDigits.toDouble(), infinity);
     EXPECT_EQ (manyZeros.toDouble(), 0);
     EXPECT_TRUE (std::signbit (manyZeros.toDouble()));
-    // The exponent's sign alone does not tell where a number with many digits lies.
+    // The exponent's sign alone does not determine the size of a number with many digits.
     EXPECT_EQ ((manyDigits + "e-5").toDouble(), infinity);
     EXPECT_EQ ((manyZeros + "e+5").toDouble(), 0);
 }

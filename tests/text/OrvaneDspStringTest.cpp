@@ -16,17 +16,17 @@ TEST (String, CopiesWholeCharactersBetweenBounds)
     };
     const Row rows[] = {
         { "halcyra", 4, "halc" },
-        { "ab\0cd", 5, "ab" }, // stops at a zero
+        { "ab\0cd", 5, "ab" }, // stops at a null byte
         { "d\xc3\xa9j\xc3\xa0", 3, "d\xc3\xa9" },
-        { "d\xc3\xa9j\xc3\xa0", 2, "d" }, // the bound cuts the second character
+        { "d\xc3\xa9j\xc3\xa0", 2, "d" }, // the bound truncates the second character
         { "\xe2\x82\xac\xf0\x9d\x84\x9e", 7, "\xe2\x82\xac\xf0\x9d\x84\x9e" },
         { "\xf0\x9d\x84\x9e", 3, "" },
-        { "\xe9t\xe9 ", 4, "\xe9t\xe9 " }, // no UTF-8: byte by byte
+        { "\xe9t\xe9 ", 4, "\xe9t\xe9 " }, // invalid UTF-8: byte by byte
         { "\xa9z", 2, "\xa9z" },
         { "", 0, "" },
     };
     for (const auto& row : rows) {
-        const std::string exact (row.source, row.length); // so that a read beyond the bound is seen by the sanitizer
+        const std::string exact (row.source, row.length); // so that the sanitizer sees a read past the bound
         EXPECT_EQ (String (exact.data(), exact.data() + row.length), row.text) << row.text;
     }
     EXPECT_EQ (String (static_cast<const char*> (nullptr)), "");
@@ -43,7 +43,7 @@ TEST (String, TrimsWhiteSpace)
         { "abc", "abc", "abc", "abc" },
         { " \n ", "", "", "" },
         { "", "", "", "" },
-        { "\xa0z\x85", "\xa0z\x85", "\xa0z\x85", "\xa0z\x85" }, // bytes of a longer character stay
+        { "\xa0z\x85", "\xa0z\x85", "\xa0z\x85", "\xa0z\x85" }, // bytes of a multi-byte character are kept
     };
     for (const auto& row : rows) {
         const String text = row.text;

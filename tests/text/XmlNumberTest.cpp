@@ -13,7 +13,7 @@ namespace
 
 using qel::XmlElement;
 
-/** German writes 0,5 and 1.000. */
+/** German number format: 0,5 and 1.000. */
 struct GermanNumbers : std::numpunct<char>
 {
     char do_decimal_point() const override { return ','; }
@@ -77,7 +77,7 @@ TEST_F (XmlNumbers, OfSinglePrecisionComeBackBitForBit)
 
 TEST_F (XmlNumbers, OfSinglePrecisionSurviveBeingRoundedTwice)
 {
-    const float value = 7.038531e-26F; // the nearest double to its shortest digits lies half way to the next float
+    const float value = 7.038531e-26F; // the double nearest to its shortest digits is halfway to the next float
     EXPECT_EQ (static_cast<float> (readBack (double{ value })), value);
 }
 

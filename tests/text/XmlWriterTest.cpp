@@ -52,7 +52,7 @@ TEST (XmlWriter, BreaksALineOfAttributesOnceItHasPassedTheLength)
     XmlElement root ("list");
     auto* const element = root.addChild (std::make_unique<XmlElement> ("e"));
     for (const char* name : { "a", "b", "c", "d", "e" })
-        element->setAttribute (name, "23456"); // 10 characters with the blank before
+        element->setAttribute (name, "23456"); // 10 characters including the blank before
     auto layout = bare (false);
     layout.lineWrapLength = 19;
     EXPECT_EQ (written (root, layout), "<list>\r\n"

@@ -3,8 +3,8 @@
 
 #include <memory>
 
-/** The foreground of a plane drawn by cairo, over a picture of the static layer: a peer to measure against. The same
-    shapes: a fan, a shaded ball with its rim and a label for each source. */
+/** Draws a plane's foreground with cairo over an image of the static layer, for comparison. The same shapes: a fan, a
+    shaded ball with its rim and a label per source. */
 class CairoScene
 {
 public:

@@ -21,16 +21,16 @@ juce::Image Drawn (const juce::Drawable& icon, juce::Point<float> at, float side
     return image;
 }
 
-/** Levels between two pixels, of 255, by the channel that differs most. */
+/** The largest difference of any channel, 0 to 255. */
 int Levels (juce::Colour a, juce::Colour b)
 {
     return std::max ({ std::abs (a.getRed() - b.getRed()), std::abs (a.getGreen() - b.getGreen()),
                        std::abs (a.getBlue() - b.getBlue()) });
 }
 
-/** What icons lose by being drawn at the nearest of so many places within a pixel: vectors against vectors, anywhere.
-    The counters tell the worst pixel, the mean over those that differ at all, and the bitmaps of one icon of 25 pixels
-    in kB. Time does not matter here. */
+/** Error from drawing icons at the nearest of several subpixel positions, compared with vector drawing anywhere.
+    Counters: the worst pixel, the mean over differing pixels, and the bitmap memory of one icon of 25 pixels in kB.
+    Time does not matter here. */
 void IconPhases (benchmark::State& state)
 {
     const auto phases = static_cast<float> (state.range (0));

@@ -9,13 +9,13 @@
 
 using lumo::PlaneComponent;
 
-// What a user at work costs: real events on a plane in a window in memory, and each frame painted as the window system
-// would have it.
+// Cost of user interaction: real events on a plane in a window in memory, with each frame painted as a window system
+// would request it.
 
 namespace
 {
 
-constexpr int side = 350; // as on the scene's page
+constexpr int side = 350; // as on the scene page
 
 class LivePlane
 {
@@ -53,7 +53,7 @@ private:
     std::uniform_real_distribution<float> place{ -0.9f, 0.9f };
 };
 
-/** The pointer walks over the plane with what it took; each step is painted. */
+/** Drags what is at the position across the plane; paints each step. */
 void Drag (benchmark::State& state, LivePlane& live, juce::Point<float> at)
 {
     live.input.press (at);
@@ -70,7 +70,7 @@ void DragASource (benchmark::State& state)
 {
     const auto count = static_cast<std::size_t> (state.range (0));
     LivePlane live (count, count);
-    live.plane.SetSourcePosition (count - 1, { 0.2f, 0.3f, 0 }, false); // the last one lies on top
+    live.plane.SetSourcePosition (count - 1, { 0.2f, 0.3f, 0 }, false); // the last one is on top
     Drag (state, live, live.Pixels ({ 0.2f, 0.3f, 0 }));
     if (live.plane.IsSourceSelected (count - 1) ==
         (live.plane.GetSourcePosition (count - 1) == qel::Point3{ 0.2f, 0.3f, 0 }))
@@ -83,7 +83,7 @@ void DragASpeaker (benchmark::State& state)
     const auto count = static_cast<std::size_t> (state.range (0));
     LivePlane live (count, count);
     live.plane.SetSpeakersEditable (true, false);
-    live.plane.SetSpeakerPosition (0, { 0.2f, 0.3f, 0 }, false); // the first one beats the others
+    live.plane.SetSpeakerPosition (0, { 0.2f, 0.3f, 0 }, false); // the first one is hit before the others
     Drag (state, live, live.Pixels ({ 0.2f, 0.3f, 0 }));
     if (live.plane.GetSelectedSpeaker() != 0)
         state.SkipWithError ("the speaker was not dragged");
@@ -102,7 +102,7 @@ void DragTheListener (benchmark::State& state)
 }
 BENCHMARK (DragTheListener)->Unit (benchmark::kMicrosecond);
 
-/** So many sources move by messages between two frames. */
+/** Moves this many sources by messages between two frames. */
 void MovesOfAFrame (benchmark::State& state)
 {
     LivePlane live (64, 64);
@@ -136,7 +136,7 @@ void LevelsOfAFrame (benchmark::State& state)
 }
 BENCHMARK (LevelsOfAFrame)->Arg (1)->Arg (64)->Unit (benchmark::kMicrosecond);
 
-/** All of it, nothing kept but what is kept between frames. */
+/** The whole frame, with only the caches that survive between frames. */
 void WholeFrame (benchmark::State& state)
 {
     const auto count = static_cast<std::size_t> (state.range (0));
@@ -146,7 +146,7 @@ void WholeFrame (benchmark::State& state)
         live.Paint();
     }
 }
-/** Without the fans of the apertures, as an object starts. */
+/** Without aperture fans, as in a new object. */
 void WholeFrameWithoutFans (benchmark::State& state)
 {
     const auto count = static_cast<std::size_t> (state.range (0));
@@ -161,7 +161,7 @@ BENCHMARK (WholeFrameWithoutFans)->Arg (6)->Arg (64)->Unit (benchmark::kMicrosec
 
 BENCHMARK (WholeFrame)->Arg (0)->Arg (6)->Arg (64)->Unit (benchmark::kMicrosecond);
 
-/** The counter tells what one more plane that nobody has looked at takes of the heap. */
+/** The counter is the heap memory of one more plane that was never shown. */
 void NewPlane (benchmark::State& state)
 {
     const auto count = static_cast<std::size_t> (state.range (0));

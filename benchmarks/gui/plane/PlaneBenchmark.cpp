@@ -12,7 +12,7 @@ namespace
 
 constexpr int side = 600;
 
-/** A scene with its objects strewn over the component, and the frame that it is drawn into. */
+/** A scene with objects spread over the component, and the frame to draw it into. */
 struct Scene
 {
     explicit Scene (std::size_t sources, std::size_t speakers = 64) : plane (sources, speakers, side)
@@ -61,8 +61,8 @@ void FrameWithoutCache (benchmark::State& state)
 }
 BENCHMARK (FrameWithoutCache)->Unit (benchmark::kMicrosecond);
 
-/** One blit, and the same pictures with everything about them made beforehand: bitmaps of the icons in their places,
-    stroked fans, laid out labels. Less cannot be drawn. */
+/** One blit plus the same pictures with everything precomputed: icon bitmaps in place, stroked fans, laid-out labels.
+    The minimum that must be drawn. */
 void FloorOfAFrame (benchmark::State& state)
 {
     Scene scene (64);
@@ -119,7 +119,7 @@ void FrameByCairo (benchmark::State& state)
 }
 BENCHMARK (FrameByCairo)->Unit (benchmark::kMicrosecond);
 
-/** Hull and triangulation on: what a source's drag costs, and a speaker's. */
+/** With hull and triangulation on: the cost of dragging a source, and a speaker. */
 void DragWithHullAndTriangulation (benchmark::State& state)
 {
     Scene scene (64);

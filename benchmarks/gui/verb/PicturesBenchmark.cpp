@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-// What a frame of each picture costs, and how that compares with the least that anyone could do: the "ratio" column is
-// the frame over its floor, both taken in turn.
+// Cost of a frame of each picture relative to the least possible: "ratio" is the frame over its floor, measured in
+// alternation.
 
 namespace
 {
@@ -42,7 +42,7 @@ void compare (benchmark::State& state, Work&& work, Floor&& floor)
     state.counters["ratio"] = median (workTimes) / median (floorTimes);
 }
 
-/** What a component stands in, drawn into an image of its size. */
+/** Draws a component into an image of its size. */
 struct Canvas
 {
     explicit Canvas (juce::Component& content) : image (juce::Image::RGB, content.getWidth(), content.getHeight(), true)
@@ -65,8 +65,8 @@ struct Canvas
     juce::Image image;
 };
 
-/** A band's decay as the page first shows it, on a picture of 904 by 144. It ends at the right edge: what lies far
-    beyond is what the renderer is slowest at. */
+/** A band's decay at its default, on a picture of 904 by 144. Ends at the right edge: the part far beyond it is the
+    renderer's slowest case. */
 juce::Path decayOf (float ratio, float control)
 {
     const halcyra::ImpulseResponseScale scale{ 904, 144 };
@@ -84,8 +84,8 @@ juce::Path decayOf (float ratio, float control)
     return path;
 }
 
-/** A step of the decay's slider. The floor draws as much with the same renderer, all of it worked out before: the
-    ground, each band once in an opaque colour, the lines of the axis and its texts, and one line a tap. */
+/** One step of the decay's slider. The floor draws the same amount with the same renderer, precomputed: the background,
+    each band once in an opaque colour, the axis lines and texts, and one line per tap. */
 void impulseResponseFrame (benchmark::State& state)
 {
     const auto taps = static_cast<std::uint32_t> (state.range (0));
@@ -166,8 +166,8 @@ void responseCurveFrame (benchmark::State& state)
         });
 }
 
-/** A whole page, as when its window is uncovered or its tab is chosen, against a copy of its pixels. An edit draws no
-    more than it changes: `benchmarks/run` has that. */
+/** A whole page, as when its window is uncovered or its tab is selected, relative to a copy of its pixels. An edit
+    draws only what it changes, which `benchmarks/run` measures. */
 void pageFrame (benchmark::State& state, juce::Component& page)
 {
     page.setSize (918, 399);
@@ -195,7 +195,7 @@ void filtersPageFrame (benchmark::State& state)
     pageFrame (state, page);
 }
 
-/** A setting of a control that no window shows. */
+/** Sets a control that is not visible. */
 void hiddenSetting (benchmark::State& state)
 {
     HalcyraTimeStructureTabComponent page ("page", 16);

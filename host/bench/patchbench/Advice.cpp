@@ -10,7 +10,7 @@ namespace patchbench
 
 namespace
 {
-/** Letters to insert, delete, replace or swap with their neighbour until one word is the other. */
+/** Edit distance: insertions, deletions, replacements and swaps of neighbours. */
 std::size_t distance (const std::string& a, const std::string& b)
 {
     std::vector<std::size_t> beforeLast, last (b.size() + 1), row (b.size() + 1);
@@ -60,7 +60,7 @@ std::string adviceFor (Session& session, const std::vector<bench::Word>& words)
         return "; \"" + word + "\" is a box: send " + word + " MESSAGE";
 
     const Command* nearest = nullptr;
-    std::size_t closest = word.size() > 4 ? 3 : 2; // must come nearer than this
+    std::size_t closest = word.size() > 4 ? 3 : 2; // must be closer than this
     for (const auto& command : allCommands())
         if (word.size() < 20 && distance (word, command.verb) < closest) {
             closest = distance (word, command.verb);

@@ -6,11 +6,11 @@
 namespace patchbench
 {
 
-/** A hint for a line whose first word is no command: the message with its `send`, or the command that was probably
-    meant. Empty if nothing comes near; otherwise begins with a separator. */
+/** A hint for a line whose first word is not a command: the message with its `send`, or the command probably meant.
+    Empty if nothing is close; otherwise begins with a separator. */
 std::string adviceFor (Session& session, const std::vector<bench::Word>& words);
 
-/** The word itself, or the beginning of a very long one, to be quoted in a complaint. */
+/** The word, truncated if very long, to quote in a complaint. */
 std::string shortened (const std::string& word);
 
 }

@@ -10,7 +10,7 @@ namespace patchbench
 
 namespace
 {
-/** What a word of the usage stands for: "NAME", "MESSAGE", "ATTRIBUTE", or a choice "main|scheduler". */
+/** The kind of a word in the usage: "NAME", "MESSAGE", "ATTRIBUTE", or a choice "main|scheduler". */
 std::string kindAt (const Command& command, std::size_t index)
 {
     const auto usage = bench::wordsOf (command.usage);
@@ -22,7 +22,7 @@ std::vector<std::string> choices (const std::string& word)
     return word.find ('|') == std::string::npos ? std::vector<std::string>{} : split (word, "|");
 }
 
-/** The words of a usage that stand for themselves and may be left out, as "[shift]". */
+/** The usage's optional literal words, such as "[shift]". */
 std::vector<std::string> optionalWords (const Command& command)
 {
     std::vector<std::string> words;
@@ -66,7 +66,7 @@ std::vector<std::string> messagesAndAttributes (const bench::Box* box)
     return together (together (std::move (all), attributes), withStart ("get", attributes));
 }
 
-/** Files and folders that a path could go on with; a folder ends in a slash. */
+/** Files and folders that complete a path; folders end in a slash. */
 std::vector<std::string> files (const std::string& begun)
 {
     namespace fs = std::filesystem;
@@ -83,7 +83,7 @@ std::vector<std::string> files (const std::string& begun)
     return found;
 }
 
-/** Words of the forms of a message at a place behind it, given what stands before. */
+/** Candidates from a message's forms at a position, given the words before it. */
 std::vector<std::string> wordsOfForms (const MessageForms& forms, const std::vector<bench::Word>& words,
                                        std::size_t message)
 {
@@ -112,7 +112,7 @@ std::vector<std::string> wordsOfForms (const MessageForms& forms, const std::vec
     return found;
 }
 
-/** What may follow a message or an attribute that is sent to a box. */
+/** Candidates after a message or an attribute sent to a box. */
 std::vector<std::string> values (Session& session, const std::vector<bench::Word>& words, const bench::Box* box)
 {
     constexpr std::size_t message = 2;

@@ -6,11 +6,11 @@
 namespace patchbench
 {
 
-/** What can stand at the end of a line that was typed so far, in alphabetical order: a verb, the name of an object,
-    a class, a message or its words, an attribute or its choices, a file. The last word of the line is the beginning of it. */
+/** Completions of a line's last word, in alphabetical order: a verb, an object's name, a class, a message or its words,
+    an attribute or its choices, a file. */
 std::vector<std::string> completionsOf (Session& session, const std::string& line);
 
-/** Where the last word of a line starts, quotes and backslashes included; the length of the line behind a blank. */
+/** Where the line's last word starts, quotes and backslashes included; the line's length after a blank. */
 std::size_t startOfLastWord (const std::string& line);
 
 }

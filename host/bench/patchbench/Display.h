@@ -3,7 +3,7 @@
 namespace patchbench
 {
 
-/** True if windows can be put on a display. Apart from its use, since X11's macros and JUCE do not mix. */
+/** Whether a display can be opened. In its own file, because X11's macros and JUCE do not mix. */
 bool canOpenDisplay();
 
 }

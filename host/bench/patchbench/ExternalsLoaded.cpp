@@ -27,7 +27,7 @@ bench::Entry findExternal (const std::string& className)
 {
     const auto file = std::filesystem::u8path (className + fileEnding);
     for (const auto& folder : folders()) {
-        // The file stays loaded: threads and windows of the external may point into it until the process ends.
+        // Never unloaded: the external's threads and windows may use its code until the process ends.
         if (const auto module = LoadLibraryW ((folder / file).c_str()))
             for (const auto* name : { "ext_main", "main" })
                 if (const auto entry = GetProcAddress (module, name))

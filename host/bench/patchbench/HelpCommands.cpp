@@ -27,7 +27,7 @@ void explain (const MessageForm& form)
     Session::print ("# example: send verb " + form.example);
 }
 
-/** Without a word, all commands in one line each; with one, a command or a message in detail. */
+/** Without a word, lists all commands, one line each; with one, shows a command or a message in detail. */
 void help (Session& session, const std::vector<bench::Word>& words)
 {
     if (words.size() == 1) {

@@ -8,7 +8,7 @@ namespace
 {
 using Words = std::vector<bench::Word>;
 
-/** "NAME KIND TEXT", without the text's blank if there is none. */
+/** "NAME KIND TEXT", without a trailing blank if the text is empty. */
 void printAnswer (const std::string& head, const std::string& text)
 {
     Session::print (text.empty() ? head : head + " " + text);

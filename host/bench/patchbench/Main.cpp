@@ -12,7 +12,7 @@ int main (int argc, char** argv)
 {
 #ifdef _WIN32
     for (auto* stream : { stdout, stderr })
-        _setmode (_fileno (stream), _O_BINARY); // lines end as they do everywhere else
+        _setmode (_fileno (stream), _O_BINARY); // same line ends on every platform
 #endif
     return patchbench::run (argc, argv,
                             { { patchbench::findExternal, patchbench::namesOfExternals,

@@ -71,7 +71,7 @@ void wait (Session& session, const Words& words)
     session.wait (static_cast<int> (time));
 }
 
-/** A line of the script's own in the output. */
+/** Prints a line chosen by the script. */
 void mark (Session&, const Words& words)
 {
     std::string line = "- mark";

@@ -34,7 +34,7 @@ void describe (CLI::App& app, Options& options)
                                                       { "offscreen", WindowPlace::offscreen } };
     const std::map<std::string, bench::DeferMedium> modes{ { "queue", bench::DeferMedium::queue },
                                                            { "now", bench::DeferMedium::now } };
-    app.allow_windows_style_options (false); // a path may begin with a slash everywhere
+    app.allow_windows_style_options (false); // a path may begin with a slash on every platform
     app.add_option ("--window", options.window, "Where windows go (auto: on the display if there is one)")
         ->transform (CLI::CheckedTransformer (windows))
         ->option_text ("auto|native|offscreen");
@@ -50,7 +50,7 @@ void describe (CLI::App& app, Options& options)
         "scripts and their windows stay; so they do with a last command `wait`");
 }
 
-/** Runs lines and reports what could not be carried out, with the place where it stands. */
+/** Runs lines and reports failed commands with their location. */
 class Runner
 {
 public:

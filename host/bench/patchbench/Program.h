@@ -12,15 +12,14 @@ enum class WindowPlace
     offscreen
 };
 
-/** What a program of this kind is made of: the externals that it can load and the windows that it can show. */
+/** The parts of the program: the externals it can load and the windows it can show. */
 struct Parts
 {
     Session::Externals externals;
     std::function<std::unique_ptr<bench::WindowDriver> (WindowPlace)> makeWindows; // empty: none
 };
 
-/** The whole program. The result is its exit status: 0, 1 if a command could not be carried out, 2 for unusable
-    options. */
+/** Runs the program. Returns its exit status: 0, 1 if a command failed, 2 for invalid options. */
 int run (int argc, const char* const* argv, const Parts& parts);
 
 }

@@ -6,10 +6,10 @@
 namespace patchbench
 {
 
-/** Reads lines from a person at a terminal until the session or the input is over, pumping while it waits. */
+/** Reads lines from a terminal until the session or the input ends, pumping while it waits. */
 void runPrompt (Session& session, const std::function<void (const std::string& line)>& runLine);
 
-/** True if somebody sits before standard input. */
+/** Whether standard input is a terminal. */
 bool isInteractive();
 
 }

@@ -23,8 +23,8 @@ namespace
 {
 volatile std::sig_atomic_t interruptions = 0; // Ctrl+C
 volatile std::sig_atomic_t sizeChanges = 0;
-volatile std::sig_atomic_t resumptions = 0; // back from Ctrl+Z
-volatile std::sig_atomic_t endings = 0;     // the terminal or somebody else wants us to go
+volatile std::sig_atomic_t resumptions = 0; // continued after Ctrl+Z
+volatile std::sig_atomic_t endings = 0;     // hangup or termination requests
 
 void onSignal (int signal)
 {
@@ -42,7 +42,7 @@ void onSignal (int signal)
     bench::wakeMainThread();
 }
 
-/** Handles the signals of a terminal while it lives. */
+/** Handles a terminal's signals for its lifetime. */
 class Signals
 {
 public:
@@ -88,7 +88,7 @@ std::string narrow (const wchar_t* text, std::size_t length)
     std::string result;
     std::mbstate_t state{};
     for (std::size_t i = 0; i < length; ++i) {
-        char bytes[16]; // more than any locale's longest character
+        char bytes[16]; // longer than any locale's longest character
         const auto size = std::wcrtomb (bytes, text[i], &state);
         if (size == static_cast<std::size_t> (-1))
             state = {};
@@ -107,7 +107,7 @@ std::string commonStart (const std::vector<std::string>& words)
     return start;
 }
 
-/** The word as it is typed: blanks, quotes and backslashes behind a backslash. */
+/** The word as typed: blanks, quotes and backslashes are escaped. */
 std::string escaped (const std::string& word)
 {
     std::string result;
@@ -142,7 +142,7 @@ std::string historyFile()
     return home == nullptr || *home == 0 ? std::string() : std::string (home) + "/.patchbench_history";
 }
 
-/** The lines of earlier, kept in the user's home folder. */
+/** The history of lines, stored in the user's home folder. */
 class History
 {
 public:
@@ -159,7 +159,7 @@ public:
     History (const History&) = delete;
     History& operator= (const History&) = delete;
 
-    /** Saved at once, so that nothing is lost however the program ends. */
+    /** Saved at once, so that nothing is lost if the program crashes. */
     void add (const wchar_t* line)
     {
         HistEventW event;
@@ -167,7 +167,7 @@ public:
         if (file.empty() || history_w (history, &event, H_SAVE, file.c_str()) != -1)
             return;
         std::cerr << "patchbench: the history cannot be written to " << file << std::endl;
-        file.clear(); // told once
+        file.clear(); // report only once
     }
 
     HistoryW* get() const { return history; }
@@ -177,8 +177,8 @@ private:
     std::string file = historyFile();
 };
 
-/** A line editor on the terminal. While it waits for a key the bench runs: what is printed meanwhile is put above the
-    line that is being typed. */
+/** A line editor on the terminal. The bench keeps running while it waits for a key; output appears above the line being
+    edited. */
 class Prompt
 {
 public:
@@ -209,14 +209,14 @@ public:
 
     void run (const std::function<void (const std::string&)>& runLine)
     {
-        el_wset (editor, EL_PREP_TERM, 1); // the editor itself does this only after it has shown the prompt
+        el_wset (editor, EL_PREP_TERM, 1); // the editor does this only after it has shown the prompt
         while (! session.isOver() && endings == 0) {
             int length = 0;
             isEditing = true;
             const auto* line = el_wgets (editor, &length);
             isEditing = false;
             writePending();
-            // Keys that are typed while a command runs wait for the editor; the terminal must not show them itself.
+            // Keys typed while a command runs are kept for the editor; the terminal must not echo them.
             el_wset (editor, EL_PREP_TERM, 1);
             if (line == nullptr || length <= 0) {
                 std::fputs (interruptions != 0 ? "^C\n" : "\n", screen);
@@ -266,7 +266,7 @@ private:
         pending += line + '\n';
     }
 
-    /** Lines that came since the last look; while a line is edited they go above it. */
+    /** Writes lines that arrived since the last call, above the line being edited. */
     void writePending()
     {
         std::string lines;
@@ -289,7 +289,7 @@ private:
         return el_wget (editor, EL_GETTC, "co", &number) == 0 && number > 0 ? number : 80;
     }
 
-    /** Takes the prompt and the typed line off the screen. */
+    /** Erases the prompt and the typed line from the screen. */
     void eraseTyped()
     {
         const auto* line = el_wline (editor);
@@ -313,7 +313,7 @@ private:
                 return 0;
             if (interruptions != 0) {
                 errno = EINTR;
-                return -1; // the editor gives up the line and starts anew
+                return -1; // the editor discards the line and starts over
             }
             char byte = 0;
             const auto count = read (STDIN_FILENO, &byte, 1);
@@ -327,7 +327,7 @@ private:
             if (length <= bytes.size())
                 return 1;
             if (length == static_cast<std::size_t> (-1))
-                bytes.clear(); // no character: passed over
+                bytes.clear(); // invalid character: skipped
         }
     }
 
@@ -379,7 +379,7 @@ private:
     History history;
     EditLine* const editor;
     std::mutex mutex;
-    std::string pending; // lines that were printed and are not yet on the screen
+    std::string pending; // printed lines not yet on the screen
     std::atomic<bool> isEditing{ false };
 };
 }

@@ -11,12 +11,12 @@ namespace patchbench
 
 namespace
 {
-/** Lines that a thread of its own read, since a console cannot be asked without waiting. Kept for ever: the thread
-    may still wait in the console when the program ends. */
+/** Lines read by a separate thread, because reading a console blocks. Never freed: the thread may still be blocked when
+    the program ends. */
 struct Lines
 {
     std::mutex mutex;
-    std::deque<std::optional<std::string>> lines; // nothing: the end of the input
+    std::deque<std::optional<std::string>> lines; // nullopt: end of input
 
     std::optional<std::optional<std::string>> next()
     {

@@ -1,20 +1,20 @@
 #pragma once
 #include <string>
 
-/** The text of scripts: what is one, and what it looks like when it is echoed. */
+/** Helpers for script text: recognising scripts and echoing their lines. */
 namespace patchbench
 {
 
-/** Why a file cannot be played, judged by its kind and its name; empty if it can be tried. */
+/** Why a file cannot be a script, judged by its kind and name; empty if it may be one. */
 std::string complaintAbout (const std::string& file);
 
-/** Takes a byte order mark off the first line of a script; returns a complaint if there was one. */
+/** Removes a byte order mark from a script's first line; returns a complaint for an unsupported one. */
 std::string removeByteOrderMark (std::string& line);
 
-/** False for a line with zero bytes, which no text holds. */
+/** False for a line with null bytes. */
 bool isText (const std::string& line);
 
-/** "> COMMAND", as at the prompt; comments and blank lines as they stand. */
+/** "> COMMAND", as at the prompt; comments and blank lines unchanged. */
 std::string echoOf (const std::string& line);
 
 }

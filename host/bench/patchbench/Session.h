@@ -11,17 +11,17 @@
 namespace patchbench
 {
 
-/** A command that could not be carried out; the text is told on standard error. */
+/** A failed command; the text goes to standard error. */
 struct CommandError : std::runtime_error
 {
     using std::runtime_error::runtime_error;
 };
 
-/** One run of the program: a bench, and the commands that work on it. Prints every event on standard output. */
+/** One run of the program: a bench and the commands on it. Prints every event to standard output. */
 class Session
 {
 public:
-    /** What can be loaded: the entry point of a class, the names of all classes, and how their messages are written. */
+    /** What can be loaded: a class's entry point, the names of all classes, and the syntax of their messages. */
     struct Externals
     {
         std::function<bench::Entry (const std::string& className)> find;
@@ -32,7 +32,7 @@ public:
     struct Settings
     {
         bench::DeferMedium deferMedium = bench::DeferMedium::queue;
-        bool trace = false; // prints notifications too
+        bool trace = false; // print notifications too
         Externals externals;
     };
 
@@ -41,42 +41,42 @@ public:
     /** Runs one line and pumps. Throws CommandError. */
     void run (const std::string& line);
 
-    /** True from the command `quit` on. */
+    /** True after the command `quit`. */
     [[nodiscard]] bool isOver() const { return over; }
     void quit() { over = true; }
 
-    /** The box of this name, or a CommandError. */
+    /** The box of this name; throws CommandError if there is none. */
     bench::Box& box (const std::string& name);
 
-    /** The driver of the windows, or a CommandError where there is none. */
+    /** The window driver; throws CommandError if there is none. */
     static bench::WindowDriver& windows();
 
-    /** Loads the external of a class unless that was done before; false if there is none. */
+    /** Loads a class's external unless already loaded; false if there is none. */
     bool load (const std::string& className);
 
     [[nodiscard]] const Externals& externals() const { return settings.externals; }
 
-    /** Lets time pass, in milliseconds; waitForWindows() until no window is on the display any more. Both end at
+    /** wait() lets time pass, in milliseconds; waitForWindows() waits until no window is on the display. Both return at
         once when the user interrupts. */
     void wait (int milliseconds);
     void waitForWindows();
 
-    /** Set by a prompt when the user presses Ctrl+C; safe in a signal handler. */
+    /** Called by a prompt on Ctrl+C; async-signal-safe. */
     static void interrupt (bool interrupted);
 
     /** Writes a line of output. Any thread. */
     static void print (const std::string& line);
 
-    /** Where lines go instead of standard output; null for standard output. Called on the thread that prints. */
+    /** Redirects lines from standard output; null restores it. Called on the printing thread. */
     static void setPrinter (std::function<void (const std::string& line)> printer);
 
 private:
-    // Outlive the bench, whose last events come while it goes.
+    // Must outlive the bench, which records events while it is destroyed.
     const Settings settings;
-    std::set<std::string> openWindows; // names of the boxes whose window is shown; main thread
+    std::set<std::string> openWindows; // names of boxes with a visible window; main thread
 
 public:
-    bench::Thread thread = bench::Thread::main; // where sends come from
+    bench::Thread thread = bench::Thread::main; // the thread for sends
     bench::Bench bench;
 
 private:

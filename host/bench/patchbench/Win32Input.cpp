@@ -10,10 +10,10 @@ namespace patchbench
 
 namespace
 {
-constexpr DWORD betweenMoves = 20;     // ms; a GUI may pass over moves that come faster than pictures
-constexpr DWORD betweenClicks = 600;   // ms; presses further apart never join into a double click,
-constexpr int besideClicks = 20;       // nor do presses that lie so many pixels apart
-constexpr float unitsOfWheel = 512.0F; // of a turn by 1
+constexpr DWORD betweenMoves = 20;     // ms; a GUI may skip moves that come faster than frames
+constexpr DWORD betweenClicks = 600;   // ms; presses further apart never form a double click,
+constexpr int besideClicks = 20;       // nor do presses this many pixels apart
+constexpr float unitsOfWheel = 512.0F; // per wheel step of 1
 
 struct KeyRow
 {
@@ -35,7 +35,7 @@ void sendKeyboard (WORD code, WORD scan, DWORD flags)
     INPUT input{};
     input.type = INPUT_KEYBOARD;
     input.ki.wVk = code;
-    input.ki.wScan = scan; // a GUI may tell the keys apart by their places
+    input.ki.wScan = scan; // a GUI may identify keys by scan code
     input.ki.dwFlags = flags;
     SendInput (1, &input, sizeof (input));
     pumpMessages();
@@ -47,7 +47,7 @@ void sendKey (WORD code, bool down)
     sendKeyboard (code, scan, down ? 0 : KEYEVENTF_KEYUP);
 }
 
-/** A character that has no key of its own on this keyboard, as an input method gives it. */
+/** Sends a character that has no key on this keyboard, as an input method does. */
 void sendCharacter (WORD character)
 {
     sendKeyboard (0, character, KEYEVENTF_UNICODE);
@@ -64,7 +64,7 @@ void sendMouse (DWORD flags, int wheel = 0)
     pumpMessages();
 }
 
-/** Holds modifier keys down as long as it lives. */
+/** Holds modifier keys down for its lifetime. */
 class HeldKeys
 {
 public:
@@ -77,7 +77,7 @@ public:
     ~HeldKeys()
     {
         for (const auto code : held) {
-            // Alt alone, pressed and let go, would open the window's menu and wait in it.
+            // Pressing and releasing Alt alone would open the window's menu and block in it.
             if (code == VK_MENU) {
                 sendKey (VK_CONTROL, true);
                 sendKey (VK_CONTROL, false);
@@ -104,7 +104,7 @@ std::vector<WORD> keysOf (const bench::PointerEvent& event)
     return keys;
 }
 
-/** The words of a description between its plus signs. */
+/** The parts of a description between its plus signs. */
 std::vector<std::string> partsOf (const std::string& description)
 {
     const std::string separator = " + ";
@@ -127,7 +127,7 @@ WORD codeIn (const KeyRow (&rows)[count], const std::string& name)
     return 0;
 }
 
-/** Of a key that gives what it is called without shift or another modifier; 0 if there is none. */
+/** The code of the key that types this name without modifiers; 0 if there is none. */
 WORD codeOf (const std::string& name)
 {
     if (const auto code = codeIn (namedKeys, name))
@@ -151,7 +151,7 @@ void pumpFor (DWORD milliseconds)
     } while (GetTickCount() - start < milliseconds);
 }
 
-/** Comes back when the window system, too, has told of the new place. */
+/** Returns once the window system has reported the new position too. */
 void movePointer (POINT place)
 {
     SetCursorPos (place.x, place.y);
@@ -165,7 +165,7 @@ void bringIntoView (HWND window, POINT place)
     DWORD process = 0;
     if (there != nullptr)
         GetWindowThreadProcessId (there, &process);
-    if (process != GetCurrentProcessId()) // a menu of ours may lie over it
+    if (process != GetCurrentProcessId()) // one of our own menus may cover it
         SetForegroundWindow (frame);
 }
 
@@ -214,7 +214,7 @@ void Win32Input::pointer (HWND window, const bench::PointerEvent& event)
     using Action = bench::PointerEvent::Action;
     POINT place{ static_cast<int> (std::lround (event.x)), static_cast<int> (std::lround (event.y)) };
     ClientToScreen (window, &place);
-    // A window that the pointer enters asks which keys are really down: those of ours are pressed after that.
+    // When the pointer enters a window, it queries the real key state: press our keys after that.
     if (release == 0) {
         bringIntoView (window, place);
         movePointer (place);

@@ -5,18 +5,18 @@
 namespace patchbench
 {
 
-/** Delivers the messages that wait for this thread; true if there were any. */
+/** Delivers this thread's pending messages; returns whether there were any. */
 bool pumpMessages();
 
-/** The pointer and the keyboard of this machine. Whatever is done has been delivered when an operation returns.
-    Main thread, which owns the windows. */
+/** The machine's pointer and keyboard. Each operation returns after its events have been delivered. Main thread, which
+    owns the windows. */
 class Win32Input
 {
 public:
-    /** At a pixel of the window, which is brought into view there if another one covers it. */
+    /** Acts at a pixel of the window; raises the window if another one covers it. */
     void pointer (HWND window, const bench::PointerEvent& event);
 
-    /** Types a key into the window, described as in "ctrl + w" or "cursor left"; false if there is no such key. */
+    /** Types a key into the window, for example "ctrl + w" or "cursor left"; false if there is no such key. */
     bool key (HWND window, const std::string& description);
 
 private:
@@ -25,7 +25,7 @@ private:
 
     DWORD lastPress = 0; // tick count
     POINT lastPlace{};   // of that press, on the screen
-    DWORD release = 0;   // the flag that lets go of the held button
+    DWORD release = 0;   // the flag that releases the held button
 };
 
 }

@@ -9,7 +9,7 @@ namespace patchbench
 
 namespace
 {
-/** GDI+ runs as long as this lives. */
+/** Keeps GDI+ initialised for its lifetime. */
 struct RunningGdiplus
 {
     RunningGdiplus()
@@ -30,10 +30,10 @@ constexpr CLSID pngEncoder = { 0x557cf406, 0x1a04, 0x11d3, { 0x9a, 0x73, 0x00, 0
 
 bool writePictureOf (HWND window, const std::string& file)
 {
-    // What lies under another window may not be there to be copied.
+    // The part under another window may not be available to copy.
     SetWindowPos (GetAncestor (window, GA_ROOT), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 
-    // Nothing is drawn by itself where no display tells its blanks, as under Wine.
+    // Without a display that reports vertical blanks, as under Wine, nothing redraws by itself.
     RedrawWindow (window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     GdiFlush();
 

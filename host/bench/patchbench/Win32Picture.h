@@ -5,8 +5,8 @@
 namespace patchbench
 {
 
-/** Has the window drawn anew and writes what stands on the screen of it to a PNG; what its frame cuts off comes out
-    black. False if the file cannot be written. */
+/** Redraws the window and writes its screen contents to a PNG; what its frame clips is black. False if the file cannot
+    be written. */
 bool writePictureOf (HWND window, const std::string& file);
 
 }

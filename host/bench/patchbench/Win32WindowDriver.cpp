@@ -8,7 +8,7 @@ namespace patchbench
 
 namespace
 {
-Win32WindowDriver* current = nullptr; // a hook has no context
+Win32WindowDriver* current = nullptr; // a hook has no context pointer
 
 struct PlaceOfTab
 {
@@ -19,8 +19,8 @@ struct PlaceOfTab
 const char* const noWindow = "it has no window";
 const char* const notOpen = "it is not on the screen";
 
-// The middle of each tab, in pixels of what stands in the frame. An external draws its tabs itself and tells nobody
-// where they are; they stand alike on every screen.
+// The middle of each tab, in client pixels. An external draws its tabs itself and does not expose them; they are at the
+// same place on every screen.
 constexpr PlaceOfTab tabs[] = { { 55, 22 }, { 156, 22 }, { 210, 22 } };
 
 bool isFrame (HWND window)
@@ -39,7 +39,7 @@ std::string titleOf (HWND window)
     return text;
 }
 
-/** Brought to the top of all windows, and nothing else. */
+/** Whether the change only raises a window to the top. */
 bool isRaised (const WINDOWPOS& change)
 {
     constexpr UINT decisive = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_SHOWWINDOW | SWP_HIDEWINDOW;
@@ -78,7 +78,7 @@ void Win32WindowDriver::see (const CWPRETSTRUCT& message)
             report (message.hwnd, message.wParam != 0 ? "shown" : "hidden");
         break;
     case WM_WINDOWPOSCHANGING:
-        // A click raises a window as well; that is the user's doing, not the object's.
+        // A click also raises a window, but then the user does, not the object.
         if (isRaised (*reinterpret_cast<const WINDOWPOS*> (message.lParam)) && bench::objectAtWork() != nullptr &&
             ! std::exchange (frontTold, true))
             report (message.hwnd, "front");

@@ -7,10 +7,9 @@
 namespace patchbench
 {
 
-/** The hands and eyes of the bench on Windows. It knows the dialog frames that objects make by the messages that
-    Windows sends them, works with the real pointer and the real keyboard, and takes pictures off the screen.
-    What a frame holds is drawn by the external: a page is turned by a click at its tab.
-    At most one driver at a time; main thread. */
+/** The bench's window driver on Windows. It recognises the objects' dialog frames by the messages that Windows sends
+    them, uses the real pointer and keyboard, and takes pictures off the screen. The external draws the frame's
+    contents, so pages are switched by clicking their tabs. At most one driver at a time; main thread. */
 class Win32WindowDriver : public bench::WindowDriver
 {
 public:
@@ -34,7 +33,7 @@ private:
     void seeCreation (HWND frame, const CREATESTRUCTW& creation);
     void report (HWND frame, const std::string& what) const;
 
-    /** The window in which the object's component stands; null, and a complaint, if that is not on view. */
+    /** The window that holds the object's component; null, and a complaint, if it is not visible. */
     HWND contentOf (void* object, std::string& complaint) const;
 
     Sink tell;

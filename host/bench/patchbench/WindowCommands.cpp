@@ -45,7 +45,7 @@ constexpr ModifierRow modifiers[] = {
     { "right", &PointerEvent::right },
 };
 
-/** The words of a table, for a complaint about one that is not among them. */
+/** A table's words, for the complaint about an unknown one. */
 template <typename Row, std::size_t size>
 std::string wordsIn (const Row (&table)[size])
 {
@@ -114,7 +114,7 @@ void key (Session& session, const Words& words)
     report (Session::windows().key (box.object, description));
 }
 
-/** Endings that promise another kind of picture than the one that is written. */
+/** Extensions of picture formats that are not supported. */
 constexpr const char* otherPictures[] = { ".jpg", ".jpeg", ".gif", ".bmp", ".tif", ".tiff", ".webp", ".svg", ".pdf" };
 
 void shot (Session& session, const Words& words)

@@ -4,7 +4,7 @@
 namespace patchbench
 {
 
-/** The driver for windows at this place; `automatic` is the display if one can be opened, else memory. */
+/** The driver for windows at this place; `automatic` uses the display if one can be opened, otherwise memory. */
 std::unique_ptr<bench::WindowDriver> makeWindows (patchbench::WindowPlace place);
 
 }

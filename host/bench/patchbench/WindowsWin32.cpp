@@ -4,7 +4,7 @@
 namespace patchbench
 {
 
-/** Windows always has a desktop: there are none in memory. */
+/** Windows always has a desktop, so there are no windows in memory. */
 std::unique_ptr<bench::WindowDriver> makeWindows (patchbench::WindowPlace)
 {
     return std::make_unique<Win32WindowDriver>();

@@ -4,11 +4,11 @@
 namespace bench
 {
 
-/** Runs JUCE's messages until its queue is empty, messages posted meanwhile included; true if there was any.
-    JUCE has been started on this thread. */
+/** Runs JUCE's messages until its queue is empty, including messages posted meanwhile; returns whether there were any.
+    JUCE must be initialised on this thread. */
 bool pumpGui();
 
-/** What can be read when JUCE has something to run: its messages, and the display's events. */
+/** Descriptors that become readable when JUCE has work: its messages and the display's events. */
 std::vector<int> guiDescriptors();
 
 }

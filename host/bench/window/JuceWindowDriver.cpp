@@ -47,7 +47,7 @@ juce::TabbedComponent* tabsIn (juce::Component& component)
     return nullptr;
 }
 
-/** Pages that are made only when the component is first drawn are made now. */
+/** Creates pages that are otherwise created at the first paint. */
 juce::TabbedComponent* pagesOf (juce::Component& component)
 {
     if (auto* tabs = tabsIn (component))
@@ -56,8 +56,8 @@ juce::TabbedComponent* pagesOf (juce::Component& component)
     return tabsIn (component);
 }
 
-/** With all that lies over it in its window, menus included, if it is on view. What OpenGL draws is not in JUCE's
-    reach: then the component paints itself once more, without. */
+/** Includes everything on top of it in its window, menus too, if it is visible. JUCE cannot read back OpenGL content:
+    in that case the component paints itself again, without OpenGL. */
 juce::Image pictureOf (juce::Component& component)
 {
     if (component.getCachedComponentImage() != nullptr)
@@ -165,7 +165,7 @@ std::unique_ptr<orvanemax::NativeWindow> JuceWindowDriver::makeWindow (const voi
                 tell (const_cast<void*> (object), what);
         },
         [this, object, component] {
-            // The object's place may be another's by now.
+            // The object's address may have been reused by now.
             if (const auto entry = entries.find (object);
                 entry != entries.end() && entry->second.component == component)
                 entries.erase (entry);

@@ -9,8 +9,8 @@
 namespace bench
 {
 
-/** The hands and eyes of the bench for windows that JUCE makes, on the display or in memory. It starts JUCE and ends
-    it; between, every window of the product is made by it and tells the bench what happens to it. */
+/** The bench's window driver for JUCE windows, on the display or in memory. Initialises JUCE and shuts it down;
+    meanwhile it creates every window of the product and reports its events to the bench. */
 class JuceWindowDriver : public bench::WindowDriver
 {
 public:
@@ -22,7 +22,7 @@ public:
 
     explicit JuceWindowDriver (Place place);
 
-    /** No object may be left. */
+    /** All objects must have been freed. */
     ~JuceWindowDriver() override;
 
     void setSink (Sink sink) override;

@@ -8,10 +8,10 @@ namespace bench
 namespace
 {
 
-// Presses further apart than this never join into a double click.
+// Presses further apart than this never form a double click.
 constexpr int apart = 1000;
 
-/** The one clock of all events: milliseconds, never behind the real time at which it was first asked. */
+/** The clock of all events: milliseconds, never behind the real time at its first use. */
 juce::int64& eventTime()
 {
     static juce::int64 now = juce::Time::currentTimeMillis();
@@ -121,7 +121,7 @@ bool PeerInput::deliver (juce::Point<float> position, juce::ModifierKeys keys)
 
     const auto inPeer = target->getComponent().getLocalPoint (component.get(), position);
     desktop::offscreen::setPointer (target->localToGlobal (inPeer).roundToInt());
-    // JUCE takes only the buttons from the event; shift, ctrl and alt are the process's.
+    // JUCE takes only the buttons from the event; shift, ctrl and alt come from process-wide state.
     juce::ModifierKeys::currentModifiers = keys;
     target->handleMouseEvent (juce::MouseInputSource::InputSourceType::mouse, inPeer, keys,
                               juce::MouseInputSource::defaultPressure, juce::MouseInputSource::defaultOrientation,

@@ -5,11 +5,11 @@
 namespace bench
 {
 
-/** The pointer and the keyboard of someone who sits before a window. Events enter at the component's peer, as
-    from the window system, with a clock of their own: two presses are a double click only when asked for.
+/** Simulates the user's pointer and keyboard. Events enter at the component's peer, as from the window system, with
+    their own clock: two presses form a double click only if requested.
 
-    Positions are pixels of the component. Every operation returns false, having done nothing, while the
-    component stands in no visible window. Message thread; nothing is pumped. */
+    Positions are in component pixels. Every operation returns false and does nothing while the component is not in a
+    visible window. Message thread; does not pump. */
 class PeerInput
 {
 public:
@@ -17,19 +17,19 @@ public:
 
     bool move (juce::Point<float> position, juce::ModifierKeys keys = {});
 
-    /** Presses the left button, or the right one if the keys hold it. */
+    /** Presses the left button, or the right one if the modifiers include it. */
     bool press (juce::Point<float> position, juce::ModifierKeys keys = {});
 
-    /** Moves with the pressed button held; like move() when none is. */
+    /** Moves with the button held; same as move() if none is. */
     bool drag (juce::Point<float> position, juce::ModifierKeys keys = {});
     bool release (juce::Point<float> position, juce::ModifierKeys keys = {});
     bool click (juce::Point<float> position, juce::ModifierKeys keys = {});
     bool doubleClick (juce::Point<float> position, juce::ModifierKeys keys = {});
 
-    /** A notch of the wheel turns by about 0.2; positive away from the user. A pressed button stays pressed. */
+    /** A wheel notch is about 0.2; positive away from the user. A pressed button stays pressed. */
     bool wheel (juce::Point<float> position, float delta, juce::ModifierKeys keys = {});
 
-    /** Types the key into whatever has the focus in the window. */
+    /** Types the key into the window's focused component. */
     bool key (const juce::KeyPress& press);
 
 private:

@@ -8,13 +8,13 @@
 namespace bench
 {
 
-/** A window that tells what happens to it, in the words of the bench's language, and leaves the doing to another. */
+/** A window that reports its events in the bench's language and forwards all work to another one. */
 class WatchedWindow : public orvanemax::NativeWindow
 {
 public:
     using Tell = std::function<void (const std::string& what)>;
 
-    /** The second function is called when this object goes. */
+    /** Calls onEnd on destruction. */
     WatchedWindow (std::unique_ptr<orvanemax::NativeWindow> window, Tell tell, std::function<void()> onEnd);
     ~WatchedWindow() override;
 

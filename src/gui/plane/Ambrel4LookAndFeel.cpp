@@ -23,17 +23,17 @@ const juce::Colour disabledColour{ 0x80808080 };
 
 bool isHot (juce::Slider& slider) { return slider.isEnabled() && slider.isMouseOverOrDragging(); }
 
-/** One corner of a rounded path: an arc in the square that the corner size spans, or the bare corner. */
+/** One corner of a rounded path: an arc within the corner's square, or a sharp corner. */
 void addCorner (juce::Path& path, juce::Point<float> corner, juce::Point<float> inward, float size, bool round,
                 float startAngle)
 {
-    if (! round || size <= 0) // an arc of no size adds no point
+    if (! round || size <= 0) // an empty arc would add no point
         return path.lineTo (corner);
     const auto centre = corner + inward * size;
     path.addCentredArc (centre.x, centre.y, size, size, 0, startAngle, startAngle + juce::MathConstants<float>::halfPi);
 }
 
-/** A ring segment with a needle along the present angle, for sliders with room for it. */
+/** A ring segment with a needle at the current angle, for large sliders. */
 void drawLargeRotary (juce::Graphics& g, juce::Point<float> centre, float radius, float startAngle, float endAngle,
                       float angle, juce::Slider& slider)
 {
@@ -137,7 +137,7 @@ void drawBarSlider (juce::Graphics& g, juce::Rectangle<float> area, float positi
     auto base = slider.findColour (juce::Slider::thumbColourId).withMultipliedSaturation (enabled ? 1.0f : 0.5f);
     if (isHot (slider))
         base = base.brighter (slider.isMouseButtonDown() ? 0.2f : 0.1f);
-    g.setColour (juce::Colours::black.withAlpha (0.25f)); // so that an empty bar is seen too
+    g.setColour (juce::Colours::black.withAlpha (0.25f)); // so that an empty bar is visible too
     g.drawRect (area, 1);
     const auto bar = vertical ? area.withTop (position) : area.withRight (position);
     if (! bar.isEmpty())

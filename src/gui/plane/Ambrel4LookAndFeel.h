@@ -1,48 +1,48 @@
 #pragma once
 #include <juce_gui_basics/juce_gui_basics.h>
 
-/** The grey look of all our components: the colours and drawings that both looks share. Message thread. */
+/** The grey look of our components: colours and drawing functions shared by both looks. Message thread. */
 namespace Ambrel4
 {
 
-/** Gives a look its colours. */
+/** Sets a look's colours. */
 void setColours (juce::LookAndFeel& look);
 
-/** The label that shows and edits a slider's value; the caller owns it. */
+/** Creates the label that shows and edits a slider's value; the caller owns it. */
 [[nodiscard]] juce::Label* createSliderTextBox (juce::Slider& slider);
 
 /** A linear slider in bar style: a shaded bar up to the slider's position. */
 void drawBarSlider (juce::Graphics& g, juce::Rectangle<float> area, float position, bool vertical,
                     juce::Slider& slider);
 
-/** A rotary slider. The proportion runs from 0 at the start angle to 1 at the end angle, angles in radians. */
+/** A rotary slider. The proportion is 0 at the start angle and 1 at the end angle; angles in radians. */
 void drawRotarySlider (juce::Graphics& g, juce::Rectangle<int> area, float proportion, float startAngle, float endAngle,
                        juce::Slider& slider);
 
-/** Which corners of a rounded path are round; the others are square. */
+/** Which corners of a rounded path are rounded; the others are square. */
 struct Corners
 {
     bool topLeft = true, topRight = true, bottomLeft = true, bottomRight = true;
 };
 
-/** A closed path along a rectangle whose round corners are arcs of circles of diameter twice the corner size. */
+/** A closed path along a rectangle; the corner arcs have a diameter of twice the corner size. */
 [[nodiscard]] juce::Path roundedPath (juce::Rectangle<float> area, float cornerSize, Corners round = {});
 
-/** A shape shaded from top to bottom, with a dark rim; strength runs from 0 to 1. */
+/** A shape with a vertical gradient and a dark rim; strength is 0 to 1. */
 void drawShadedShape (juce::Graphics& g, const juce::Path& shape, juce::Colour base, float strength);
 
 /** A round slider thumb. */
 void drawThumb (juce::Graphics& g, juce::Point<float> centre, float radius, juce::Slider& slider);
 
-/** Where a menu opens: on the desktop (null), or inside the window where that has no handle and so no desktop. */
+/** Where a menu opens: on the desktop (null), or in the window itself if it has no native handle. */
 [[nodiscard]] juce::Component* menuParent (const juce::PopupMenu::Options& options);
 
-/** Text of sliders and labels has this height. */
+/** Text height of sliders and labels. */
 inline constexpr float textHeight = 12.0f;
 
 }
 
-/** The overrides that the two looks have in common, over the base that draws everything else. */
+/** The overrides common to both looks; the base draws everything else. */
 template <typename Base>
 class Ambrel4LookAndFeel : public Base
 {
@@ -101,10 +101,10 @@ public:
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (Ambrel4LookAndFeel)
 };
 
-/** The default look: what is not our own is drawn as JUCE's second generation does. */
+/** The default look, based on JUCE's V2. */
 class Ambrel4LookAndFeelV2 : public Ambrel4LookAndFeel<juce::LookAndFeel_V2>
 {};
 
-/** The same over JUCE's third generation. */
+/** The same, based on JUCE's V3. */
 class Ambrel4LookAndFeelV3 : public Ambrel4LookAndFeel<juce::LookAndFeel_V3>
 {};

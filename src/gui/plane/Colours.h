@@ -10,7 +10,7 @@
 namespace lumo::Plane
 {
 
-/** Each component is clamped to 0 to 1; nothing for one that is not a number. */
+/** Clamps each component to 0 to 1; returns nothing if one is NaN. */
 [[nodiscard]] inline std::optional<juce::Colour> ColourFrom (float red, float green, float blue, float alpha)
 {
     if (std::isnan (red) || std::isnan (green) || std::isnan (blue) || std::isnan (alpha))

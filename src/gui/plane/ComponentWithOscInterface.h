@@ -5,7 +5,7 @@
 namespace lumo
 {
 
-/** A component whose state can be read and written by address. */
+/** A component whose state can be read and written by OSC address. */
 class ComponentWithOscInterface : public Component, public qel::OscInterface
 {
 public:

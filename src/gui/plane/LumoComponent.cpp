@@ -11,9 +11,9 @@ namespace
 constexpr const char* openGLRendererName = "OpenGL Renderer";
 constexpr double smoothing = 0.1;
 
-/** JUCE leaves a new context current on the thread that draws for all windows. If the context goes before its first
-    frame, that thread lets go of it only when the next one is made current, long after it was freed. It makes the
-    context current again for each frame, so it need not be now. */
+/** JUCE leaves a new context current on the render thread shared by all windows. If the context is destroyed before its
+    first frame, that thread releases it only when the next one is made current, long after it was freed. Each frame
+    makes the context current again, so it can be released now. */
 struct ReleaseNewContext : juce::OpenGLRenderer
 {
     void newOpenGLContextCreated() override { juce::OpenGLContext::deactivateCurrentContext(); }
@@ -27,8 +27,8 @@ double now() noexcept { return juce::Time::getMillisecondCounterHiRes(); }
 
 }
 
-/** Paints nothing, behind all children, and so learns of each frame: JUCE skips the paint of a component that its
-    children hide. */
+/** Paints nothing, behind all children, to be notified of every frame: JUCE skips the paint of a component that its
+    children cover. */
 class Component::FrameMark : public juce::Component
 {
 public:
@@ -120,7 +120,7 @@ void Component::SetShowFps (bool show)
     repaint();
 }
 
-/** A frame that was asked for to refresh the overlay, and shows nothing else, is not one of those that it counts. */
+/** Frames requested only to refresh the overlay are not counted by it. */
 void Component::frameBegins (juce::Rectangle<int> area)
 {
     paintsOverlayAlone = std::exchange (overlayIsDue, false) && overlayArea().contains (area);
@@ -145,7 +145,7 @@ void Component::EndPaintTiming() noexcept
     const double sinceLast = end - lastPaintTime;
     lastPaintTime = end;
     renderTime += (end - paintStartTime - renderTime) * smoothing;
-    if (sinceLast > 0) // two paints within one tick of the clock have no rate
+    if (sinceLast > 0) // two paints within one clock tick have no rate
         frameRate += (1000.0 / sinceLast - frameRate) * smoothing;
 }
 
@@ -196,7 +196,7 @@ void Component::paintOverChildren (juce::Graphics& g)
     if (! showFps || (parent != nullptr && dynamic_cast<const juce::TopLevelWindow*> (parent) == nullptr))
         return;
     const auto area = overlayArea();
-    if (! std::exchange (paintsOverlayAlone, false)) { // this frame may hold a part of it, or none
+    if (! std::exchange (paintsOverlayAlone, false)) { // this frame may paint a part of it, or none
         overlayIsDue = true;
         repaint (area);
     }

@@ -8,45 +8,45 @@
 namespace lumo
 {
 
-/** The base of all visual parts: a component with a choice of look, an optional OpenGL context, and an overlay of
-    frame statistics. Message thread. */
+/** Base of all visual components: selectable look, optional OpenGL context, and an overlay with frame statistics.
+    Message thread. */
 class Component : public juce::Component
 {
 public:
     explicit Component (const juce::String& name = {});
     ~Component() override;
 
-    /** "v2" and "V2", "v3" and "V3" choose a look, any other text keeps the present one. Applies it. */
+    /** Applies the look "v2" or "V2", "v3" or "V3"; any other text keeps the present one. */
     virtual void SetLookAndFeelVersion (const juce::String& text);
 
-    /** While on, JUCE renders this component through OpenGL, frame after frame, in a native window. A window in memory
-        has nothing that OpenGL could draw on. Hide the component before it leaves its window: a context that is
-        detached later leaves its listener in the window, which calls it when it is gone. */
+    /** While on, JUCE renders this component continuously by OpenGL in its native window; windows in memory have
+        nothing to render to. Hide the component before removing it from its window: a context detached later leaves a
+        dangling listener in the window. */
     void SetOpenGLEnabled (bool enabled);
     /** True while a context is attached. */
     [[nodiscard]] bool IsOpenGLEnabled() const noexcept;
 
-    /** Shows the frame statistics; only a component with no parent, or right in a top-level window, draws them. */
+    /** Shows frame statistics; drawn only by a component without a parent, or directly in a top-level window. */
     void SetShowFps (bool show);
     [[nodiscard]] bool GetShowFps() const noexcept { return showFps; }
 
-    /** A painter brackets its work with these two; they do nothing while the statistics are off. One that ends in
-        paintOverChildren is timed from the start of the frame, also when its children hide all that it paints itself. */
+    /** A painter brackets its work with these; they do nothing while the statistics are off. With the end in
+        paintOverChildren, timing starts with the frame, even if children cover everything the component paints. */
     void BeginPaintTiming() noexcept;
     void EndPaintTiming() noexcept;
-    /** Milliseconds that a paint takes, smoothed. */
+    /** Smoothed paint time in milliseconds. */
     [[nodiscard]] double GetRenderTime() const noexcept { return renderTime; }
-    /** Frames in a second, smoothed. */
+    /** Smoothed frame rate in frames per second. */
     [[nodiscard]] double GetFrameRate() const noexcept { return frameRate; }
 
     /** The peer's renderers, and "OpenGL Renderer". */
     [[nodiscard]] juce::StringArray GetRendererNames() const;
-    /** The renderer in use; empty with no window. */
+    /** The current renderer; empty without a window. */
     [[nodiscard]] juce::String GetRendererName() const;
 
-    /** A font of that face; the words "bold", "italic" and "underlined" in the style are heeded. */
+    /** A font of this face; the style may contain "bold", "italic" and "underlined". */
     [[nodiscard]] static juce::Font MakeFont (const juce::String& face, const juce::String& style, float height);
-    /** The plain font of the interface. */
+    /** The interface's plain font. */
     [[nodiscard]] static juce::Font MakeFont (float height);
 
     void paintOverChildren (juce::Graphics& g) override;
@@ -54,7 +54,7 @@ public:
     void visibilityChanged() override;
 
 private:
-    /** One instance of each look serves all components of the process. */
+    /** Looks are shared by all components of the process. */
     struct LookAndFeelHolder
     {
         int version = 0;
@@ -75,7 +75,7 @@ private:
     bool openGLIsWanted = false;
     bool showFps = false;
     bool isTiming = false;
-    bool overlayIsDue = false, paintsOverlayAlone = false; // the overlay is painted once more after each frame
+    bool overlayIsDue = false, paintsOverlayAlone = false; // the overlay is repainted once after each frame
     double paintStartTime = 0, renderTime = 0, frameRate = 0, lastPaintTime = 0;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (Component)

@@ -53,7 +53,7 @@ void PlaneBase::GetOptions (PlaneOptions& copy) const
     copy.gridDashed = surface.grid.dashed;
 }
 
-// ---- Listeners and the ends of setters
+// ---- Listeners, and what setters have in common
 
 void PlaneBase::AddListener (PlaneListener* listener)
 {
@@ -165,7 +165,7 @@ void PlaneBase::SetZoom (float zoom, bool repaintNow)
 
 void PlaneBase::SetOffset (float& stored, float pixels)
 {
-    if (! AreFinite (pixels) || std::exchange (stored, pixels) == pixels) // 0 takes the place of -0, and -0 of 0
+    if (! AreFinite (pixels) || std::exchange (stored, pixels) == pixels) // replaces 0 by -0 too, and back
         return;
     UpdateScreenPositions();
     MarkStaticLayerDirty();

@@ -7,23 +7,23 @@
 namespace lumo
 {
 
-/** The surface of the scene editor: view, zoom, grid, axes, legend, background, anchors and shoebox. Message thread.
-    Setters clamp in silence, refuse what is not finite, and repaint; most tell the listeners OptionsChanged. */
+/** The scene editor's surface: view, zoom, grid, axes, legend, background, anchors and shoebox. Setters clamp, ignore
+    non-finite values, and repaint; most notify OptionsChanged. Message thread. */
 class PlaneBase : public ComponentWithOscInterface
 {
 public:
     explicit PlaneBase (const juce::String& name);
 
-    /** What the layers read. */
+    /** For the layers. */
     [[nodiscard]] const Plane::Surface& GetSurface() const noexcept { return surface; }
-    /** Copies the flags of the view, but for the selection of the listener. */
+    /** Copies the view's flags, except the listener's selection. */
     void GetOptions (PlaneOptions& copy) const;
 
-    /** Listeners are not owned, and are called in the order of adding. Null or a second add is ignored. */
+    /** Listeners are not owned, and are called in the order added. Null and duplicates are ignored. */
     void AddListener (PlaneListener* listener);
     void RemoveListener (PlaneListener* listener);
 
-    /** The scene, as far as the surface knows of it: nothing at the origin. */
+    /** The scene as the surface sees it: by default everything is at the origin. */
     [[nodiscard]] virtual const qel::Point3& GetSourcePosition (std::size_t index) const;
     [[nodiscard]] virtual const qel::Point3& GetSpeakerPosition (std::size_t index) const;
     [[nodiscard]] virtual std::size_t GetNumSources() const { return 0; }
@@ -31,7 +31,7 @@ public:
     [[nodiscard]] const Plane::Listener& GetListener() const noexcept { return surface.listener; }
     [[nodiscard]] const qel::Point3& GetListenerPosition() const noexcept { return surface.listener.position; }
 
-    // The view. Offsets are pixels, positive to the right and up.
+    // The view. Offsets in pixels, positive right and up.
     void SetViewerVisible (bool visible);
     void SetTopView (bool on);
     void SetFrontView (bool on);
@@ -43,12 +43,12 @@ public:
     void SetXOffset (float pixels);
     void SetYOffset (float pixels);
     void SetZOffset (float pixels);
-    /** Adds pixels to the offsets across and along the view, and tells the listeners of the options. */
+    /** Adds pixels to the offsets of the current view, and notifies OptionsChanged. */
     void ShiftView (float right, float up);
-    /** 0.001 to 1 of the width: the margin of the scene, and the size of anchors and label boxes. */
+    /** 0.001 to 1 of the width: the scene's margin, and the size of anchors and label boxes. */
     void SetMarkerProportion (float proportion);
 
-    // The background. The angle is in radians, the offsets proportions of the scaled image.
+    // The background. Angle in radians, offsets as proportions of the scaled image.
     void SetBackgroundColour (float red, float green, float blue, float alpha);
     void SetBackgroundColour (juce::Colour colour);
     void SetBackgroundImageFile (const juce::File& file);
@@ -63,7 +63,7 @@ public:
     void SetBackgroundImageVisible (bool visible);
     [[nodiscard]] bool GetBackgroundImageVisible() const noexcept { return surface.backgroundImage.visible; }
 
-    // The grid. Lines up to 100, divisions up to 360, spacing 0.1 to 20 metres.
+    // The grid. Up to 100 lines, up to 360 divisions, spacing 0.1 to 20 metres.
     void SetGridMode (const qel::String& name);
     void SetGridMode (const char* name) { SetGridMode (qel::String (name)); }
     void SetGridMode (std::int32_t mode);
@@ -72,7 +72,7 @@ public:
     void SetGridNumAngularDivisions (std::uint32_t divisions);
     void SetAngularDivisionsVisible (bool visible);
     void SetGridDashed (bool dashed);
-    /** Tells GridColourChanged, and not OptionsChanged. */
+    /** Notifies GridColourChanged instead of OptionsChanged. */
     void SetGridColour (float red, float green, float blue, float alpha, bool notify);
     void SetGridColour (juce::Colour colour, bool notify);
 
@@ -94,7 +94,7 @@ public:
     void SetShoeboxVisible (bool visible);
     [[nodiscard]] bool GetShoeboxVisible() const noexcept { return surface.shoebox.visible; }
 
-    /** In mode 0 every setter repaints; in any other the setters that move objects leave that to the caller. */
+    /** In mode 0 every setter repaints; in any other the caller repaints after moving objects. */
     void SetRepaintMode (std::int32_t mode) noexcept { repaintMode = mode; }
     void SetImmediateRepaint (bool on) noexcept { repaintMode = on ? 0 : 1; }
 
@@ -102,27 +102,27 @@ public:
     qel::OSCBundle getOscState() override;
 
     void resized() override;
-    /** Out of its window it keeps no pictures. */
+    /** Frees cached images when removed from a window. */
     void parentHierarchyChanged() override;
 
 protected:
-    /** Recomputes what the objects keep of the view. */
+    /** Recomputes cached screen positions of objects. */
     virtual void UpdateScreenPositions();
 
     template <typename Call>
     void Notify (Call&& call);
     void NotifyOptionsChanged();
-    /** How most setters end. */
+    /** Common end of most setters. */
     void SettingChanged();
-    /** Compares and stores; tells the listeners always, repaints only what changed. */
+    /** Compares and stores; always notifies, but repaints only on a change. */
     template <typename Value>
     void SetOption (Value& stored, const Value& value);
     [[nodiscard]] bool SettersRepaint() const noexcept { return repaintMode == 0; }
     void MarkStaticLayerDirty() noexcept { staticCache.MarkDirty(); }
-    /** To be called as a frame begins. */
+    /** Call at the start of a frame. */
     void BeginFrame (const juce::Graphics& g);
-    /** Clamps and stores; false if that very zoom stands already or is locked. True for one that the limits bring back
-        to what stands: whoever asked has to hear what it became. */
+    /** Clamps and stores; false if the zoom was requested unchanged or is locked. True if clamping makes it equal to
+        the present zoom: the caller must then be notified of the result. */
     bool StoreZoom (float zoom);
 
     Plane::Surface surface;
@@ -130,7 +130,7 @@ protected:
 
 private:
     void UpdateTransform();
-    /** For numbers from outside: what is not finite is refused. */
+    /** For external numbers: ignores non-finite ones. */
     void SetNumber (float& stored, float value);
     void SetOffset (float& stored, float pixels);
 
@@ -149,7 +149,7 @@ void PlaneBase::SetOption (Value& stored, const Value& value)
     SettingChanged();
 }
 
-/** Safe against listeners that come and go during the walk. */
+/** Listeners may be added and removed during the call. */
 template <typename Call>
 void PlaneBase::Notify (Call&& call)
 {

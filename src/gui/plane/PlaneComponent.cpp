@@ -20,7 +20,7 @@ PlaneComponent::PlaneComponent (std::size_t numSources, std::size_t numSpeakers,
     setWantsKeyboardFocus (true);
     setTitle ("Scene");
     setHelpText ("Tab selects the next source, alt and a cursor key move it, shift and tab or ctrl and tab leave.");
-    setFocusContainerType (FocusContainerType::focusContainer); // of what stands on it
+    setFocusContainerType (FocusContainerType::focusContainer); // for the objects on it
     const int side = juce::jlimit (100, 1600, size);
     setSize (side, side);
 
@@ -67,8 +67,8 @@ void PlaneComponent::paint (juce::Graphics& g)
     EndPaintTiming();
 }
 
-/** Each part on its own: clipping every line and letter by several rectangles costs much more than it saves. Parts may
-    share pixels at their edges, so what lies behind must not show through. */
+/** Draws each part separately: clipping every line and letter by several rectangles costs more than it saves. Parts may
+    overlap by a pixel, so the background must be opaque. */
 void PlaneComponent::DrawParts (juce::Graphics& g, const juce::RectangleList<int>& parts)
 {
     if (isOpaque() && parts.getNumRectangles() > 1)
@@ -102,9 +102,9 @@ void PlaneComponent::parentHierarchyChanged()
         changedParts.Reset();
 }
 
-// Whatever has to change before a frame changes here, so that the layers only read.
+// Changes needed before a frame are made here, so that the layers only read.
 
-/** Calls with the plane; with OpenGL, where painting is not the main thread's, there and a little later. */
+/** Calls with the plane: now, or shortly after on the message thread if OpenGL paints on another one. */
 template <typename Call>
 void PlaneComponent::TellFromPaint (Call&& call)
 {
@@ -162,7 +162,7 @@ juce::Rectangle<int> PlaneComponent::PartOfListener() const
 void PlaneComponent::RepaintParts (juce::Rectangle<int> before, juce::Rectangle<int> after)
 {
     if (changedParts.AreTheWhole())
-        return; // asked for already
+        return; // already requested
     if (before.intersects (after)) {
         before = before.getUnion (after);
         after = {};
@@ -217,7 +217,7 @@ void PlaneComponent::DeselectAllSources()
     surface.lasso = {};
 }
 
-/** They exclude the sources, and each other. */
+/** Their selection excludes that of sources, and each other's. */
 void PlaneComponent::DeselectSpeakerAndListener()
 {
     const int speakerBefore = scene.selectedSpeaker;
@@ -264,7 +264,7 @@ void PlaneComponent::SelectAllSources()
     repaint();
 }
 
-/** With one source selected the next one takes over, if it may be edited; else none is selected. */
+/** Moves a single source's selection to the next one, if it is editable; otherwise deselects. */
 void PlaneComponent::SelectNextSource()
 {
     const auto selection = scene.Selection();
@@ -295,7 +295,7 @@ void PlaneComponent::SetRadiusConstraint (bool on) { SetOption (surface.options.
 
 void PlaneComponent::StoreSnapshot (const qel::String& name) { snapshots.store (name, PositionsOf (scene.sources)); }
 
-/** Takes a copy: who hears of a move may change the store. */
+/** By value: listeners notified of the move may change the store. */
 void PlaneComponent::ApplySnapshot (qel::Point3Array points) // NOLINT(performance-unnecessary-value-param)
 {
     for (std::size_t i = 0; i < std::min (points.size(), scene.sources.size()); ++i)

@@ -8,19 +8,19 @@
 namespace lumo
 {
 
-/** The scene editor: sources, speakers, a listener, areas and anchors in the top or the front view. Message thread.
+/** The scene editor: sources, speakers, a listener, areas and anchors in the top or front view. Message thread.
 
-    Objects are counted from 0; an index past the end is ignored, and so is a number that is not finite.
-    Angles are degrees, positions metres. With notify the PlaneListeners hear of the change.
-    The data stand in objects/, the drawing in painting/, mouse, keys and menu in interaction/. */
+    Indices start at 0; invalid indices and non-finite numbers are ignored. Angles in degrees, positions in metres. With
+    notify, setters notify the PlaneListeners.
+    Data is in objects/, drawing in painting/, mouse, keys and menu in interaction/. */
 class PlaneComponent : public PlaneBase
 {
 public:
-    /** A square of the given side, 100 to 1600 pixels; sources stand in a ring, speakers in the usual layout. */
+    /** A square of the given side, 100 to 1600 pixels; sources are in a ring, speakers in the default layout. */
     PlaneComponent (std::size_t numSources, std::size_t numSpeakers, int size);
     ~PlaneComponent() override;
 
-    /** What the layers read. */
+    /** For the layers. */
     [[nodiscard]] const Plane::Scene& GetScene() const noexcept { return scene; }
 
     // ---- Sources. At most 256.
@@ -71,7 +71,7 @@ public:
     [[nodiscard]] std::size_t GetNumSpeakers() const override { return scene.speakers.size(); }
     [[nodiscard]] const qel::Point3& GetSpeakerPosition (std::size_t index) const override;
     void SetSpeakerPosition (std::size_t index, const qel::Point3& position, bool notify);
-    /** Copies as many as there are speakers. */
+    /** As many as there are speakers. */
     void SetSpeakersPositions (const qel::Point3Array& positions, bool notify);
 
     void SetSpeakerName (std::size_t index, const qel::String& name, bool notify);
@@ -81,7 +81,7 @@ public:
     void SetSpeakerColour (std::size_t index, float red, float green, float blue, float alpha, bool notify);
     void SetSpeakerVisible (std::size_t index, bool visible, bool notify);
     void SetAllSpeakersVisible (bool visible, bool notify);
-    /** Refused while the headphones are visible. */
+    /** Ignored while the headphones are visible. */
     void SetSpeakersVisible (bool visible);
     void SetSpeakerEditable (std::size_t index, bool editable, bool notify);
     void SetSpeakersEditable (bool editable, bool notify);
@@ -94,7 +94,7 @@ public:
     void SetSpeakersRadiusVisible (bool visible);
     void SetSpeakersProjectionVisible (bool visible);
 
-    // ---- The listener. While it is not enabled, its setters do nothing.
+    // ---- The listener. While disabled, its setters do nothing.
     void SetListenerEnabled (bool enabled) noexcept { listenerEnabled = enabled; }
     void SetListenerPosition (const qel::Point3& position, bool notify);
     void SetListenerYaw (float degrees, bool notify);
@@ -118,7 +118,7 @@ public:
     void ClearArea (std::size_t index);
     void ClearAllAreas();
     void SetAreasVisible (bool visible);
-    /** Reports which areas hold the listener, each speaker and each source, now and after every move. */
+    /** Reports which areas contain the listener, each speaker and each source, now and after every move. */
     void SetAreasMonitoring (bool on);
 
     // ---- Selection, constraints and the automatic zoom.
@@ -126,38 +126,38 @@ public:
     void SetSelection (const PlaneListener::Flags& selection, bool notify);
     void GetSelection (PlaneListener::Flags& selection) const;
     [[nodiscard]] bool IsSourceSelected (std::size_t index) const;
-    /** -1 if none is. */
+    /** -1 if none. */
     [[nodiscard]] int GetSelectedSpeaker() const noexcept { return scene.selectedSpeaker; }
     void SelectAllSources();
     void SelectNextSource();
-    /** The next one that can be clicked; with the last one selected, none. */
+    /** Selects the next clickable one; none after the last. */
     void SelectNextSpeaker();
-    // One object and nothing else, as by a click; what cannot be clicked is left alone.
+    // Selects a single object, as a click does; objects that are not clickable are ignored.
     void SelectSourceAlone (std::size_t index);
     void SelectSpeakerAlone (std::size_t index);
     void SelectListenerAlone();
-    /** Moves what is selected as a drag by that step does: with the circular constraint it turns by as much. */
+    /** Moves the selection by a step as a drag does; under the circular constraint it rotates. */
     void MoveSelection (const qel::Point3& step);
-    /** A drag turns about the origin. */
+    /** Drags rotate about the origin. */
     void SetCircularConstraint (bool on, bool repaintNow = true);
-    /** A move keeps a source's distance. */
+    /** Moves keep a source's distance. */
     void SetRadiusConstraint (bool on);
-    /** While requested, each frame fits the sources before it is drawn. */
+    /** While on, every frame first zooms to fit the sources. */
     void RequestAutoZoom (bool on);
     void AutoZoom (bool repaintNow);
 
     // ---- Snapshots of the source positions.
     void StoreSnapshot (const qel::String& name);
     void RecallSnapshot (const qel::String& name);
-    /** 0 gives the first, 1 the second. */
+    /** An amount of 0 recalls the first, 1 the second. */
     void RecallSnapshots (const qel::String& first, const qel::String& second, float amount);
     void RemoveSnapshot (const qel::String& name);
     void RemoveAllSnapshots();
     [[nodiscard]] qel::Vector<qel::String> GetSnapshotNames() const;
-    /** The store itself, for its files. */
+    /** The store, to read and write files. */
     [[nodiscard]] qel::CoordinatesSnapshotStore& GetSnapshots() noexcept { return snapshots; }
 
-    // ---- Recall of what a hand has moved: as it was, past constraints and wrapping, and told. Angles in radians.
+    // ---- Undo of user edits: exact, bypassing constraints and wrapping, with notification. Angles in radians.
     struct SourcePose
     {
         qel::Point3 position;
@@ -178,7 +178,7 @@ public:
     void mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel) override;
     bool keyPressed (const juce::KeyPress& key) override;
     void SendKeyCommand (int number);
-    /** Does what a menu item says. The menu shows some of the ids it knows; 0 and unknown ones do nothing. */
+    /** Handles a menu item. Not all known ids are on the menu; 0 and unknown ids are ignored. */
     void MenuItemChosen (int id);
 
 private:
@@ -187,13 +187,14 @@ private:
     void ChangeSource (std::size_t index, Change&& change);
     void FinishSourceMove (std::size_t index, juce::Rectangle<int> before, bool notify);
 
-    /** What a source, a speaker or the listener takes of the picture; empty while nobody needs to know. */
+    /** The area that an object is drawn in; empty if nothing needs it. */
     [[nodiscard]] juce::Rectangle<int> PartOf (const Plane::Source& source) const;
     [[nodiscard]] juce::Rectangle<int> PartOfSpeaker (std::size_t index) const;
     [[nodiscard]] juce::Rectangle<int> PartOfListener() const;
-    /** What a change of one object touched, before and after. Many changes between two frames repaint the whole once. */
+    /** Repaints what a change of one object touched, before and after. Many changes between two frames repaint
+        everything. */
     void RepaintParts (juce::Rectangle<int> before, juce::Rectangle<int> after);
-    /** How the setters that move objects end. */
+    /** Common end of the setters that move objects. */
     void RepaintMove (juce::Rectangle<int> before, juce::Rectangle<int> after);
     void MarkStaticParts (juce::Rectangle<int> before, juce::Rectangle<int> after);
     void FinishSourcesEditable (bool notify);
@@ -205,7 +206,7 @@ private:
     [[nodiscard]] bool StoreSpeakerPosition (std::size_t index, const qel::Point3& position);
     void FinishSpeakersMove (bool notify);
     void SpeakersMoved();
-    /** Whether anything is drawn that hangs on where all speakers stand. */
+    /** Whether anything drawn depends on the positions of all speakers. */
     [[nodiscard]] bool ShowsSpeakerGeometry() const noexcept;
 
     void SetListenerAngle (float& stored, float degrees, bool notify, void (PlaneListener::*told) (float));
@@ -247,7 +248,7 @@ private:
     template <typename Move>
     void MoveSelectedSources (Move&& move);
 
-    // What a screen reader meets: the scene, and in it an element for each object.
+    // Accessibility: the scene, with one element per object.
     std::unique_ptr<juce::AccessibilityHandler> createAccessibilityHandler() override;
     std::unique_ptr<juce::ComponentTraverser> createFocusTraverser() override;
     void MakeElements();
@@ -259,7 +260,7 @@ private:
     bool listenerEnabled = true;
     bool autoZoomRequested = false;
     Plane::ChangedParts changedParts;
-    juce::OwnedArray<juce::Component> elements; // none until a screen reader asks
+    juce::OwnedArray<juce::Component> elements; // empty until a screen reader asks
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (PlaneComponent)
 };

@@ -10,7 +10,7 @@ using namespace Plane;
 namespace
 {
 
-/** What there is to say of one object now. */
+/** An object's present description. */
 struct Description
 {
     juce::String name;
@@ -73,7 +73,7 @@ constexpr Kind kinds[] = {
     { [] (const PlaneComponent&) { return std::size_t{ 1 }; }, describeListener, selectListener },
 };
 
-/** One object. It is never visible: it draws nothing, and the mouse does not find it. */
+/** One object. Never visible: draws nothing and ignores the mouse. */
 class Element : public juce::Component
 {
 public:
@@ -114,12 +114,12 @@ private:
               element (elementToSpeakFor)
         {}
         juce::String getTitle() const override { return element.describe().name; }
-        /** Asked before anything else is, so that the rectangle is that of now as well. */
+        /** Queried first, so this also updates the element's bounds. */
         juce::AccessibleState getCurrentState() const override
         {
             const auto described = element.describe();
             element.setBounds (described.icon);
-            // What lies outside the view is left out unless it says so.
+            // Off-screen elements are skipped unless they declare it.
             const auto state = AccessibilityHandler::getCurrentState().withSelectable().withAccessibleOffscreen();
             if (! described.isVisible)
                 return state.withIgnored();
@@ -142,7 +142,7 @@ private:
     const std::size_t index;
 };
 
-/** The scene as a whole. Only a screen reader asks for its name, and then wants to hear of the objects too. */
+/** The whole scene. Only a screen reader queries its name, which then creates the objects' elements too. */
 class SceneHandler : public juce::AccessibilityHandler
 {
 public:
@@ -159,7 +159,7 @@ private:
     std::function<void()> asked;
 };
 
-/** Finds the elements, in their order. */
+/** Traverses the elements in order. */
 class ElementTraverser : public juce::FocusTraverser
 {
 public:
@@ -196,7 +196,7 @@ void PlaneComponent::MakeElements()
                 elements.add (new Element (*this, kind, i));
 }
 
-/** Moves a screen reader that has met the elements to the first selected one, so that it speaks where that is now. */
+/** Moves a screen reader that has used the elements to the first selected one, so that it announces its position. */
 void PlaneComponent::SpeakSelection()
 {
     if (elements.isEmpty() || ! hasKeyboardFocus (false))

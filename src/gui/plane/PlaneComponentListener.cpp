@@ -8,7 +8,7 @@ namespace lumo
 
 using namespace Plane;
 
-/** The listener that nobody can drag stands in the static layer. */
+/** While it cannot be dragged, the listener is part of the static layer. */
 template <typename Change>
 void PlaneComponent::ChangeListener (Change&& change)
 {
@@ -100,7 +100,7 @@ void PlaneComponent::SetListenerVisible (bool visible)
         SetOption (surface.listener.visible, visible);
 }
 
-/** Who listens by headphones has no use for speakers: they cannot be edited, and come back with the room. */
+/** Headphones replace the speakers, which are not editable meanwhile and are shown again afterwards. */
 void PlaneComponent::SetHeadphonesVisible (bool visible)
 {
     if (! listenerEnabled || surface.listener.headphonesVisible == visible)

@@ -66,7 +66,7 @@ void PlaneComponent::SetSourcePosition (std::size_t index, const qel::Point3& po
     FinishSourceMove (index, before, notify);
 }
 
-/** What every move of a source ends with, whether it moved or not. */
+/** Common end of every move of a source, whether it moved or not. */
 void PlaneComponent::FinishSourceMove (std::size_t index, juce::Rectangle<int> before, bool notify)
 {
     auto& source = scene.sources[index];
@@ -76,7 +76,7 @@ void PlaneComponent::FinishSourceMove (std::size_t index, juce::Rectangle<int> b
     UpdateSourceYaw (index, true);
     if (notify)
         Notify ([&] (PlaneListener& l) { l.SourcePositionChanged (index, position); });
-    if (const auto* moved = SourceAt (index)) // a listener may have changed their number
+    if (const auto* moved = SourceAt (index)) // a listener may have changed the number of sources
         RepaintMove (before, PartOf (*moved));
 }
 
@@ -139,7 +139,7 @@ void PlaneComponent::SetSourceYaw (std::size_t index, float degrees, bool notify
         return;
     const auto before = PartOf (*source);
     source->SetYaw (degrees);
-    if (source->yawMode != Orientation::translation) // which would derive it anew, and round it
+    if (source->yawMode != Orientation::translation) // which would recompute and round it
         UpdateSourceYaw (index, false);
     if (notify)
         Notify ([&, yaw = source->YawDegrees()] (PlaneListener& l) { l.SourceYawChanged (index, yaw); });
@@ -219,7 +219,7 @@ void PlaneComponent::RestoreSource (std::size_t index, const SourcePose& pose)
     repaint();
 }
 
-// ---- Looks
+// ---- Appearance
 
 void PlaneComponent::SetSourceLabel (std::size_t index, const qel::String& label, bool notify)
 {

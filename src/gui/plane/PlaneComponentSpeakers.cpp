@@ -25,7 +25,7 @@ void PlaneComponent::ChangeSpeaker (std::size_t index, Change&& change)
         const auto after = PartOfSpeaker (index);
         MarkStaticParts (before, after);
         RepaintParts (before, after);
-        if (surface.options.speakersProjectionVisible) { // the projected speaker changes as well
+        if (surface.options.speakersProjectionVisible) { // the projected speaker changes too
             MarkStaticLayerDirty();
             repaint();
         }
@@ -99,7 +99,7 @@ void PlaneComponent::FinishSpeakersMove (bool notify)
         Notify (
             [positions = PositionsOf (scene.speakers)] (PlaneListener& l) { l.SpeakersPositionsChanged (positions); });
     if (! ShowsSpeakerGeometry())
-        return; // what moved has been asked for
+        return; // what moved has already been invalidated
     MarkStaticLayerDirty();
     if (SettersRepaint())
         repaint();
@@ -119,7 +119,7 @@ void PlaneComponent::SpeakersMoved()
         scene.speakerGeometry.UpdateRadius (scene.speakers);
 }
 
-// ---- Looks
+// ---- Appearance
 
 void PlaneComponent::SetSpeakerName (std::size_t index, const qel::String& name, bool notify)
 {

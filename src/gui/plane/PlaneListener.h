@@ -10,12 +10,12 @@ namespace lumo
 
 class PlaneBase;
 
-/** Hears what happens on a plane, on the message thread. Every operation has an empty body: override what matters.
-    Indices count from 0, angles are degrees, positions metres, colours floats from 0 to 1. */
+/** Receives a plane's notifications on the message thread. Every function has an empty body: override what you need.
+    Indices start at 0, angles in degrees, positions in metres, colours as floats from 0 to 1. */
 class PlaneListener
 {
 public:
-    /** One flag for each source, or for each area. */
+    /** One flag per source, or per area. */
     using Flags = std::vector<bool>;
 
     virtual ~PlaneListener() = default;
@@ -45,21 +45,21 @@ public:
     virtual void ListenerRollChanged (float /*degrees*/) {}
     virtual void ListenerOrientationChanged (float /*yaw*/, float /*pitch*/, float /*roll*/) {}
 
-    /** The selection of sources: one flag for each. */
+    /** The selection of sources, one flag each. */
     virtual void SelectionChanged (const Flags&, PlaneBase&) {}
     virtual void SpeakerSelectionChanged (std::size_t, bool, PlaneBase&) {}
 
-    /** Mouse down and every drag step. */
+    /** On mouse down and every drag step. */
     virtual void PointerMoved (const qel::Point3&) {}
-    /** True when the left button goes down, false at mouse up. */
+    /** True when the left button is pressed, false on mouse up. */
     virtual void PointerButtonChanged (bool) {}
     virtual void SourceDoubleClicked (std::size_t, PlaneBase&) {}
-    /** A key that the plane passes on: the numbers stand in the key table. */
+    /** A key that the plane forwards; the key table has the numbers. */
     virtual void KeyCommand (int, PlaneBase&) {}
     /** Anything in PlaneOptions changed. */
     virtual void OptionsChanged (PlaneBase&) {}
 
-    /** Which areas hold the object, one flag for each area; told after every move, changed or not. */
+    /** Which areas contain the object, one flag per area; called after every move, changed or not. */
     virtual void SourceAreasChanged (std::size_t, const Flags&, PlaneBase&) {}
     virtual void SpeakerAreasChanged (std::size_t, const Flags&, PlaneBase&) {}
     virtual void ListenerAreasChanged (const Flags&, PlaneBase&) {}

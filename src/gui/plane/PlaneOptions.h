@@ -6,7 +6,7 @@
 namespace lumo
 {
 
-/** The flags of the view, as PlaneBase::GetOptions copies them out. topView and frontView are always opposite. */
+/** The view's flags, as copied by PlaneBase::GetOptions. topView and frontView are always opposite. */
 struct PlaneOptions
 {
     bool sourcesVisible = true;
@@ -16,7 +16,7 @@ struct PlaneOptions
     bool listenerEditable = false;
     bool circularConstraint = false;
     bool radiusConstraint = false;
-    bool listenerSelected = false; // lives in the plane alone: GetOptions leaves it out
+    bool listenerSelected = false; // internal to the plane: not copied by GetOptions
     bool backgroundImageVisible = false;
     bool radiusVisible = false;
     bool listenerVisible = true;

@@ -38,7 +38,7 @@ void EditHistory::closeRun()
         close();
 }
 
-/** A gesture that came back to where it began is no step. */
+/** A gesture that ends where it began is not a step. */
 bool EditHistory::keepIfChanged()
 {
     auto& step = steps.back();

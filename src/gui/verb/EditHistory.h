@@ -6,8 +6,8 @@
 namespace halcyra
 {
 
-/** What the hand has done, gesture by gesture, for undo and redo: the values that each gesture changed, before and
-    after. The newest 100 steps are kept. One thread. */
+/** Undo history of the user's edits: per gesture, the values it changed, before and after. Keeps the newest 100 steps.
+    One thread. */
 class EditHistory
 {
 public:
@@ -20,7 +20,7 @@ public:
     };
     using Step = std::vector<Value>;
 
-    /** Whose gesture it is: a press lasts until close(); without one, edits of one control follow each other in one
+    /** Identifies a gesture: a press lasts until close(); without one, consecutive edits of one control share a
         step. */
     struct Gesture
     {
@@ -33,27 +33,27 @@ public:
         }
     };
 
-    /** Adds a change to the step of that gesture, or begins one; what had been undone is gone then. */
+    /** Adds a change to the gesture's step, or begins one; discards the steps to redo. */
     void record (Gesture gesture, int cell, float before, float after);
-    /** Ends the step; false if there was none, or nothing has changed. */
+    /** Ends the step; false if there was none or nothing changed. */
     bool close();
-    /** The same, but for the step of a press. */
+    /** As close(), unless the step belongs to a press. */
     void closeRun();
-    /** Makes one of the newest steps, as the presses of a double click are one gesture; how many are left of them: none
-        if together they changed nothing. */
+    /** Merges the newest steps, because the presses of a double click are one gesture. Returns how many remain of them:
+        0 if together they changed nothing. */
     int joinNewest (int count);
 
-    /** The step to take back or to do again; null at the end. */
+    /** The step to undo or to redo; null at the end. */
     [[nodiscard]] const Step* undo();
     [[nodiscard]] const Step* redo();
 
 private:
     static void add (Step& step, const Value& value);
-    /** False if it was dropped. */
+    /** False if the step was dropped. */
     bool keepIfChanged();
 
     std::deque<Step> steps;
-    std::size_t done = 0; // steps before it can be undone, those from it on redone
+    std::size_t done = 0; // steps before it can be undone, the others redone
     bool isOpen = false;
     Gesture open{};
 };

@@ -1,14 +1,14 @@
 #pragma once
 #include <juce_gui_basics/juce_gui_basics.h>
 
-/** What the pages of the window share. Message thread. */
+/** Style shared by the window's pages. Message thread. */
 namespace halcyra::editors
 {
 
-/** Behind the controls of each page. */
+/** Background of each page. */
 inline const juce::Colour pageColour{ 0xFFDBDBDB };
 
-/** A slider with no text box of its own, grey on the page. */
+/** Styles a slider without a text box, grey on the page. */
 inline void styleSlider (juce::Slider& slider, juce::Slider::SliderStyle style, int textBoxWidth)
 {
     slider.setSliderStyle (style);

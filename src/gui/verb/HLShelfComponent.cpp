@@ -136,7 +136,7 @@ void HLShelfComponent::reverbChanged (const halcyra::ReverbModel::Change& change
 void HLShelfComponent::sightChanged (bool isInSight)
 {
     if (! isInSight)
-        model.release(); // a press that the window did not live to see the end of
+        model.release(); // a press still open when the window went out of sight
     else if (stale)
         showFields();
 }
@@ -175,7 +175,7 @@ void HLShelfComponent::sliderDragStarted (juce::Slider* slider)
 
 void HLShelfComponent::buttonClicked (juce::Button*)
 {
-    model.boundGesture(); // a key has pressed it, or the mouse, which has bounded it already
+    model.boundGesture(); // for key presses; the mouse has already ended its gesture
     model.resetFilter (number, halcyra::Edit::hand);
 }
 

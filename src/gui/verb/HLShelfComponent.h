@@ -9,8 +9,8 @@
 namespace lumo
 {
 
-/** One column of the filters page: the curve of one of the model's filters above a slider for each field. Out of sight
-    the sliders follow when they are shown again. Message thread. */
+/** One column of the filters page: the response curve of one filter above a slider per field. Sliders that are not
+    showing update when they are shown again. Message thread. */
 class HLShelfComponent : public Component,
                          private halcyra::ReverbModel::Listener,
                          private juce::Slider::Listener,
@@ -26,7 +26,7 @@ public:
     void paint (juce::Graphics& g) override;
     bool keyPressed (const juce::KeyPress& key) override;
 
-    // The column by itself, with a filter of its own. Only notify tells.
+    // A stand-alone column with its own filter. Only notify notifies.
     explicit HLShelfComponent (const juce::String& name);
     void setParameters (const HLShelfParameters& wish, bool notify, bool force)
     {
@@ -61,7 +61,7 @@ private:
     void showField (std::size_t field);
     [[nodiscard]] std::size_t fieldOf (const juce::Slider* slider) const noexcept;
 
-    std::unique_ptr<halcyra::SelfWakingModel> ownModel; // null for a column of a window
+    std::unique_ptr<halcyra::SelfWakingModel> ownModel; // null inside a window
     halcyra::ReverbModel& model;
     const HalcyraFilter number;
 

@@ -12,7 +12,7 @@ namespace
 
 const juce::Colour curveColour{ 0x9E2A9DA5 };
 
-/** The field that a handle moves: the first one, G0, has none. */
+/** The field that a handle moves; the first field, G0, has no handle. */
 constexpr std::size_t fieldOf (int handle) noexcept { return static_cast<std::size_t> (handle) + 1; }
 
 juce::Colour curveLineColour() { return curveColour.darker (0.4f); }
@@ -51,7 +51,7 @@ HLShelfFrequencyResponseComponent::HLShelfFrequencyResponseComponent (const juce
                                                                       HalcyraFilter filterToShow)
     : Component (name), model (modelToShow), number (filterToShow)
 {
-    setOpaque (true); // the grid covers all of it
+    setOpaque (true); // the grid covers it entirely
     setTitle ("Frequency response");
     setHelpText ("Drawn from the sliders below, which move it too.");
     grid.setAccessible (false);
@@ -169,7 +169,7 @@ void HLShelfFrequencyResponseComponent::mouseDown (const juce::MouseEvent& e)
     if (selectedHandle != none)
         model.hold (halcyra::cell::ofFilter (number, fieldOf (selectedHandle)));
     repaint();
-    mouseDrag (e); // so that a click already moves the handle
+    mouseDrag (e); // a plain click also moves the handle
 }
 
 void HLShelfFrequencyResponseComponent::mouseDrag (const juce::MouseEvent& e)
@@ -210,7 +210,7 @@ void HLShelfFrequencyResponseComponent::mouseWheelMove (const juce::MouseEvent&,
     if (! std::isfinite (wheel.deltaY))
         return;
     const double turn = static_cast<double> (wheel.deltaY);
-    if (selectedHandle == none) // it is told all the same
+    if (selectedHandle == none) // listeners are notified all the same
         return model.setFilter (number, getParameters(), halcyra::Edit::hand, true);
     const auto field = fieldOf (selectedHandle);
     const auto present = static_cast<double> (getParameters().*halcyra::shelfTable[field].value);

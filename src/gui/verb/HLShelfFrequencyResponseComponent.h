@@ -11,12 +11,12 @@
 namespace lumo
 {
 
-/** The response curve of one of the model's filters, with five handles on it: the gains of the low, mid and high band,
-    and the two crossover frequencies. The curve shows the model and edits it. Message thread. */
+/** Response curve of one of the model's filters, with five handles that edit it: the gains of the low, mid and high
+    band and the two crossover frequencies. Message thread. */
 class HLShelfFrequencyResponseComponent : public Component, private halcyra::ReverbModel::Listener
 {
 public:
-    /** Hears of every change of the filter. */
+    /** Receives every change of the filter. */
     class Listener
     {
     public:
@@ -30,15 +30,15 @@ public:
                                        HalcyraFilter filterToShow);
     ~HLShelfFrequencyResponseComponent() override;
 
-    /** Listeners hear in order of registration; null and a second add are ignored. Not owned. */
+    /** Listeners are called in order of registration; null and duplicates are ignored. Not owned. */
     void addListener (Listener* listener);
     void removeListener (Listener* listener);
 
     [[nodiscard]] const HLShelfParameters& getParameters() const { return model.filter (number); }
-    /** Tells the listeners of the close key. */
+    /** Notifies the listeners of the close key. */
     void requestClose();
 
-    // The curve by itself, with a filter of its own, and setters that are no hand's.
+    // A stand-alone curve with its own filter; its setters are not user edits.
     explicit HLShelfFrequencyResponseComponent (const juce::String& name);
     void setParameters (const HLShelfParameters& wish, bool notify, bool force);
     void setGlobalGain (float dB) { setField (0, dB, halcyra::Edit::message); }
@@ -49,7 +49,7 @@ public:
     void setHighFrequency (float hz) { setField (5, hz, halcyra::Edit::message); }
     void reset() { model.resetFilter (number, halcyra::Edit::message); }
 
-    /** The handle that was last pressed, -1 for none. */
+    /** The handle last pressed; -1 for none. */
     [[nodiscard]] int getSelectedHandle() const noexcept { return selectedHandle; }
 
     void resized() override;
@@ -90,15 +90,15 @@ private:
     void paintCurve (juce::Graphics& g) const;
     void paintHandles (juce::Graphics& g) const;
 
-    std::unique_ptr<halcyra::SelfWakingModel> ownModel; // null for a curve of a window
+    std::unique_ptr<halcyra::SelfWakingModel> ownModel; // null inside a window
     halcyra::ReverbModel& model;
     const HalcyraFilter number;
 
     halcyra::HLShelfGrid grid;
     HLShelfResponse response;
-    bool stale = true; // the response is designed when it is next drawn
+    bool stale = true; // recompute the response at the next paint
     int selectedHandle = none;
-    bool hovered = false; // by the events alone: they may come from elsewhere than the screen's pointer
+    bool hovered = false; // from mouse events alone: they need not come from the real pointer
     std::vector<Listener*> listeners;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HLShelfFrequencyResponseComponent)

@@ -62,7 +62,7 @@ void HLShelfGrid::paintFrequencies (juce::Graphics& g) const
             const auto f = static_cast<float> (hz);
             const auto text = decade >= 1000 ? juce::String (f / 1000) + "k" : juce::String (f);
             if (x + 0.5 * static_cast<double> (g.getCurrentFont().getStringWidthFloat (text)) > s.width)
-                continue; // the edge would cut it
+                continue; // would be cut at the edge
             g.setColour (gridColour.withAlpha (0.6f));
             g.drawFittedText (text, { static_cast<int> (x - 20), static_cast<int> (0.5f * height - 12), 40, 12 },
                               juce::Justification::centred, 1);

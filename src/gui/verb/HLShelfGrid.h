@@ -6,14 +6,13 @@
 namespace halcyra
 {
 
-/** The grid of gains and frequencies behind a response curve. It never changes, and is kept as an image in
-    the screen's own pixels. */
+/** Grid of gains and frequencies behind a response curve. Static, so cached as an image at the screen's resolution. */
 class HLShelfGrid : public juce::Component
 {
 public:
     static constexpr float fontHeight = 10;
 
-    /** Of the texts of the frequencies, narrow enough that neighbours keep apart. */
+    /** For the frequency labels, narrow enough to keep them apart. */
     [[nodiscard]] static juce::Font frequencyFont() { return juce::Font (fontHeight).withHorizontalScale (0.8f); }
 
     HLShelfGrid();

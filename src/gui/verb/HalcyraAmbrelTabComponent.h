@@ -3,11 +3,11 @@
 
 #include <memory>
 
-/** The page of the scene. Message thread. */
+/** The scene page. Message thread. */
 class HalcyraAmbrelTabComponent : public juce::Component
 {
 public:
-    /** Where the plane lies on the page, which is the only one it has. */
+    /** Bounds of the plane, the page's only component. */
     static constexpr int planeX = 32, planeY = 24, planeSize = 350;
 
     explicit HalcyraAmbrelTabComponent (std::unique_ptr<lumo::PlaneComponent> planeToShow);

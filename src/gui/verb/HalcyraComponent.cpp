@@ -24,7 +24,7 @@ const juce::Colour tabColour{ 0xFFD3D3D3 };
 
 const juce::KeyPress closeKey{ 'w', juce::ModifierKeys::ctrlModifier, 0 };
 
-/** The keys that undo and redo. They are taken also when there is nothing to do, so that they never reach the host. */
+/** The undo and redo keys. Consumed even with nothing to undo, so that they never reach the host. */
 struct HistoryKey
 {
     juce::KeyPress key;
@@ -39,7 +39,7 @@ const std::array<HistoryKey, 3> historyKeys{ {
 
 bool isMousePressed() { return juce::Desktop::getInstance().getNumDraggingMouseSources() > 0; }
 
-/** Whose gesture an edit belongs to that comes now. */
+/** The gesture that an edit made now belongs to. */
 halcyra::EditHistory::Gesture presentGesture()
 {
     return { juce::Desktop::getInstance().getMainMouseSource().getComponentUnderMouse(), isMousePressed() };
@@ -47,7 +47,7 @@ halcyra::EditHistory::Gesture presentGesture()
 
 }
 
-/** What only a window needs. */
+/** Created only for a window. */
 struct HalcyraComponent::Pages
 {
     Pages (HalcyraComponent& owner, std::unique_ptr<halcyra::UndoablePlane> plane)
@@ -101,8 +101,8 @@ void HalcyraComponent::makePages()
     pages->tabs.setBounds (5, 6, 920, 430);
     addAndMakeVisible (pages->tabs);
     addChildComponent (pages->focusRing);
-    sendLookAndFeelChange();       // the children were laid out before they had this one
-    addMouseListener (this, true); // the end of every press is the end of a gesture
+    sendLookAndFeelChange();       // the children were laid out with another look
+    addMouseListener (this, true); // the end of every press ends a gesture
     addMouseListener (pages->tooltipWindow, true);
 }
 
@@ -131,7 +131,7 @@ void HalcyraComponent::sendAllParameters()
 
 void HalcyraComponent::resetAll() { model.reset (Edit::message); }
 
-// ---- The host's settings
+// ---- Settings from the host
 
 float HalcyraComponent::reverbParameter (HalcyraReverbParameter number) const noexcept
 {
@@ -165,7 +165,7 @@ void HalcyraComponent::getSpeakerPositions (qel::Point3Array& out) const
         out[i] = plane->GetSpeakerPosition (i);
 }
 
-// ---- Changes on their way out
+// ---- Notifications
 
 void HalcyraComponent::parameterTold (HalcyraReverbParameter number)
 {
@@ -192,7 +192,7 @@ void HalcyraComponent::OptionsChanged (lumo::PlaneBase&)
     listeners.call ([] (Listener& l) { l.HalcyraViewerOptionsChanged(); });
 }
 
-// ---- Undo. A cell of the model is its own number, a pose of the scene stands behind all of those.
+// ---- Undo. A model cell is identified by its own number; scene poses follow after those.
 
 void HalcyraComponent::reverbChanged (const halcyra::ReverbModel::Change& change)
 {
@@ -208,7 +208,7 @@ void HalcyraComponent::sceneMoved (const Poses& before, const Poses& after)
             history.record (gesture, cell::count + static_cast<int> (i), before[i], after[i]);
 }
 
-// These are heard after whatever was pressed.
+// These arrive after the pressed component's own handlers.
 void HalcyraComponent::mouseDown (const juce::MouseEvent&)
 {
     history.closeRun();
@@ -270,14 +270,14 @@ bool HalcyraComponent::keyPressed (const juce::KeyPress& key)
         moveFocus (! key.getModifiers().isShiftDown());
         return true;
     }
-    if (key == juce::KeyPress::spaceKey) // return does it by itself
+    if (key == juce::KeyPress::spaceKey) // return already does
         if (auto* button = dynamic_cast<juce::Button*> (getCurrentlyFocusedComponent())) {
             button->triggerClick();
             return true;
         }
     if (key == closeKey)
         listeners.call ([] (Listener& l) { l.HalcyraCloseRequested(); });
-    return false; // the key travels on to the parent
+    return false; // the parent handles the key
 }
 
 // ---- The keyboard
@@ -285,7 +285,7 @@ bool HalcyraComponent::keyPressed (const juce::KeyPress& key)
 namespace
 {
 
-/** Where the tab key stops: at what wants the keyboard for itself, not for the controls within, as a page does. */
+/** The tab key's stops: components that take the focus themselves, not a container's children. */
 std::vector<juce::Component*> stopsIn (juce::Component& window)
 {
     const auto wanting = juce::KeyboardFocusTraverser().getAllComponents (&window);
@@ -299,7 +299,7 @@ std::vector<juce::Component*> stopsIn (juce::Component& window)
 
 }
 
-/** From the last control to the first one and back; from a page that has the keyboard itself into the page. */
+/** Wraps around at both ends; from a page that has the focus itself it enters the page. */
 void HalcyraComponent::moveFocus (bool forwards)
 {
     const auto stops = stopsIn (*this);
@@ -338,7 +338,7 @@ void HalcyraComponent::resized()
 
 void HalcyraComponent::paint (juce::Graphics& g)
 {
-    makePages(); // for a picture of a component that never had a window
+    makePages(); // for a snapshot of a component that never had a window
     BeginPaintTiming();
     if (isVisible())
         g.fillAll (frameColour);
@@ -346,6 +346,6 @@ void HalcyraComponent::paint (juce::Graphics& g)
 
 void HalcyraComponent::paintOverChildren (juce::Graphics& g)
 {
-    EndPaintTiming(); // so that the figures count the pages too
+    EndPaintTiming(); // include the pages in the timing
     lumo::Component::paintOverChildren (g);
 }

@@ -11,10 +11,9 @@
 #include <cstdint>
 #include <memory>
 
-/** The reverberator's model and its scene, and the whole content of the window that shows them: three pages, for the
-    time structure, the filters, and the scene. The pages are made when the component first gets a window or is drawn.
-    It takes the host's settings, tells its listeners of every change, and undoes what the hand has done. Message
-    thread. Values that are not finite are ignored by every setter. */
+/** The reverberator's model, its scene, and the window's content: three pages for the time structure, the filters and
+    the scene, created when the component first gets a window or is drawn. Takes settings from the host, notifies
+    listeners of every change, and undoes the user's edits. All setters ignore non-finite values. Message thread. */
 class HalcyraComponent : public lumo::Component, private halcyra::ReverbModel::Listener, private lumo::PlaneListener
 {
 public:
@@ -23,25 +22,25 @@ public:
     HalcyraComponent (std::uint32_t numsources, std::uint32_t numspeakers, std::uint32_t numinternals);
     ~HalcyraComponent() override;
 
-    /** Null is ignored, a second add of one listener leaves one. The last by pointer hears first. Not owned. */
+    /** Null and duplicates are ignored. Listeners are called from the highest pointer down. Not owned. */
     void addListener (Listener* listener);
     void removeListener (Listener* listener);
 
-    /** Tells the listeners of every source, filter, parameter, the speakers and the viewer's options, in this order. */
+    /** Notifies listeners of every source, filter, parameter, the speakers and the viewer's options, in this order. */
     void sendAllParameters();
-    /** Returns the four filters and the time structure to their defaults, and tells. */
+    /** Resets the four filters and the time structure to their defaults, and notifies. */
     void resetAll();
 
     [[nodiscard]] const halcyra::ReverbModel& getModel() const noexcept { return model; }
-    /** How the end of a turn is brought about: called at its first change, to have endTurn() called behind everything
-        that waits already. Until then JUCE's messages do it. */
+    /** Sets how a turn ends: waker is called at the turn's first change and must queue a call of endTurn() behind
+        everything already queued. By default a JUCE message does. */
     void setTurnWaker (std::function<void()> waker) { model.wakeTurnEnd = std::move (waker); }
-    /** Tells the numbers that have changed in this turn. */
+    /** Notifies the number parameters changed in this turn. */
     void endTurn() { model.endTurn(); }
 
-    /** A parameter's value, a switch's as 0 or 1; 0 for a number that is none. */
+    /** A parameter's value, 0 or 1 for a switch; 0 for an unknown number. */
     [[nodiscard]] float reverbParameter (HalcyraReverbParameter number) const noexcept;
-    /** Sets a parameter by its number. Switches are told at once, numbers when the turn ends. */
+    /** Sets a parameter by number. Switches notify at once, numbers when the turn ends. */
     void setReverbParameter (HalcyraReverbParameter number, float value);
     [[nodiscard]] const HalcyraTimeStructure& getTimeStructure() const noexcept { return model.parameters(); }
 
@@ -49,24 +48,24 @@ public:
     [[nodiscard]] const HLShelfParameters& getFilter (HalcyraFilter filter) const { return model.filter (filter); }
     void setFilter (HalcyraFilter filter, const HLShelfParameters& wish, bool notify);
 
-    /** Derives all times from a volume in cubic metres; only notification 1 tells of it. */
+    /** Derives all times from a volume in cubic metres; notifies only if notification is 1. */
     void setRoomSize (float value, int notification);
 
-    /** Takes back, or does again, the newest gesture of the hand; not while a mouse button is down. */
+    /** Undoes or redoes the user's newest gesture; ignored while a mouse button is down. */
     void undo();
     void redo();
 
     [[nodiscard]] lumo::PlaneComponent* getPlane() const noexcept { return plane; }
-    /** The origin for an index that is none. */
+    /** The origin for an invalid index. */
     [[nodiscard]] qel::Point3 getSourcePosition (int index) const;
-    /** Fills one position for each speaker. */
+    /** Fills in one position per speaker. */
     void getSpeakerPositions (qel::Point3Array& out) const;
 
     [[nodiscard]] std::uint32_t numSources() const noexcept { return numsources; }
     [[nodiscard]] std::uint32_t numSpeakers() const noexcept { return numspeakers; }
     [[nodiscard]] std::uint32_t numInternals() const noexcept { return numinternals; }
 
-    // The same by name: one accessor and one setter for each parameter and filter.
+    // By name: one getter and one setter per parameter and filter.
     [[nodiscard]] float getReverbGain() const noexcept { return getTimeStructure().gain; }
     [[nodiscard]] float getTr0() const noexcept { return getTimeStructure().tr0; }
     [[nodiscard]] float getTrl() const noexcept { return getTimeStructure().trl; }
@@ -144,10 +143,10 @@ private:
     const std::uint32_t numsources, numspeakers, numinternals;
     halcyra::SelfWakingModel model;
     halcyra::EditHistory history;
-    juce::Component* lastPressed = nullptr; // only compared: what the last press was on
-    int stepsOfClicks = 0;                  // steps that the presses of one multiple click have made
+    juce::Component* lastPressed = nullptr; // only compared, never dereferenced: what was last pressed
+    int stepsOfClicks = 0;                  // steps made by the presses of one multiple click
     qel::Listeners<Listener> listeners;
-    std::unique_ptr<halcyra::UndoablePlane> planeWithoutPage; // until the pages are made
+    std::unique_ptr<halcyra::UndoablePlane> planeWithoutPage; // until the pages are created
     halcyra::UndoablePlane* const plane;
 
     struct Pages;

@@ -1,7 +1,7 @@
 #pragma once
 #include "gui/verb/HLShelfComponent.h"
 
-/** The page of the model's four filters: direct, room, early, cluster, side by side. Message thread. */
+/** The filters page: direct, room, early and cluster side by side. Message thread. */
 class HalcyraFiltersTabComponent : public juce::Component
 {
 public:

@@ -6,7 +6,7 @@
 namespace halcyra
 {
 
-/** A constant rectangle, in pixels. */
+/** A constexpr rectangle in pixels. */
 struct Box
 {
     int x, y, width, height;
@@ -14,29 +14,29 @@ struct Box
     [[nodiscard]] juce::Rectangle<int> rectangle() const { return { x, y, width, height }; }
 };
 
-/** Where one parameter's label, slider and value stand on the time structure page; a switch has no value. */
+/** Where a parameter's label, slider and value are on the time structure page; a switch has no value. */
 struct ControlPlace
 {
     HalcyraReverbParameter number;
     Box label, control, value;
     float labelFont;
-    bool labelOnRight; // the label's text ends at its right edge, beside the slider
+    bool labelOnRight; // the label is right-aligned, next to the slider
     const char* labelName = "new label";
 };
 
-/** A row of the frames on the left: the values of the frequencies stand a pixel lower than their sliders. */
+/** A row in the left frames: frequency values sit a pixel lower than their sliders. */
 constexpr ControlPlace leftRow (HalcyraReverbParameter number, int y, int valueY)
 {
     return { number, { -16, y, 82, 10 }, { 72, y, 120, 10 }, { 200, valueY, 60, 10 }, 11, true };
 }
 
-/** A row of the frame in the middle. */
+/** A row in the middle frame. */
 constexpr ControlPlace middleRow (HalcyraReverbParameter number, int y, const char* labelName)
 {
     return { number, { 315, y, 82, 10 }, { 403, y, 120, 10 }, { 523, y, 56, 10 }, 12, true, labelName };
 }
 
-/** All rows of the page, in the order in which they are created. The page has one size, 920 by 400. */
+/** All rows of the page, in creation order. The page is always 920 by 400 pixels. */
 inline constexpr ControlPlace timeStructurePlaces[] = {
     leftRow (parameter::tr0, 200, 200),
     leftRow (parameter::trl, 224, 224),
@@ -60,13 +60,13 @@ inline constexpr ControlPlace timeStructurePlaces[] = {
     { parameter::infinite, { 656, 285, 82, 20 }, { 632, 284, 20, 20 }, {}, 12, false },
 };
 
-/** The room size has no number of its own. */
+/** The room size has no parameter number. */
 inline constexpr Box roomLabelBox{ 315, 192, 82, 10 }, roomSliderBox{ 403, 192, 120, 10 },
     roomValueBox{ 523, 192, 56, 10 };
 
 inline constexpr Box displayBox{ 8, 8, 904, 144 }, resetBox{ 632, 320, 91, 20 };
 
-/** A frame with a title around some rows. */
+/** A titled frame around some rows. */
 struct GroupPlace
 {
     const char* name;

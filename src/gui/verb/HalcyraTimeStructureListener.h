@@ -5,13 +5,13 @@ class HalcyraTimeStructureTabComponent;
 namespace lumo
 {
 
-/** Hears of edits on the time structure page. Message thread. */
+/** Receives edits made on the time structure page. Message thread. */
 class HalcyraTimeStructureListener
 {
 public:
     virtual ~HalcyraTimeStructureListener() = default;
 
-    /** The user, or a notifying setter, changed the parameter of that number. */
+    /** The user or a notifying setter changed this parameter. */
     virtual void timeStructureChanged (HalcyraTimeStructureTabComponent* tab, const int& parameter) = 0;
 };
 

@@ -12,7 +12,7 @@ using halcyra::Edit;
 
 using Display = lumo::ImpulseResponseComponent;
 
-/** What the display draws of a parameter; null where it draws nothing, or the stages, which are drawn together. */
+/** The display's setter per parameter; null if it draws nothing, and for the stages, which are set together. */
 constexpr auto displaySetters()
 {
     std::array<void (Display::*) (float), parameter::count> setters{};
@@ -45,7 +45,7 @@ halcyra::ValueLabel::Format textOf (const halcyra::ParameterRow& row)
 void setRange (juce::Slider& slider, const halcyra::SliderRange& range, double midPoint, double doubleClick)
 {
     slider.setRange (range.lowest, range.highest, range.step);
-    // JUCE ignores a return value outside of the range, which is to lead to the near end.
+    // JUCE ignores a return value outside the range; it should go to the near end.
     slider.setDoubleClickReturnValue (true, juce::jlimit (range.lowest, range.highest, doubleClick));
     if (midPoint > 0)
         slider.setSkewFactorFromMidPoint (midPoint);
@@ -73,7 +73,7 @@ HalcyraTimeStructureTabComponent::HalcyraTimeStructureTabComponent (const juce::
       sight (*this, [this] (bool isShowing) { sightChanged (isShowing); })
 {
     setOpaque (true);
-    setWantsKeyboardFocus (true); // a click would give it to the first switch otherwise, and space turn that
+    setWantsKeyboardFocus (true); // otherwise a click would focus the first switch, and the space bar would toggle it
     makeGroups();
     addStop (display);
     makeRoomSize();
@@ -96,7 +96,7 @@ void HalcyraTimeStructureTabComponent::makeGroups()
         auto& group = *groups.emplace_back (std::make_unique<Group> (row.name, row.text));
         group.setColour (juce::GroupComponent::textColourId, juce::Colours::black);
         group.setBounds (row.box.rectangle());
-        group.setAccessible (false); // the names of the controls say where they belong
+        group.setAccessible (false); // the controls' own names say where they belong
         addAndMakeVisible (group);
     }
 }
@@ -165,7 +165,7 @@ void HalcyraTimeStructureTabComponent::place (NumberControl& control, juce::Rect
     addAndMakeVisible (control.value);
 }
 
-/** The tab key stops at the controls in the order in which they are created. */
+/** The tab key visits the controls in creation order. */
 void HalcyraTimeStructureTabComponent::addStop (juce::Component& control)
 {
     control.setExplicitFocusOrder (++numStops);
@@ -194,7 +194,7 @@ halcyra::ReverbCell HalcyraTimeStructureTabComponent::cellOf (const juce::Slider
     return cell::roomSize;
 }
 
-// ---- The hand
+// ---- User edits
 
 void HalcyraTimeStructureTabComponent::sliderValueChanged (juce::Slider* slider)
 {
@@ -204,19 +204,19 @@ void HalcyraTimeStructureTabComponent::sliderValueChanged (juce::Slider* slider)
         model.setRoomSize (value, Edit::hand);
     else
         model.setParameter (number, value, Edit::hand);
-    show (number); // where a neighbour stops the value, it stops the slider too
+    show (number); // a neighbour's limit also stops the slider
 }
 
 void HalcyraTimeStructureTabComponent::buttonClicked (juce::Button* button)
 {
-    model.boundGesture(); // a key has pressed it, or the mouse, which has bounded it already
+    model.boundGesture(); // for key presses; the mouse has already ended its gesture
     if (button == &reset)
         return model.resetParameters (Edit::hand);
     model.setParameter (button == &air ? parameter::air : parameter::infinite, button->getToggleState() ? 1.0f : 0.0f,
                         Edit::hand);
 }
 
-// ---- What is shown
+// ---- Showing the model
 
 void HalcyraTimeStructureTabComponent::reverbChanged (const halcyra::ReverbModel::Change& change)
 {
@@ -233,7 +233,7 @@ void HalcyraTimeStructureTabComponent::sightChanged (bool isInSight)
     if (isInSight)
         showStale();
     else
-        model.release(); // a press that the window did not live to see the end of
+        model.release(); // a press still open when the window went out of sight
 }
 
 void HalcyraTimeStructureTabComponent::showStale()
@@ -262,8 +262,8 @@ void HalcyraTimeStructureTabComponent::show (halcyra::ReverbCell number)
         (display.*set) (value);
 }
 
-/** The display limits each time by those it holds and keeps the cluster relative to the early stage: given together, the
-    times of the model come through as they are. */
+/** The display clamps each time against the others and keeps the cluster relative to the early stage; setting them
+    together keeps the model's times as they are. */
 void HalcyraTimeStructureTabComponent::showStages()
 {
     const auto& times = model.parameters();
@@ -274,7 +274,7 @@ void HalcyraTimeStructureTabComponent::showStages()
     display.setClusterEnd (times.clusterEnd);
 }
 
-// ---- The page that stands alone
+// ---- Stand-alone page
 
 void HalcyraTimeStructureTabComponent::parameterTold (HalcyraReverbParameter number)
 {

@@ -11,9 +11,8 @@
 #include <memory>
 #include <vector>
 
-/** The page of the reverberator's time structure: a view of the model's parameters and of its room size. A control shows
-    the model and edits it; nothing is read back from one. Out of sight it follows when it is shown again.
-    Message thread. */
+/** The time structure page: a view of the model's parameters and room size. Controls show the model and edit it, but
+    are never read back. While not showing it does not update; it catches up when shown again. Message thread. */
 class HalcyraTimeStructureTabComponent : public juce::Component,
                                          private halcyra::ReverbModel::Listener,
                                          private juce::Slider::Listener,
@@ -26,7 +25,7 @@ public:
     void resized() override;
     void paint (juce::Graphics& g) override;
 
-    // The page by itself, with a model of its own. Notification 1 tells, others are quiet.
+    // A stand-alone page with its own model. Only notification 1 notifies.
     HalcyraTimeStructureTabComponent (const juce::String& name, int numinternals);
     void addListener (lumo::HalcyraTimeStructureListener* listener) { listeners.add (listener); }
     void removeListener (lumo::HalcyraTimeStructureListener* listener) { listeners.remove (listener); }
@@ -43,7 +42,7 @@ private:
         return std::make_unique<juce::AccessibilityHandler> (*this, juce::AccessibilityRole::group);
     }
 
-    /** One number: its slider, and what shows its value. */
+    /** A number: its slider and value label. */
     struct NumberControl
     {
         NumberControl (const juce::String& sliderName, halcyra::ValueLabel::Format format)
@@ -53,7 +52,7 @@ private:
         halcyra::ValueLabel value;
     };
 
-    /** Draws its line and its name only where they lie: what stands inside is repainted often. */
+    /** Repaints only its line and title: the contents repaint often. */
     struct Group : juce::GroupComponent
     {
         using GroupComponent::GroupComponent;
@@ -84,7 +83,7 @@ private:
     [[nodiscard]] NumberControl* controlOf (halcyra::ReverbCell cell) noexcept;
     [[nodiscard]] juce::ToggleButton* toggleOf (HalcyraReverbParameter number) noexcept;
 
-    std::unique_ptr<halcyra::SelfWakingModel> ownModel; // null for a page of a window
+    std::unique_ptr<halcyra::SelfWakingModel> ownModel; // null inside a window
     halcyra::ReverbModel& model;
     qel::Listeners<lumo::HalcyraTimeStructureListener> listeners;
 

@@ -12,7 +12,7 @@ namespace
 
 constexpr int tickDistance = 20; // ms
 constexpr float tickFontHeight = 12;
-constexpr int tickTextsHeight = 16; // of the strip that they lie in
+constexpr int tickTextsHeight = 16; // of the strip with the tick labels
 
 const juce::Colour backgroundColour{ 0xFFB5B5B5 };
 const juce::Colour tickColour{ 0xFF808080 };
@@ -20,12 +20,12 @@ const juce::Colour directColour = juce::Colours::black.withAlpha (0.5f);
 const juce::Colour earlyColour = juce::Colour (0xFF008000).withAlpha (0.5f);
 const juce::Colour clusterColour = juce::Colour (0xFF0000FF).withAlpha (0.5f);
 
-/** A band's decay: from the corner at its top left it falls along a quadratic curve to its end at the bottom, its control
-    point at a proportion of its width. Only what lies left of the right edge is built: far decays run thousands of
-    pixels beyond it, almost flat, which is what the renderer is slowest at. */
+/** A band's decay: a quadratic curve from the corner at its top left to its end at the bottom, with the control point
+    at a proportion of its width. Built only as far as the right edge: long decays run thousands of almost flat pixels
+    beyond it, the renderer's slowest case. */
 juce::Path decayShape (juce::Point<float> corner, float width, float bottom, float control, float rightEdge)
 {
-    constexpr float segmentsOfAll = 32;         // the polygon stays within a fiftieth of a pixel of the curve
+    constexpr float segmentsOfAll = 32;         // keeps the polygon within a fiftieth of a pixel of the curve
     constexpr float controlHeight = 47.0f / 49; // of the height
     const float linear = 2 * control * width, square = width - linear, visible = rightEdge - corner.x;
     juce::Path path;
@@ -80,7 +80,7 @@ void ImpulseResponseComponent::store (float& field, float value, unsigned makesS
         repaint();
 }
 
-/** All pixels that the decays may touch, with room for the window system's rounding at scales between whole ones. */
+/** All pixels that the decays may touch, with a margin for rounding at fractional scales. */
 juce::Rectangle<int> ImpulseResponseComponent::decayExtent() const noexcept
 {
     constexpr int room = 2;
@@ -162,7 +162,7 @@ void ImpulseResponseComponent::buildDecay (float pixelScale)
 {
     const auto s = scale();
     const auto corner = decayCorner();
-    // Seconds are held against ms here, and pictures rely on it: it bites only where the reverb starts within 30 ms.
+    // Compares seconds with ms, which existing pictures depend on: takes effect only if the reverb starts within 30 ms.
     const float seconds = std::clamp (shown.tr0, 0.0f, shown.reverbStart);
     const auto shape = [&] (float ratio, float control) {
         return decayShape (corner, s.x (seconds * ratio * 1000), s.height, control, s.width);
@@ -200,7 +200,7 @@ void ImpulseResponseComponent::paintGround (juce::Graphics& g) const
     g.setColour (backgroundColour);
     g.fillRect (getLocalBounds());
     g.setColour (juce::Colours::black);
-    g.drawRect (getLocalBounds().toFloat().expanded (0.5f), 1); // centred on the edge: half of it shows
+    g.drawRect (getLocalBounds().toFloat().expanded (0.5f), 1); // centred on the edge: half of it is visible
 }
 
 void ImpulseResponseComponent::buildTicks()
@@ -211,7 +211,7 @@ void ImpulseResponseComponent::buildTicks()
     for (int ms = tickDistance; static_cast<float> (ms) < s.span(); ms += tickDistance) {
         const auto t = static_cast<float> (ms);
         const juce::String text (t);
-        if (s.x (t) + font.getStringWidthFloat (text) <= s.width) // none that the edge would cut
+        if (s.x (t) + font.getStringWidthFloat (text) <= s.width) // skips labels cut by the edge
             tickTexts.addFittedText (font, text, s.x (t), 0, static_cast<float> (static_cast<int> (0.1f * s.width)),
                                      tickFontHeight, juce::Justification::top, 1, 0);
     }
@@ -232,7 +232,7 @@ void ImpulseResponseComponent::paint (juce::Graphics& g)
     paintTaps (g);
 }
 
-/** Where the decays' picture hides what lies below, with room for the renderer's rounding. */
+/** Where the decay image hides what is below, with a margin for the renderer's rounding. */
 juce::Rectangle<int> ImpulseResponseComponent::coveredByDecay() const
 {
     if (decayImage.isNull())
@@ -300,7 +300,7 @@ bool ImpulseResponseComponent::keyPressed (const juce::KeyPress& key)
     return in || out;
 }
 
-/** The span of the time axis in ms, for a screen reader. */
+/** The span of the time axis in ms, for screen readers. */
 class ImpulseResponseComponent::ShownTime : public juce::AccessibilityValueInterface
 {
 public:

@@ -11,9 +11,9 @@
 namespace lumo
 {
 
-/** A schematic impulse response: a line for the direct sound, one for each early tap, one for each cluster delay on each
-    early tap, and the decay of three bands behind them. The wheel zooms the time axis; the values come through the
-    setters, times in ms. What the picture derives from them is worked out when it is next drawn. Message thread. */
+/** Schematic impulse response: a line for the direct sound, for each early tap, and for each cluster delay on each
+    early tap, with the decay of three bands behind. The wheel zooms the time axis; setters take times in ms. Derived
+    values are computed at the next paint. Message thread. */
 class ImpulseResponseComponent : public juce::Component
 {
 public:
@@ -24,13 +24,13 @@ public:
     void setTrm (float ratio);
     void setTrh (float ratio);
     void setReverbStart (float ms);
-    /** Never past the early end. */
+    /** Clamped to the early end. */
     void setEarlyStart (float ms);
-    /** Never before the early start. */
+    /** Clamped to the early start. */
     void setEarlyEnd (float ms);
     void setEarlyDistr (float distribution);
     void setEarlyShape (float shape);
-    /** The cluster is held relative to the early stage as it stands at the call, and lasts 1 ms at least. */
+    /** Stored relative to the early stage at the time of the call; the cluster lasts at least 1 ms. */
     void setClusterStart (float ms);
     void setClusterEnd (float ms);
     void setClusterDistr (float distribution);
@@ -40,11 +40,11 @@ public:
     void paint (juce::Graphics& g) override;
     void resized() override;
     void mouseWheelMove (const juce::MouseEvent& e, const juce::MouseWheelDetails& wheel) override;
-    /** A cursor key zooms as one turn of the wheel does. */
+    /** A cursor key zooms like one wheel step. */
     bool keyPressed (const juce::KeyPress& key) override;
 
 private:
-    /** What a value that changed makes stale. */
+    /** What a changed value invalidates. */
     enum Stale : unsigned
     {
         decay = 1,
@@ -63,7 +63,7 @@ private:
     [[nodiscard]] juce::Rectangle<int> decayExtent() const noexcept;
     [[nodiscard]] juce::Rectangle<int> coveredByDecay() const;
     void bringUpToDate (float pixelScale);
-    /** At so many pixels of the screen a pixel. */
+    /** At this many screen pixels per pixel. */
     void buildDecay (float pixelScale);
     void buildTicks();
     void paintGround (juce::Graphics& g) const;
@@ -71,12 +71,12 @@ private:
     void paintTicks (juce::Graphics& g) const;
     void paintTaps (juce::Graphics& g) const;
 
-    HalcyraTimeStructure shown; // the cluster's times relative to the early stage's, once they have been set
+    HalcyraTimeStructure shown; // cluster times are relative to the early stage's once they have been set
     float zoom = halcyra::ImpulseResponseScale::defaultZoom;
 
     Ambrel::Delgen early, cluster;
     qel::Vector<float> gains; // of the early taps
-    juce::Image decayImage;   // of decayArea, in pixels of the screen
+    juce::Image decayImage;   // of decayArea, in screen pixels
     juce::Rectangle<int> decayArea;
     float decayPixelScale = 0;
     juce::GlyphArrangement tickTexts;

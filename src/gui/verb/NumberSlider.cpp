@@ -8,7 +8,7 @@ namespace
 
 constexpr int stepsWithShift = 10;
 
-/** Up and right add, down and left subtract; 0 for any other key. */
+/** 1 for up and right, -1 for down and left; 0 for any other key. */
 int directionOf (int keyCode)
 {
     if (keyCode == juce::KeyPress::rightKey || keyCode == juce::KeyPress::upKey)
@@ -16,7 +16,7 @@ int directionOf (int keyCode)
     return keyCode == juce::KeyPress::leftKey || keyCode == juce::KeyPress::downKey ? -1 : 0;
 }
 
-/** The number at the start of a text such as "4 kHz". */
+/** Parses the number at the start of a text such as "4 kHz". */
 double numberIn (const juce::String& text)
 {
     const double number = text.trimStart().trimCharactersAtStart ("+").getDoubleValue();

@@ -4,14 +4,14 @@
 namespace halcyra
 {
 
-/** A slider that also answers to cursor keys and to screen readers: a key moves it by one step, with shift by ten. A
-    screen reader is given what the label beside it shows. Message thread. */
+/** A slider with cursor keys and screen reader support: a key moves it by one step, with shift by ten. Screen readers
+    get the text shown beside it. Message thread. */
 class NumberSlider : public juce::Slider
 {
 public:
     NumberSlider (const juce::String& name, const ValueLabel& labelBeside);
 
-    /** Called before and after each edit that is a gesture of its own, such as a key's. */
+    /** Called before and after each edit that is its own gesture, such as a key press. */
     std::function<void()> onGestureBoundary;
 
     /** Sets the value as one gesture. */

@@ -8,13 +8,13 @@ namespace halcyra
 namespace
 {
 
-/** Pixels of one row that a path covers alike: from x to end, at a level up to 255. */
+/** Consecutive pixels of equal coverage in a row: from x to end, at a level up to 255. */
 struct Run
 {
     int x, end, level;
 };
 
-/** The runs of a path, row by row from the top, as the edge table hands them over. */
+/** The runs of a path, row by row from the top, as the edge table iterates them. */
 class Coverage
 {
 public:
@@ -30,7 +30,7 @@ public:
     [[nodiscard]] const Run* begin (int y) const { return runs.data() + starts[static_cast<std::size_t> (y - top)]; }
     [[nodiscard]] const Run* end (int y) const { return begin (y + 1); }
 
-    // What the edge table calls, rows that hold nothing left out.
+    // Callbacks of the edge table, which skips empty rows.
     void setEdgeTableYPos (int y) { starts.resize (static_cast<std::size_t> (y - top) + 1, runs.size()); }
     void handleEdgeTablePixel (int x, int level) { runs.push_back ({ x, x + 1, level }); }
     void handleEdgeTablePixelFull (int x) { runs.push_back ({ x, x + 1, 255 }); }
@@ -47,25 +47,25 @@ struct Layer
 {
     Coverage coverage;
     juce::PixelARGB colour;
-    const Run *next = nullptr, *end = nullptr; // of the row that is being written
+    const Run *next = nullptr, *end = nullptr; // of the row being written
 };
 
-/** A row of the image, its columns named as those of the picture. */
+/** A row of the image; columns are in picture coordinates. */
 struct Row
 {
     juce::PixelRGB* pixels;
     int left, right;    // of the image
-    int evenX, evenEnd; // the ground is of one colour between them
+    int evenX, evenEnd; // the background has one colour between them
     juce::PixelRGB even;
 
     [[nodiscard]] juce::PixelRGB& at (int x) const { return pixels[x - left]; }
     [[nodiscard]] bool isEven (int x) const { return x >= evenX && x < evenEnd; }
     [[nodiscard]] juce::PixelRGB groundAt (int x) const { return isEven (x) ? even : at (x); }
-    /** How far the ground goes on unchanged. */
+    /** How far the background stays uniform. */
     [[nodiscard]] int evenFrom (int x) const { return isEven (x) ? evenEnd : x + 1; }
 };
 
-/** Fills one row from run to run of all layers. */
+/** Fills one row, run by run over all layers. */
 void writeRow (std::vector<Layer>& layers, const Row& row, int y)
 {
     for (auto& layer : layers) {

@@ -13,10 +13,9 @@ struct OverlaidFill
     juce::Colour colour;
 };
 
-/** Fills paths one over the other in an RGB image in memory, with the pixels that JUCE's renderer would give, but each
-    pixel is written once, in its blended colour. The image shows an area of the picture that the transform makes of
-    the paths. Within evenGround what lies below is of one colour, whatever the image held; elsewhere the image holds
-    it. */
+/** Fills overlapping paths in an RGB memory image with the same pixels as JUCE's renderer, but writes each pixel only
+    once, in its blended colour. The image shows `area` of the transformed paths. Within evenGround the background has
+    one colour, whatever the image holds; elsewhere the image holds the background. */
 void overlayFills (juce::Image& image, juce::Rectangle<int> area, juce::Rectangle<int> evenGround, juce::Colour ground,
                    const std::vector<OverlaidFill>& fills, const juce::AffineTransform& transform);
 

@@ -4,14 +4,14 @@
 namespace halcyra
 {
 
-/** The pages and their tabs. A tab is reached by keyboard after the controls of its page, and return turns to it; a
-    click on one leaves the keyboard to the page. Message thread. */
+/** The pages and their tabs. The tab key reaches a tab after its page's controls, and return switches to it; clicking a
+    tab leaves the focus on the page. Message thread. */
 class PageTabs : public juce::TabbedComponent
 {
 public:
     PageTabs();
 
-    /** Takes the page; its title is its tab's, and what a screen reader calls it. */
+    /** Takes ownership of the page; its title labels the tab and is announced by screen readers. */
     void addPage (const juce::String& title, juce::Colour colour, std::unique_ptr<juce::Component> page);
 
 private:

@@ -6,7 +6,7 @@
 namespace halcyra
 {
 
-/** A model whose turns end with JUCE's messages, unless its owner finds another way. Message thread. */
+/** A model whose turns end with a JUCE message, unless its owner sets another waker. Message thread. */
 class SelfWakingModel : public halcyra::ReverbModel, private juce::AsyncUpdater
 {
 public:

@@ -6,7 +6,7 @@
 namespace halcyra
 {
 
-/** Calls back when a component comes into sight or leaves it, whatever brought that about. Message thread. */
+/** Calls back when a component comes into or goes out of sight, for any reason. Message thread. */
 class SightWatcher : private juce::ComponentMovementWatcher
 {
 public:

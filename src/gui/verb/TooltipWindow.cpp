@@ -8,7 +8,7 @@ namespace widgets
 namespace
 {
 
-constexpr int interval = 123; // ms, as JUCE has it
+constexpr int interval = 123; // ms, JUCE's default
 
 bool hasTip (juce::Component& component)
 {
@@ -32,7 +32,7 @@ TooltipWindow::~TooltipWindow() { setLookAndFeel (nullptr); }
 void TooltipWindow::mouseEnter (const juce::MouseEvent& event)
 {
     if (event.eventComponent == this)
-        hideTip(); // the pointer has come into the tip itself
+        hideTip(); // the pointer entered the tip itself
     if (hasTip (*event.eventComponent))
         watch();
 }

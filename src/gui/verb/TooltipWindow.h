@@ -4,9 +4,8 @@
 namespace widgets
 {
 
-/** The window that shows the tips of all our components; one serves the whole process. It polls the pointer while that
-    is over a component with a tip, and has no timer otherwise: to be served, a component adds it as a mouse listener of
-    all its children. Message thread. */
+/** The tooltip window for all our components, one per process. Polls the pointer only while it is over a component with
+    a tip: to get tips, a component adds this as a mouse listener of all its children. Message thread. */
 class TooltipWindow : public juce::TooltipWindow
 {
 public:
@@ -20,7 +19,7 @@ private:
     void watch();
     void rest();
 
-    Ambrel4LookAndFeelV2 look; // JUCE asks the look, not the window, for the tip's colour
+    Ambrel4LookAndFeelV2 look; // JUCE takes the tip's colour from the look, not from the window
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (TooltipWindow)
 };

@@ -8,14 +8,14 @@
 namespace halcyra
 {
 
-/** The scene editor of a window, which says what each event of the hand has moved. Message thread. */
+/** A window's scene editor; reports what each of the user's events moved. Message thread. */
 class UndoablePlane : public lumo::PlaneComponent
 {
 public:
-    /** Where things stood before and after one event; the two are of one length, and differ. */
+    /** Poses before and after one event; of equal length, and different. */
     using Moved = std::function<void (const lumo::poses::Poses& before, const lumo::poses::Poses& after)>;
 
-    /** The second is called before and after each key: a key is a gesture of its own. */
+    /** Calls boundGesture before and after each key, because each key press is its own gesture. */
     UndoablePlane (std::size_t numSources, std::size_t numSpeakers, int size, Moved tellMoved,
                    std::function<void()> boundGesture)
         : PlaneComponent (numSources, numSpeakers, size),

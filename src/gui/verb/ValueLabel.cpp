@@ -7,7 +7,7 @@ namespace halcyra
 
 ValueLabel::ValueLabel (Format numberToText) : format (std::move (numberToText))
 {
-    setMinimumHorizontalScale (0.5f); // narrow labels squeeze a long number rather than end it in dots
+    setMinimumHorizontalScale (0.5f); // squeeze a long number in a narrow label instead of truncating it
 }
 
 void ValueLabel::show (float number)
@@ -17,7 +17,7 @@ void ValueLabel::show (float number)
     value = number;
     stale = true;
     if (auto* parent = getParentComponent())
-        parent->repaint (getBounds().expanded (0, 3)); // letters reach beyond a label that is lower than its font
+        parent->repaint (getBounds().expanded (0, 3)); // letters extend beyond a label that is lower than its font
 }
 
 void ValueLabel::paint (juce::Graphics& g)
@@ -40,7 +40,7 @@ void styleLabel (juce::Label& label, float fontHeight, juce::Justification justi
     label.setColour (juce::TextEditor::backgroundColourId, juce::Colour (0x00000000));
     label.setPaintingIsUnclipped (true);
     label.setInterceptsMouseClicks (false, false);
-    label.setAccessible (false); // the control beside it has its name and its value
+    label.setAccessible (false); // the control beside it has its name and value
 }
 
 }

@@ -6,8 +6,8 @@
 namespace halcyra
 {
 
-/** A label that shows a number. The text is made when it is drawn, so that a label in a closed window costs nothing.
-    Message thread. */
+/** A label that shows a number. Formats it only when drawn, so that labels in a closed window cost nothing. Message
+    thread. */
 class ValueLabel : public juce::Label
 {
 public:
@@ -15,9 +15,9 @@ public:
 
     explicit ValueLabel (Format numberToText);
 
-    /** Repaints if the number differs. */
+    /** Sets the number and repaints if it changed. */
     void show (float number);
-    /** What is drawn. */
+    /** The text as drawn. */
     [[nodiscard]] juce::String shownText() const { return format (value); }
 
     void paint (juce::Graphics& g) override;
@@ -31,8 +31,8 @@ private:
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (ValueLabel)
 };
 
-/** Gives a label the face that all labels of the editors share: its text is never cut above or below, even where the
-    label is lower than its font. */
+/** Gives a label the editors' common style: text is never clipped above or below, even if the label is lower than its
+    font. */
 void styleLabel (juce::Label& label, float fontHeight, juce::Justification justification);
 
 }

@@ -8,59 +8,58 @@
 namespace orvanemax
 {
 
-/** A top-level window of the desktop that shows one component, which it does not own.
-    Its object exists from the beginning; the window itself from create() to destroy(). Main thread.
+/** A top-level desktop window that shows one component, which it does not own. The native window exists from create()
+    to destroy(). Main thread.
 
-    The platform's window comes from makeNativeWindow(). To bring another kind of window, or to watch
-    the windows of the process, hand a factory of your own to setNativeWindowFactory(). */
+    makeNativeWindow() creates the platform's window. To use another kind of window, or to monitor the process's
+    windows, install a factory with setNativeWindowFactory(). */
 class NativeWindow
 {
 public:
     virtual ~NativeWindow() = default;
 
-    /** Makes the window with its outer frame at these physical pixels; false when the system gives none. */
+    /** Creates the window with this outer frame in physical pixels; false if the system fails. */
     virtual bool create (const juce::String& title, juce::Rectangle<int> frame) = 0;
 
-    /** Makes the window visible, restores it if it was minimised, and brings it to the front. */
+    /** Shows the window, restores it if minimised, and brings it to the front. */
     virtual void show() = 0;
 
-    /** Takes the window off the screen. It and what is attached stay. */
+    /** Hides the window; it and its component stay. */
     virtual void hide() = 0;
 
-    /** Ends the window. Whatever is attached is taken out first. */
+    /** Removes the component, then destroys the window. */
     virtual void destroy() = 0;
 
     virtual void setTitle (const juce::String& title) = 0;
 
-    /** Fills the window with the component from its top left corner; null takes it out again. */
+    /** Fills the window with the component from the top left corner; null removes it. */
     virtual void attach (juce::Component* component) = 0;
 
-    /** Between a create() that succeeded and destroy(). */
+    /** True between a successful create() and destroy(). */
     [[nodiscard]] virtual bool exists() const = 0;
 
-    /** True while a component stands in the window, shown or hidden. */
+    /** True while a component is attached, visible or not. */
     [[nodiscard]] virtual bool isOccupied() const = 0;
 
-    /** Called when the user presses the window's close button. The window itself does nothing then. */
+    /** Called when the user presses the close button; the window itself takes no action. */
     std::function<void()> onCloseButton;
 };
 
-/** Makes the window of one owner; the component is the one that will be attached. */
+/** Creates an owner's window; the component is the one that will be attached. */
 using NativeWindowFactory =
     std::function<std::unique_ptr<NativeWindow> (const void* owner, juce::Component* component)>;
 
-/** A window as the installed factory makes it, else the platform's own. */
+/** A window from the installed factory, otherwise the platform's own. */
 std::unique_ptr<NativeWindow> makeNativeWindow (const void* owner, juce::Component* component);
 
-/** Windows made from now on come from this factory; an empty one brings back the platform's own. */
+/** Sets the factory for new windows; an empty one restores the platform's own. */
 void setNativeWindowFactory (NativeWindowFactory factory);
 
-/** The window of this platform: of Windows itself, elsewhere what the host defines. */
+/** The platform's window: on Windows a native one, elsewhere defined by the host. */
 std::unique_ptr<NativeWindow> makePlatformWindow();
 
-/** Brings JUCE up on the calling thread, which becomes its message thread, unless another external of the
-    process has done so. The host's own message pump serves it from then on. Elsewhere than on Windows the host defines
-    it. */
+/** Initialises JUCE on the calling thread, which becomes its message thread, unless another external of the process
+    already has. The host's message pump then serves it. On platforms other than Windows the host defines this. */
 void startJuceInHost();
 
 }

@@ -14,7 +14,7 @@ constexpr const wchar_t* dialogClass = L"#32770";
 
 HWND windowOf (void* handle) { return static_cast<HWND> (handle); }
 
-/** The module that holds this code: the external, not the program that loaded it. */
+/** The module of this code: the external, not the program that loaded it. */
 HINSTANCE thisModule()
 {
     HMODULE module = nullptr;
@@ -29,7 +29,7 @@ struct Decoration
     int height = 0;
 };
 
-/** What the frame takes around its client area at a number of dots per inch. */
+/** What the frame adds around its client area at a given DPI. */
 Decoration decorationAt (UINT dpi)
 {
     RECT frame{};
@@ -37,8 +37,8 @@ Decoration decorationAt (UINT dpi)
     return { static_cast<int> (frame.right - frame.left), static_cast<int> (frame.bottom - frame.top) };
 }
 
-/** A frame is thicker on a screen of more dots per inch, and the component is not larger there: the frame grows
-    by the difference, so that the component is cut off no further than on any other screen. */
+/** A frame is thicker at higher DPI while the component is not larger: grow the frame by the difference, so that the
+    component is clipped no more than on other screens. */
 void makeUpForThickFrame (HWND window, juce::Rectangle<int> frame)
 {
     const auto usual = decorationAt (USER_DEFAULT_SCREEN_DPI);
@@ -48,7 +48,7 @@ void makeUpForThickFrame (HWND window, juce::Rectangle<int> frame)
                       frame.getHeight() + here.height - usual.height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-/** The frame's dialog procedure: a dialog without one would not even notice its close button. */
+/** The frame's dialog procedure: without one a dialog would not receive its close button. */
 INT_PTR CALLBACK answer (HWND frame, UINT message, WPARAM, LPARAM)
 {
     if (message != WM_CLOSE)
@@ -65,7 +65,7 @@ std::unique_ptr<NativeWindow> makePlatformWindow() { return std::make_unique<Win
 
 void startJuceInHost()
 {
-    // JUCE's message window, its timers and hooks point into this module: it stays until the process ends.
+    // JUCE's message window, timers and hooks point into this module, so it stays loaded until the process ends.
     HMODULE module = nullptr;
     GetModuleHandleExA (GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
                         reinterpret_cast<LPCSTR> (&thisModule), &module);
@@ -104,7 +104,7 @@ void Win32Window::destroy()
 {
     if (handle == nullptr)
         return;
-    attach (nullptr); // a peer must go before the window in which it stands
+    attach (nullptr); // a peer must be destroyed before its parent window
     DestroyWindow (windowOf (std::exchange (handle, nullptr)));
 }
 

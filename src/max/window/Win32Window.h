@@ -5,7 +5,7 @@
 namespace orvanemax
 {
 
-/** A window of Windows itself: a plain dialog frame, in which the component is a child window.
+/** A native Windows window: a plain dialog frame with the component as a child window.
     The component keeps its size whatever the user does to the frame. */
 class Win32Window : public NativeWindow
 {
@@ -22,7 +22,7 @@ public:
     [[nodiscard]] bool isOccupied() const override;
 
 private:
-    /** The frame's HWND; null while there is none. */
+    /** The frame's HWND; null if there is none. */
     void* handle = nullptr;
     juce::Component::SafePointer<juce::Component> content;
 };

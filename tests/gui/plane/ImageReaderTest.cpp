@@ -8,7 +8,7 @@
 namespace
 {
 
-/** What ImageMagick is asked to write: how it makes the picture, and the file. */
+/** Input for ImageMagick: how it creates the picture, and the file. */
 struct Kind
 {
     const char* options;
@@ -49,8 +49,8 @@ const Kind kinds[] = {
 
 bool run (const std::string& command) { return std::system (command.c_str()) == 0; }
 
-/** The largest difference in any channel from what ImageMagick itself reads; that of clear pixels' colours counts for
-    nothing. The alpha is in JUCE's colours, so a level of it can hide there. */
+/** The largest difference in any channel from ImageMagick's own decoding; the colours of transparent pixels are
+    ignored. JUCE premultiplies by alpha, so one level of it can go unnoticed. */
 int differenceFrom (const std::string& raw, const juce::Image& image)
 {
     int most = 0;

@@ -7,7 +7,7 @@
 namespace
 {
 
-/** Paints a plain ground, timed. */
+/** Paints a plain background, timed. */
 struct Timed : lumo::Component
 {
     Timed() : lumo::Component ("timed")
@@ -65,7 +65,7 @@ TEST (LumoComponent, TimesItsPaintsOnlyWhileTheStatisticsAreOn)
     EXPECT_GT (component.GetFrameRate(), 0);
 }
 
-/** Times all of its frame, of which it paints nothing itself. */
+/** Times its whole frame, which its child covers. */
 struct Covered : lumo::Component
 {
     Covered() : lumo::Component ("covered")
@@ -147,7 +147,7 @@ TEST (LumoComponent, NamesItsRenderers)
     Stage stage (component);
     EXPECT_EQ (component.GetRendererNames().size(), 2);
     EXPECT_EQ (component.GetRendererName(), component.GetRendererNames()[0]);
-    component.SetOpenGLEnabled (true); // there is no native window to draw on
+    component.SetOpenGLEnabled (true); // there is no native window to render to
     EXPECT_FALSE (component.IsOpenGLEnabled());
     component.SetOpenGLEnabled (false);
     EXPECT_FALSE (component.IsOpenGLEnabled());

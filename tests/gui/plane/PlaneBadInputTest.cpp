@@ -12,7 +12,7 @@ namespace
 constexpr float notANumber = std::numeric_limits<float>::quiet_NaN();
 constexpr float infinity = std::numeric_limits<float>::infinity();
 
-/** A file for as long as it is needed. */
+/** A temporary file. */
 struct Scratch
 {
     explicit Scratch (const juce::MemoryBlock& bytes) { file.replaceWithData (bytes.getData(), bytes.getSize()); }
@@ -88,7 +88,7 @@ TEST (PlaneBadImages, GiveNoImageAndNoHarm)
     EXPECT_TRUE (plane.GetSurface().backgroundImage.image.isNull());
 }
 
-/** Cut anywhere, or with any byte changed, a file either loads or does not. */
+/** Truncated anywhere, or with any byte changed, a file either loads or does not. */
 TEST (PlaneBadImages, DamagedFilesDoNoHarm)
 {
     for (const auto& whole : { Encoded<juce::PNGImageFormat> (24, 24), Encoded<juce::JPEGImageFormat> (24, 24) })

@@ -38,8 +38,8 @@ TEST (PlaneIconStore, KeepsOneDrawableForAllThatLooksAlike)
     EXPECT_EQ (store->DrawablesKept(), 5u) << "and a red source and a faded one";
 }
 
-/** At any place between pixels, and at every scale: by no more than four levels in the mean, where the corners of
-    a speaker lie; half as many phases would bring five. */
+/** At any subpixel position and scale: a mean difference of at most four levels at a speaker's corners; half as many
+    phases would give five. */
 TEST (PlaneIconStore, BitmapsLookAsTheirVectorsDo)
 {
     IconStore store;

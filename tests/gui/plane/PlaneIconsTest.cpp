@@ -15,7 +15,7 @@ juce::Image Render (const juce::XmlElement& document, int size)
     return image;
 }
 
-/** How much of a picture is covered, from 0 to 1. */
+/** The covered fraction of a picture, 0 to 1. */
 double Coverage (const juce::Image& image)
 {
     double sum = 0;

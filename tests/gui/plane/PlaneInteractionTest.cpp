@@ -147,14 +147,14 @@ TEST_F (PlaneOnStage, TheHandLeavesAloneWhatMayNotBeEdited)
         const char* name;
         qel::Point3 place;
         void (*guard) (PlaneComponent&);
-        bool isShownStill; // else it can only have been chosen before
+        bool isShownStill; // if not, it must have been selected before
     };
     const qel::Point3 ofListener{ 0.4f, -0.4f, 0 }, ofSpeaker{ -0.4f, -0.4f, 0 }, ofSource{ 0, 1, 0 };
     const Guarded rows[] = {
         { "sources", ofSource,
           [] (PlaneComponent& p) {
               p.SetSourcesEditable (false, false);
-              p.SetSpeakersEditable (false, false); // which turn where no source may
+              p.SetSpeakersEditable (false, false); // rotation of speakers while sources may not rotate
           },
           true },
         { "source", ofSource, [] (PlaneComponent& p) { p.SetSourceVisible (0, false, false); }, false },
@@ -292,8 +292,8 @@ TEST_F (PlaneOnStage, TheWheelTurnsTheSelectedListener)
     EXPECT_THAT (heard.Take ("listeneryaw"), ElementsAre ("listeneryaw 10.00"));
 }
 
-/** What is drawn and what is hit agree: in random scenes, at any zoom, offset and view, the middle of every icon that
-    lies on the component is hit, by it or by one that is drawn over it. */
+/** Drawing and hit testing agree: in random scenes at any zoom, offset and view, the centre of every visible icon hits
+    it or one drawn over it. */
 TEST (PlaneHits, AgreeWithWhatIsDrawn)
 {
     std::mt19937 random (7);

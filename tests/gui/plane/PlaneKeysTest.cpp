@@ -32,7 +32,7 @@ INSTANTIATE_TEST_SUITE_P (
     testing::Values (
         KeyRow{ 'w', Keys::ctrlModifier, { "command 0" } }, KeyRow{ '+', Keys::ctrlModifier, { "command 2" } },
         KeyRow{ ',', Keys::ctrlModifier, { "command 2" } }, KeyRow{ '-', Keys::ctrlModifier, { "command 3" } },
-        KeyRow{ 0xAD, Keys::ctrlModifier, { "command 3" } }, // the numeric pad's, on X11
+        KeyRow{ 0xAD, Keys::ctrlModifier, { "command 3" } }, // the numeric keypad's, on X11
         KeyRow{ 0xAD, 0, { "options" } }, KeyRow{ 'm', 0, { "command 13" } }, KeyRow{ '+', 0, { "options" } },
         KeyRow{ '+', Keys::shiftModifier, { "options" } }, KeyRow{ '-', 0, { "options" } }, KeyRow{ '=', 0, {} },
         KeyRow{ 'a', 0, { "options" } }, KeyRow{ 's', 0, { "options" } }, KeyRow{ 'l', 0, { "options" } },

@@ -8,8 +8,8 @@ using lumo::PlaneComponent;
 namespace
 {
 
-/** What a layer adds to the picture, and where that has to be, worked by hand: on a plane of 300 pixels, whose middle
-    is 150 and where a metre is 150 - (150 * 0.1 + 1) = 134 pixels. */
+/** What a layer adds to the picture and where, worked out by hand: on a plane of 300 pixels, centred at 150, where a
+    metre is 150 - (150 * 0.1 + 1) = 134 pixels. */
 struct LayerRow
 {
     const char* name;
@@ -110,7 +110,7 @@ const LayerRow layerRows[] = {
           p.SetGridSpacing (0.25f);
       },
       [] (PlaneComponent& p) { p.SetAngularDivisionsVisible (true); },
-      { 55, 55, 191, 191 }, // the axes hide the upright and the level one
+      { 55, 55, 191, 191 }, // the axes cover the vertical and the horizontal line
       {},
       0 },
     { "the radius of the one selected source",
@@ -183,7 +183,7 @@ TEST (PlaneLayers, StandWhereTheirMetresAre)
     }
 }
 
-/** The cross would strike it through otherwise. */
+/** Otherwise the cross would strike it through. */
 TEST (PlaneLayers, AnAnchorsNameHangsBelowItsCross)
 {
     PlaneComponent plane (0, 0, 300);
@@ -199,7 +199,7 @@ TEST (PlaneLayers, AnAnchorsNameHangsBelowItsCross)
     EXPECT_NEAR (found.getCentreY(), 217 + 22, 3);
 }
 
-/** How large letters are is the platform's affair. */
+/** Text size depends on the platform. */
 TEST (PlaneLayers, TheLegendIsNeverCutShort)
 {
     PlaneComponent plane (0, 0, 300);
@@ -225,7 +225,7 @@ struct ImageRow
     juce::Rectangle<int> place;
 };
 
-/** At 8 percent the picture's 13 by 5 pixels are 1 and, cut, 0; a metre of this layer is 134 pixels. */
+/** At 8 percent the picture's 13 by 5 pixels become 1 by 0, truncated; a metre of this layer is 134 pixels. */
 const ImageRow imageRows[] = {
     { "plain", Nothing, { 16, 150, 279, 107 } },
     { "moved by its own width", [] (PlaneComponent& p) { p.SetBackgroundImageXOffset (1); }, { 0, 150, 161, 107 } },

@@ -18,7 +18,7 @@ juce::Image Canvas()
 
 }
 
-/** At every scale and wherever the component lies between the pixels of the screen. */
+/** At every scale and subpixel position. */
 TEST (PlaneLineStore, PicturesLookAsTheirLettersDo)
 {
     LineStore store;

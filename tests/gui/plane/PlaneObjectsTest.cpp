@@ -168,7 +168,7 @@ TEST_P (PlaneLookAt, TurnsTheSourceTowardsTheTarget)
     EXPECT_NEAR (lumo::Plane::Orientation::WrapDegrees (*yaw), GetParam().yaw, 0.05f);
 }
 
-// Worked by hand from the triangle of source, target and origin.
+// Worked out by hand from the triangle of source, target and origin.
 INSTANTIATE_TEST_SUITE_P (Rows, PlaneLookAt,
                           testing::Values (LookRow{ { 1, 0, 0 }, { 0, 1, 0 }, -135 },
                                            LookRow{ { 0, 1, 0 }, { 1, 0, 0 }, -45 },

@@ -4,11 +4,11 @@
 
 #include <gmock/gmock.h>
 
-/** Four sources in a ring, no speakers, on a stage, at 100 pixels a metre or so. */
+/** Four sources in a ring, no speakers, on a stage, at about 100 pixels per metre. */
 class PlaneOnStage : public testing::Test
 {
 protected:
-    /** The pointer is the desktop's and outlives the test. */
+    /** The pointer belongs to the desktop and outlives the test. */
     void TearDown() override { stage.release ({}); }
 
     [[nodiscard]] juce::Point<int> At (const qel::Point3& metres) const

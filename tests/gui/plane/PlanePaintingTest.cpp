@@ -48,7 +48,7 @@ TEST (PlanePainting, ATransparentBackgroundShowsWhatLiesBehind)
     EXPECT_EQ (Picture (plane).getPixelAt (5, 5), juce::Colour (0xFF102030));
 }
 
-/** The cache must never show: every setter of what it holds drops it. */
+/** The cache must be invisible: every setter that affects its contents invalidates it. */
 TEST (PlanePainting, AStalePictureIsNeverShown)
 {
     struct Row
@@ -209,7 +209,7 @@ TEST (PlanePainting, TheMarkOfASelectionStandsOnWhatIsSelected)
 struct MeterRow
 {
     float decibels;
-    juce::uint32 lowest; // the colour near the foot of the meter, 0 for the dark box
+    juce::uint32 lowest; // the colour near the bottom of the meter; 0 for the dark box
 };
 
 TEST (PlanePainting, AFanOpensTowardsTheMiddleTurnedClockwiseByItsYaw)

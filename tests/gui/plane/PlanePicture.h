@@ -2,7 +2,7 @@
 #include "gui/plane/PlaneComponent.h"
 #include "support/ImageDifference.h"
 
-/** The plane as it would be painted now. */
+/** A snapshot of the plane. */
 [[nodiscard]] inline juce::Image Picture (lumo::PlaneComponent& plane)
 {
     juce::Image image (juce::Image::ARGB, plane.getWidth(), plane.getHeight(), true, juce::SoftwareImageType());

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-/** Writes down what a plane tells, one line each. */
+/** Records a plane's notifications, one line each. */
 class PlaneRecorder : public lumo::PlaneListener
 {
 public:
@@ -14,9 +14,9 @@ public:
     PlaneRecorder (const PlaneRecorder&) = delete;
     PlaneRecorder& operator= (const PlaneRecorder&) = delete;
 
-    /** The lines so far; they start anew. */
+    /** Returns the lines recorded so far and clears them. */
     [[nodiscard]] std::vector<std::string> Take() { return std::exchange (lines, {}); }
-    /** Only those that begin with a word. */
+    /** Only those starting with a word. */
     [[nodiscard]] std::vector<std::string> Take (const std::string& word)
     {
         std::vector<std::string> some;

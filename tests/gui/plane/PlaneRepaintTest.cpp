@@ -10,7 +10,7 @@ using lumo::PlaneComponent;
 namespace
 {
 
-/** Levels of 255 by which the channel that differs most does; counts those that differ by more than two. */
+/** The largest difference of any channel, 0 to 255; counts those above two. */
 int FarthestLevels (const juce::Image& a, const juce::Image& b, int* beyondTwo = nullptr)
 {
     const juce::Image::BitmapData left (a, juce::Image::BitmapData::readOnly),
@@ -27,11 +27,11 @@ int FarthestLevels (const juce::Image& a, const juce::Image& b, int* beyondTwo =
     return farthest;
 }
 
-/** The whole plane anew, its static layer too. */
+/** Repaints the whole plane, including its static layer. */
 void RepaintAll (PlaneComponent& plane) { plane.SetGridColour (plane.GetSurface().grid.colour, false); }
 
-/** What is shown after changes is what the whole plane, painted anew, shows. The renderer cuts a 256th off what crosses
-    the right edge of a clip: where many shapes lie one over the other, that may add up to a level more. */
+/** After changes the screen shows the same as a full repaint. The renderer loses a 256th of what crosses the right edge
+    of a clip, which may add up to a level where many shapes overlap. */
 void ExpectAWholeRepaintShowsTheSame (PlaneComponent& plane, ScaledScreen& screen, const std::string& when)
 {
     const auto incremental = screen.Picture().createCopy();
@@ -55,7 +55,7 @@ public:
     }
     [[nodiscard]] std::size_t Below (std::size_t number) { return random() % number; }
     [[nodiscard]] juce::Colour Colour() { return juce::Colour (static_cast<juce::uint32> (random())); }
-    /** Mostly in sight, at times all on one point or as far away as there is. */
+    /** Mostly visible, sometimes all in one place or as far away as possible. */
     [[nodiscard]] qel::Point3 Point()
     {
         if (Of (0.1))
@@ -157,7 +157,7 @@ void DragSomething (PlaneComponent& plane, Chance& chance)
         plane.mouseUp (EventAt (plane, from));
 }
 
-/** What may happen between two frames. An index past the end changes nothing. */
+/** What may happen between two frames. An invalid index changes nothing. */
 using Step = void (*) (PlaneComponent&, Chance&);
 const Step steps[] = {
     [] (PlaneComponent& p, Chance& c) { p.SetSourcePosition (c.Below (12), c.Point(), true); },
@@ -202,7 +202,7 @@ const Step steps[] = {
 
 }
 
-/** Whatever changed between two frames, and however little of it was painted. */
+/** Whatever changed between two frames, and however little was repainted. */
 TEST (PlaneRepaint, ShowsWhatAWholeRepaintWouldShow)
 {
     constexpr float scales[] = { 1, 1, 1.25f, 1.5f, 2 };
@@ -219,7 +219,7 @@ TEST (PlaneRepaint, ShowsWhatAWholeRepaintWouldShow)
                     steps[chance.Below (std::size (steps))](plane, chance);
                 screen.Frame();
             }
-            screen.Frame(); // an automatic zoom may ask for one more
+            screen.Frame(); // automatic zoom may request another one
             ASSERT_NO_FATAL_FAILURE (ExpectAWholeRepaintShowsTheSame (
                 plane, screen, "seed " + std::to_string (seed) + ", round " + std::to_string (round)));
         }
@@ -323,7 +323,7 @@ int AreaOf (const juce::RectangleList<int>& parts)
     return pixels;
 }
 
-/** Things that move one by one, far from each other. */
+/** Objects that move one at a time, far apart. */
 struct SparsePlane
 {
     SparsePlane()
@@ -385,7 +385,7 @@ TEST (PlaneRepaint, GatedMovesLeaveItToTheCaller)
     EXPECT_LE (FarthestLevels (shown, screen.Picture()), 2);
 }
 
-/** By hand, in a window: what is dragged and nothing else of the plane is painted. */
+/** Dragging in a window repaints only the dragged object. */
 TEST (PlaneRepaint, ADragPaintsWhatItDrags)
 {
     SparsePlane sparse;
@@ -406,8 +406,8 @@ TEST (PlaneRepaint, ADragPaintsWhatItDrags)
     }
 }
 
-/** The picture kept of what seldom moves, and the icons in it, have the screen's own pixels. Letters may stand a pixel
-    higher or lower, where their line falls right between two. */
+/** The cached static layer and its icons have the screen's own resolution. Letters may be off by a pixel vertically,
+    where their line falls between two. */
 TEST (PlaneRepaint, TheStaticLayerIsSharpAtEveryScale)
 {
     for (const float scale : { 1.0f, 1.25f, 1.5f, 2.0f }) {
@@ -426,11 +426,11 @@ TEST (PlaneRepaint, TheStaticLayerIsSharpAtEveryScale)
         }
         int different = 0;
         FarthestLevels (screen.Picture(), drawn, &different);
-        EXPECT_LT (different, 0.01 * drawn.getWidth() * drawn.getHeight()) << scale; // of three channels a pixel
+        EXPECT_LT (different, 0.01 * drawn.getWidth() * drawn.getHeight()) << scale; // three channels per pixel
     }
 }
 
-/** A window may be dragged, or a cable pulled, while a hand holds a source. */
+/** The window may move, or a display be unplugged, during a drag. */
 TEST (PlaneRepaint, ADragGoesOnWhenTheWindowComesToAScreenOfAnotherScale)
 {
     SparsePlane sparse;

@@ -16,7 +16,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-/** JUCE speaks only for what stands in a window with a handle: one in memory is given one. */
+/** JUCE exposes only components in a window with a handle, so this gives one to a window in memory. */
 class HandledWindow : public juce::Component
 {
 public:
@@ -46,7 +46,7 @@ protected:
 
     juce::TabbedComponent& tabs() { return *dynamic_cast<juce::TabbedComponent*> (component.getChildComponent (0)); }
 
-    /** "role name: value" of all that is in the tree on a page. */
+    /** "role name: value" of everything in the tree of a page. */
     std::vector<std::string> onPage (int page)
     {
         tabs().setCurrentTabIndex (page);
@@ -182,7 +182,7 @@ TEST_F (Accessibility, EditsAsTheHandDoesOneStepAtATime)
     EXPECT_FLOAT_EQ (component.getEarlyStart(), 12.5f);
     component.undo();
     EXPECT_FLOAT_EQ (component.getEarlyStart(), 10);
-    component.setTrh (5); // past the end of its slider
+    component.setTrh (5); // beyond the end of its slider
     EXPECT_EQ (valueOf (*named ("Decay time ratio, high")), juce::String (component.getTrh(), 2));
 
     (void)onPage (1);
@@ -205,7 +205,7 @@ protected:
 
     juce::TabbedComponent& tabs() { return *dynamic_cast<juce::TabbedComponent*> (component.getChildComponent (0)); }
 
-    /** Presses tab until a control has the keyboard. */
+    /** Presses tab until a control has the focus. */
     void tabTo (const juce::String& control)
     {
         for (int i = 0; i < 40 && focused() != control; ++i)

@@ -11,7 +11,7 @@ namespace
 using Curve = lumo::HLShelfFrequencyResponseComponent;
 using testing::ElementsAre;
 
-/** The page on a stage, and the filters that it tells of. */
+/** The page on a stage, and the filters it notifies of. */
 class Filters : public testing::Test, protected Curve::Listener
 {
 protected:

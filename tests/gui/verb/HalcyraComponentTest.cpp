@@ -17,7 +17,7 @@ namespace parameter = halcyra::parameter;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/** Writes down what it hears: "source 1", "filter 0", "reverb 3", ... */
+/** Records notifications: "source 1", "filter 0", "reverb 3", ... */
 struct Ear : lumo::HalcyraComponentListener
 {
     explicit Ear (HalcyraComponent& c) : component (c) { component.addListener (this); }
@@ -49,7 +49,7 @@ protected:
     Halcyra()
     {
         bench::pumpGui();
-        ear.take(); // what the construction left in the queue
+        ear.take(); // notifications left from construction
     }
 
     HalcyraComponent component{ 2, 3, 16 };
@@ -264,7 +264,7 @@ TEST (HalcyraComponent, SharesOneTooltipWindowWithOthers)
     EXPECT_EQ (tooltips(), 0);
 }
 
-/** The first component below another for which the test holds, or null. */
+/** The first descendant for which the test holds, or null. */
 juce::Component* below (juce::Component& root, const std::function<bool (juce::Component&)>& test)
 {
     for (auto* child : root.getChildren()) {

@@ -29,7 +29,7 @@ TEST (ImpulseResponseScale, ZoomsBetweenAHundredAndEightHundredMs)
     EXPECT_EQ (halcyra::ImpulseResponseScale::zoomed (zoom, -1000), 0.25f);
 }
 
-/** A display of the size that it has on its page. */
+/** A display of the same size as on its page. */
 class ImpulseResponse : public testing::Test
 {
 protected:
@@ -59,7 +59,7 @@ TEST_F (ImpulseResponse, DrawsTapsAtTheirTimesAndTheDecayBehindThem)
     display.setEarlyEnd (82.5f);
     display.setEarlyStart (42.5f);
     display.setClusterEnd (242.5f);
-    display.setClusterStart (122.5f); // taps of the cluster at 80 and 160 on top of the early ones
+    display.setClusterStart (122.5f); // cluster taps at 80 and 160 in addition to the early ones
     const juce::Colour grey{ 0xFFB5B5B5 };
     for (const float ms : { 42.5f, 82.5f })
         EXPECT_TRUE (isGreenish (at (ms, 140))) << ms;
@@ -157,7 +157,7 @@ TEST_F (ImpulseResponse, AnEqualValueKeepsThePicture)
     EXPECT_NE (before.getPixelAt (300, 130), after.getPixelAt (300, 130));
 }
 
-/** However little of it a value repaints, at any scale and wherever it lies between the pixels of the screen. */
+/** However little a value repaints, at any scale and subpixel position. */
 TEST (ImpulseResponsePicture, PartsShowWhatAWholeRepaintWouldShow)
 {
     using Display = lumo::ImpulseResponseComponent;

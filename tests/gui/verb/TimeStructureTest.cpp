@@ -28,7 +28,7 @@ const halcyra::ControlPlace& placeOf (HalcyraReverbParameter number)
 
 juce::Rectangle<int> boxOf (HalcyraReverbParameter number) { return placeOf (number).control.rectangle(); }
 
-/** A page on a stage, and the parameters that it tells of. */
+/** A page on a stage, and the parameters it notifies of. */
 class TimeStructure : public testing::Test, protected lumo::HalcyraTimeStructureListener
 {
 protected:
@@ -36,7 +36,7 @@ protected:
     {
         tab.setLookAndFeel (look);
         bench::pumpGui();
-        tab.setDefaults(); // the first one found the controls at their low ends
+        tab.setDefaults(); // at first the controls were at their low ends
         bench::pumpGui();
         tab.addListener (this);
     }
@@ -165,7 +165,7 @@ TEST_F (TimeStructure, TheTogglesTellAtOnce)
         EXPECT_EQ (value (number), 1 - before);
         tab.setParameter (number, before, 1);
         EXPECT_EQ (value (number), before);
-        tab.setParameter (number, before, 1); // no change, nothing told
+        tab.setParameter (number, before, 1); // no change, no notification
     }
     EXPECT_THAT (heard, ElementsAre (parameter::air, parameter::air, parameter::infinite, parameter::infinite));
 }

@@ -12,7 +12,7 @@ namespace
 
 namespace cell = halcyra::cell;
 
-/** Everything that a step may hold. */
+/** Everything that a step may contain. */
 std::vector<float> stateOf (const HalcyraComponent& component)
 {
     std::vector<float> state;
@@ -33,7 +33,7 @@ protected:
         plane.SetApertureVisible (true);
     }
 
-    /** Something that a user does to a control, a handle or an object of the scene. */
+    /** Any user action on a control, a handle or an object of the scene. */
     void gesture()
     {
         const int page = static_cast<int> (random() % 3);
@@ -106,7 +106,8 @@ TEST_F (Undo, GoesDownToTheBottomAndUpToTheTopThroughTheSameStates)
                 states.push_back (std::move (now));
         }
         ASSERT_GT (states.size(), 20u) << "the gestures hit something";
-        // A run of the wheel is one step for several states, so each state that a step gives must be the next one down.
+        // A series of wheel events is one step for several states, so each state that undo gives must be the next one
+        // down.
         const auto walk = [&] (const char* key, auto first, auto last) {
             for (auto state = first; state != last;) {
                 stage.key (key);

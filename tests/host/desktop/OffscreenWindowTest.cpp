@@ -9,7 +9,7 @@ using testing::ElementsAre;
 namespace
 {
 
-/** Writes down what reaches it, each as one line. */
+/** Records its events, one line each. */
 class Notebook : public juce::Component
 {
 public:

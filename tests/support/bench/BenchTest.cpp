@@ -48,7 +48,7 @@ BenchTest::BenchTest (bench::DeferMedium deferMedium) : patch (deferMedium)
 
 BenchTest::~BenchTest()
 {
-    patch.setListener ({}); // what goes with the patch would be told when the list of events is gone
+    patch.setListener ({}); // events during the patch's destruction would arrive after the list is gone
 }
 
 TestBox BenchTest::make (const std::string& text)

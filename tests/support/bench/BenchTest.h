@@ -8,43 +8,43 @@ using Messages = std::vector<std::string>;
 
 class BenchTest;
 
-/** A box in a test: sends, and what came of it as texts. Each look at an outlet or the console takes what is
-    there, so the next look shows what came since. */
+/** A box in a test: sends, and returns its output as text. Reading an outlet or the console removes what it returns, so
+    the next read has only what is new. */
 class TestBox
 {
 public:
     TestBox (BenchTest& owner, bench::Box* made) : test (&owner), box (made) {}
 
-    /** False if the creation gave no object. */
+    /** False if the creation returned no object. */
     explicit operator bool() const { return box != nullptr; }
 
-    /** Sends "gain 3" to the inlet; nothing is pumped. */
+    /** Sends "gain 3" to the inlet without pumping. */
     void send (const std::string& message, bench::Thread thread = bench::Thread::main);
     void send (const std::string& selector, const bench::Atoms& atoms, bench::Thread thread = bench::Thread::main);
 
-    /** Messages of outlet 0, the leftmost, and of the rightmost one: "reverb gain 3." */
+    /** Messages from outlet 0, the leftmost, and from the rightmost one: "reverb gain 3." */
     Messages leftOutlet();
     Messages dumpOutlet();
 
-    /** Entries of the dictionaries that left, as seen during the call: "gain 3." */
+    /** Entries of the dictionaries sent, as read during the call: "gain 3." */
     Messages dictionaryEntries();
 
-    /** Rows of this box in the Max window: "error TEXT", "post TEXT", ... */
+    /** This box's rows in the Max console: "error TEXT", "post TEXT", ... */
     Messages console();
 
     /** Symbols of the notifications: "modified", "attr_modified", ... */
     Messages notifications();
 
-    /** What the window did: "created 800 50 935 462 Halcyra", "shown", ... */
+    /** Events of its window: "created 800 50 935 462 Halcyra", "shown", ... */
     Messages window();
 
-    /** Value of an attribute as text, "3. 4."; "no such attribute" if there is none. */
+    /** An attribute's value as text, "3. 4."; "no such attribute" if there is none. */
     std::string attribute (const std::string& name) const;
     std::string property (const std::string& attribute, const std::string& property) const;
 
     void free();
 
-    /** The object's record. */
+    /** The object's struct. */
     template <typename Record>
     Record* record() const
     {
@@ -74,18 +74,18 @@ public:
     explicit BenchTest (bench::DeferMedium deferMedium = bench::DeferMedium::queue);
     ~BenchTest() override;
 
-    /** Makes a box named b1, b2, ... */
+    /** Creates a box named b1, b2, ... */
     TestBox make (const std::string& text);
 
     void settle() { patch.settle(); }
 
-    /** Rows of the Max window of all boxes and of none: "error TEXT". */
+    /** Rows of the Max console, of all boxes and of none: "error TEXT". */
     Messages console();
 
-    /** Takes the events of a kind, of one box or, with an empty name, of all. */
+    /** Takes the events of a kind, of one box or, if the name is empty, of all. */
     std::vector<bench::Event> take (bench::Event::Kind kind, const std::string& box);
 
-    /** Everything that happened and was not taken yet, as the bench's language writes it; takes it. */
+    /** Takes all remaining events, in the bench's language. */
     Messages transcript();
 
     bench::Bench patch;

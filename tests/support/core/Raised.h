@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-/** The message of what an operation raises, or "nothing". Its report to the error stream is kept back. */
+/** The message of the exception that an operation throws, or "nothing". Suppresses its log on stderr. */
 template <typename Operation>
 std::string raised (Operation&& operation)
 {

@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-/** A folder of a test's own, which goes with it. */
+/** A temporary folder, removed with this object. */
 class ScratchFolder
 {
 public:
@@ -29,7 +29,7 @@ public:
         return file (name);
     }
 
-    /** What lies in it. */
+    /** The names of its entries. */
     [[nodiscard]] std::set<std::string> names() const
     {
         std::set<std::string> found;

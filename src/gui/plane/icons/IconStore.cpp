@@ -8,7 +8,7 @@ namespace lumo::Plane
 namespace
 {
 
-/** The nearest of the places within a pixel that have a bitmap; may be the next pixel's first. */
+/** The nearest subpixel position that has a bitmap; may be the next pixel's first. */
 juce::Point<int> NearestPhase (juce::Point<float> place)
 {
     const auto nearest = [] (float x) { return static_cast<int> (std::floor (x * IconStore::phases + 0.5f)); };
@@ -17,7 +17,7 @@ juce::Point<int> NearestPhase (juce::Point<float> place)
 
 int WholePixels (int phases) { return juce::roundToInt (std::floor (static_cast<float> (phases) / IconStore::phases)); }
 
-/** Side of a square that holds an icon, turned or not. */
+/** Side of the square that contains an icon at any rotation. */
 float BoxOf (float side, float angle) { return angle == 0.0f ? side : 1.4143f * side; }
 
 void DrawVectors (juce::Graphics& g, const juce::Drawable& icon, juce::Rectangle<float> square, float angle)
@@ -56,7 +56,7 @@ const juce::Image& IconStore::BitmapOf (const Icon& icon, float side, float angl
     if (const auto found = bitmaps.find (place); found != bitmaps.end())
         return found->second;
     const float box = BoxOf (side, angle);
-    const int pixels = static_cast<int> (std::ceil (box)) + 2; // a pixel more for each part of one that it begins in
+    const int pixels = static_cast<int> (std::ceil (box)) + 2; // plus a pixel for each partially covered one
     const auto size = static_cast<std::size_t> (pixels * pixels) * sizeof (juce::PixelARGB);
     if (bytes + size > mostBytes) {
         bitmaps.clear();

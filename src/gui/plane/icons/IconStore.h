@@ -7,27 +7,27 @@
 namespace lumo::Plane
 {
 
-/** The pictures of all icons on show in the process: one drawable for all objects that look alike, and bitmaps of it
-    by size and by where they lie between the pixels of the screen. Planes that paint hold it together, by
-    juce::SharedResourcePointer. Message thread, or the thread that paints and holds its lock. */
+/** The process's icon cache: one drawable per appearance, with bitmaps by size and subpixel position. Shared by the
+    planes that paint, through juce::SharedResourcePointer. Message thread, or the painting thread while it holds the
+    lock. */
 class IconStore
 {
 public:
-    /** How many places within a pixel have a bitmap of their own, across and down: nothing lies more than a sixteenth of
-        a pixel from where it should. The benchmark IconPhases measures what that costs against vectors in their exact
-        place. Of the pixels that differ at all, the mean is 6.3 levels of 255 for 4 phases, 3.8 for 8, 2.4 for 16 and
-        1.4 for 64, which is the unrest of the vectors themselves; a source's bitmaps take 47, 187, 746 and 11,900 kB. */
+    /** Subpixel positions with a bitmap of their own, per axis: nothing is drawn more than a sixteenth of a pixel off.
+        The benchmark IconPhases measures the error against vector drawing at the exact position. Over the pixels that
+        differ, the mean is 6.3 levels of 255 for 4 phases, 3.8 for 8, 2.4 for 16 and 1.4 for 64, the vectors' own
+        noise; a source's bitmaps take 47, 187, 746 and 11,900 kB. */
     static constexpr int phases = 8;
-    /** Larger ones, in pixels of the screen, are drawn as vectors. There is one head, and many of the others. */
+    /** Larger icons, in screen pixels, are drawn as vectors. There is one head, and many of the others. */
     static constexpr float largestBitmap = 128, largestHead = 320;
-    /** What may be kept; when it is full, all of it is dropped and what shows is drawn again. */
+    /** Limit of the cache; when full it is emptied, and visible icons are rendered again. */
     static constexpr std::size_t mostBytes = 4 << 20;
     static constexpr std::size_t mostDrawables = 256;
 
-    /** Fills a square of the component, turned about its middle by radians. */
+    /** Fills a square of the component, rotated about its centre by an angle in radians. */
     void Draw (juce::Graphics& g, const Icon& icon, juce::Rectangle<float> square, const PixelGrid& pixels,
                float angle = 0);
-    /** Valid until the next one is asked for. */
+    /** Valid until the next call. */
     [[nodiscard]] const juce::Drawable& DrawableOf (const Icon& icon);
 
     [[nodiscard]] std::size_t BytesKept() const noexcept { return bytes; }
@@ -37,7 +37,7 @@ private:
     struct Place
     {
         std::uint64_t icon;
-        float side; // in pixels of the screen
+        float side; // in screen pixels
         float angle;
         std::uint32_t phase;
         bool operator== (const Place& other) const noexcept

@@ -27,7 +27,7 @@ void AddCone (Svg& svg, Cone cone)
     svg.AddCircle (centre, cone.radius * 0.8f, membrane);
 }
 
-/** The ear cushions and what holds them, over the head. */
+/** The ear cushions and the headband, above the head. */
 void AddHeadphonesFromAbove (Svg& svg)
 {
     const Svg::Outline band{ juce::Colour (0xFF202020), 5 }, cushion{ juce::Colour (0xFF303030), 11 };

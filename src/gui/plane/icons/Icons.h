@@ -4,14 +4,14 @@
 #include <cstdint>
 #include <memory>
 
-/** The pictures of the objects, as SVG documents: crisp at any size. Each has an invisible square field, so that it
-    keeps its place in the square that it is drawn into. */
+/** The objects' icons as SVG documents: sharp at any size. Each has an invisible square frame that fixes its position
+    in the target square. */
 namespace lumo::Plane
 {
 
-/** A ball of that colour; faded if the source cannot be edited. */
+/** A ball of this colour; pale if the source is not editable. */
 [[nodiscard]] juce::XmlElement SourceIcon (juce::Colour colour, bool editable);
-/** A box of that colour with its cones. */
+/** A box of this colour with its cones. */
 [[nodiscard]] juce::XmlElement SpeakerIcon (juce::Colour colour);
 
 enum class HeadKind
@@ -22,16 +22,16 @@ enum class HeadKind
     topWithHeadphones
 };
 
-/** The listener's head; from above it looks up. */
+/** The listener's head; seen from above it faces up. */
 [[nodiscard]] juce::XmlElement HeadIcon (HeadKind kind);
 
-/** What a picture depends on: objects with equal ones look alike. */
+/** What an icon's appearance depends on: equal ones look alike. */
 struct Icon
 {
     enum class Kind : std::uint8_t
     {
         source,
-        fixedSource, // one that cannot be edited
+        fixedSource, // not editable
         speaker,
         head
     };
@@ -40,13 +40,13 @@ struct Icon
     juce::Colour colour;               // of a source or a speaker
     HeadKind headKind = HeadKind::top; // of a head
 
-    /** A number of its own for each picture. */
+    /** Unique per appearance. */
     [[nodiscard]] std::uint64_t Key() const noexcept;
 };
 
 [[nodiscard]] juce::XmlElement DocumentOf (const Icon& icon);
 
-/** By way of the document's text, as any SVG reader would see it. Never null. */
+/** Parses the document's text, like any SVG reader. Never null. */
 [[nodiscard]] std::unique_ptr<juce::Drawable> MakeDrawable (const juce::XmlElement& document);
 /** The document's text. */
 [[nodiscard]] juce::String SvgText (const juce::XmlElement& document);

@@ -15,7 +15,7 @@ Svg::Svg (float side)
     field.setAttribute ("height", side);
 }
 
-/** Six digits: the alpha has an attribute of its own, since readers disagree about eight. */
+/** Six digits: alpha is a separate attribute, because readers disagree about eight digits. */
 juce::String Svg::Hex (juce::Colour colour) { return "#" + colour.toDisplayString (false); }
 
 juce::String Svg::AddGradient (juce::Point<float> centre, float radius, std::initializer_list<Stop> stops)

@@ -7,7 +7,7 @@
 namespace lumo::Plane
 {
 
-/** A square SVG document under construction. Coordinates are those of its field. */
+/** Builds a square SVG document. Coordinates are relative to its frame. */
 class Svg
 {
 public:
@@ -25,10 +25,10 @@ public:
 
     explicit Svg (float side);
 
-    /** A gradient about a point, to be used as a fill. */
+    /** A radial gradient, for use as a fill. */
     juce::String AddGradient (juce::Point<float> centre, float radius, std::initializer_list<Stop> stops);
 
-    /** Fills: a colour in hexadecimal, a gradient, or "none". Each shape can be made paler and outlined. */
+    /** Fills: a colour in hexadecimal, a gradient, or "none". Shapes may be translucent and outlined. */
     void AddCircle (juce::Point<float> centre, float radius, const juce::String& fill, float opacity = 1,
                     Outline outline = noOutline);
     void AddPath (const char* data, const juce::String& fill, float opacity = 1, Outline outline = noOutline);
@@ -36,7 +36,7 @@ public:
 
     [[nodiscard]] static juce::String Hex (juce::Colour colour);
 
-    /** The document; the builder is empty afterwards. */
+    /** Returns the document and empties the builder. */
     [[nodiscard]] juce::XmlElement Take() { return std::move (root); }
 
 private:

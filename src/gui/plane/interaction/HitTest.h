@@ -5,15 +5,15 @@
 namespace lumo::Plane
 {
 
-/** What lies under the pointer. An object is hit nearer than its icon's size: twice as wide as it is drawn.
-    Only what is visible and editable can be hit. */
+/** Hit testing. An object is hit within its icon's size from its centre, twice as wide as it is drawn. Only visible and
+    editable objects can be hit. */
 
 [[nodiscard]] bool IsClickable (const Source& source);
 [[nodiscard]] bool IsClickable (const Speaker& speaker, const Surface& surface);
 
-/** The source drawn last of those hit, or Scene::none. */
+/** Of the sources hit, the one drawn last; or Scene::none. */
 [[nodiscard]] int SourceUnder (juce::Point<float> pixels, const Surface& surface, const Scene& scene);
-/** The first speaker of those hit, or Scene::none. */
+/** Of the speakers hit, the first; or Scene::none. */
 [[nodiscard]] int SpeakerUnder (juce::Point<float> pixels, const Surface& surface, const Scene& scene);
 [[nodiscard]] bool IsListenerUnder (juce::Point<float> pixels, const Surface& surface);
 

@@ -23,7 +23,7 @@ float AngleInView (const qel::Point3& point, bool topView)
     return topView ? std::atan2 (point.y, point.x) : std::atan2 (point.z, point.x);
 }
 
-/** The view may have changed since the last step: the axis that it hides stays. */
+/** The view may have changed since the last step: the hidden axis is kept. */
 qel::Point3 StepInView (const qel::Point3& from, const qel::Point3& to, bool topView)
 {
     auto step = to - from;
@@ -111,7 +111,7 @@ void PlaneComponent::SelectNextSpeaker()
         SelectAlone ([] {});
 }
 
-/** A speaker beats the listener, and the listener a source. */
+/** Speakers take precedence over the listener, the listener over sources. */
 void PlaneComponent::SelectUnder (juce::Point<float> pixels, bool toggle)
 {
     surface.options.listenerSelected = false;
@@ -210,7 +210,7 @@ void PlaneComponent::mouseDrag (const juce::MouseEvent& event)
     } else {
         setMouseCursor (juce::MouseCursor::NormalCursor);
     }
-    if (! SettersRepaint()) // else what moved has asked for its part
+    if (! SettersRepaint()) // otherwise the setters have repainted what moved
         repaint();
 }
 
@@ -295,7 +295,7 @@ void PlaneComponent::mouseWheelMove (const juce::MouseEvent& event, const juce::
     repaint();
 }
 
-/** False if the wheel zooms. */
+/** False if the wheel should zoom. */
 bool PlaneComponent::TurnWheelOnSelection (float delta, const juce::ModifierKeys& mods)
 {
     const bool ctrlAlone = mods.isCtrlDown() && ! mods.isAltDown();

@@ -26,7 +26,7 @@ void Zoom (PlaneComponent& plane)
     plane.SetZoom (plane.GetSurface().viewTransform.zoom * std::exp2 (octavesPerKey * direction), true);
 }
 
-/** Steps to the right and up. Their length follows the width in both directions. */
+/** Scrolls right and up. The step depends on the width in both directions. */
 template <int right, int up>
 void Shift (PlaneComponent& plane)
 {
@@ -51,7 +51,7 @@ void OpenMenu (PlaneComponent& plane)
         Plane::ShowPlaneMenu (plane);
 }
 
-/** Moves the selection by so many tenths of a metre to the right, up, and along the axis that the view hides. */
+/** Moves the selection in tenths of a metre: right, up, and along the axis hidden by the view. */
 template <int right, int up, int hidden>
 void Move (PlaneComponent& plane)
 {
@@ -80,11 +80,12 @@ struct Row
     void (*press) (PlaneComponent&);
 };
 
-/** The first row that fits decides. To add a key: one row.
+/** The first matching row applies. To add a key: one row.
 
-    Keys are told by their code, without a text character. Keyboards differ in where "+" lies: as a key of its own
-    (German, with no shift) both platforms report its own code. On a US keyboard it is shift with "=": X11 reports
-    "+" with shift, which zooms in; Windows reports "=" with shift, which is no row, and leaves the numeric pad. */
+    Keys are compared by code, without a text character. Keyboards differ in the position of "+": if it is a key of its
+    own (German, without shift) both platforms report its code. On a US keyboard it is shift and "=": X11 reports "+"
+    with shift, which zooms in; Windows reports "=" with shift, which has no row, so only the numeric keypad works
+    there. */
 const auto& Rows()
 {
     using juce::KeyPress;
@@ -92,9 +93,9 @@ const auto& Rows()
     constexpr int ctrl = juce::ModifierKeys::ctrlModifier;
     constexpr int shift = juce::ModifierKeys::shiftModifier;
     constexpr int alt = juce::ModifierKeys::altModifier;
-    constexpr int softHyphen = 0xAD; // what JUCE makes of the numeric pad's minus on X11
+    constexpr int softHyphen = 0xAD; // JUCE's code for the numeric keypad's minus on X11
     static const std::array rows{
-        Row{ 'w', ctrl, Command<0> }, // asks to close the window
+        Row{ 'w', ctrl, Command<0> }, // requests that the window close
         Row{ KeyPress::numberPadAdd, ctrl, Command<2> },
         Row{ '+', ctrl, Command<2> },
         Row{ ',', ctrl, Command<2> },

@@ -4,7 +4,7 @@
 namespace lumo::Plane
 {
 
-/** Does what the key says on a plane; false for a key that says nothing here. */
+/** Handles a key on a plane; false if the key has no row. */
 bool PressKey (PlaneComponent& plane, const juce::KeyPress& key);
 
 }

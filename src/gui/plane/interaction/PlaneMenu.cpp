@@ -6,7 +6,7 @@ namespace lumo
 namespace
 {
 
-/** One switch that an id turns over. To add an item: a row where it shall stand; a null text keeps it off the menu. */
+/** A switch toggled by an id. To add an item: a row at its position; a null text keeps it off the menu. */
 struct Row
 {
     int id; // 0 for a separator
@@ -32,14 +32,14 @@ constexpr Row rows[] = {
     { 13, "show listener", &PlaneOptions::listenerVisible,
       [] (PlaneComponent& p, bool on) { p.SetListenerVisible (on); } },
     separator,
-    // The text that this changes is drawn with the next frame: this item has never asked for one.
+    // Does not repaint: the changed text appears with the next frame.
     { 6, "constrains to circular", &PlaneOptions::circularConstraint,
       [] (PlaneComponent& p, bool on) { p.SetCircularConstraint (on, false); } },
     separator,
     { 7, "Top View (xy)", &PlaneOptions::topView, [] (PlaneComponent& p, bool on) { p.SetTopView (on); } },
     { 8, "Front View (xz)", &PlaneOptions::frontView, [] (PlaneComponent& p, bool on) { p.SetFrontView (on); } },
     separator,
-    // Once on the menu, still answered.
+    // No longer on the menu, but still handled.
     { 9, nullptr, &PlaneOptions::headphonesVisible, [] (PlaneComponent& p, bool on) { p.SetHeadphonesVisible (on); } },
     { 11, nullptr, &PlaneOptions::backgroundImageVisible,
       [] (PlaneComponent& p, bool on) { p.SetBackgroundImageVisible (on); } },

@@ -6,7 +6,7 @@
 namespace lumo::Plane
 {
 
-/** Where the pointer was: at the last press, in pixels, and at the last press or drag step, in metres. */
+/** Pointer positions: the last press in pixels, and the last press or drag step in metres. */
 struct Pointer
 {
     juce::Point<float> lassoOrigin;

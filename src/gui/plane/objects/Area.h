@@ -7,10 +7,10 @@ namespace lumo::Plane
 /** A named polygon on the floor. */
 struct Area
 {
-    /** Takes new corners; none empties the area. */
+    /** Replaces the corners; none empties the area. */
     void SetPoints (const qel::Point3Array& corners, const ViewTransform& view);
     void UpdateScreen (const ViewTransform& view);
-    /** Only x and y count. */
+    /** Ignores z. */
     [[nodiscard]] bool Contains (const qel::Point3& point) const;
 
     qel::Point3Array points;

@@ -5,12 +5,12 @@
 namespace lumo::Plane
 {
 
-/** A size as a proportion of the component's width. */
+/** Clamps a size given as a proportion of the component's width. */
 [[nodiscard]] inline float ClampProportion (float value) noexcept { return std::clamp (value, 0.001f, 1.0f); }
 
 inline constexpr float leastLevel = -60.0f, greatestLevel = 6.0f; // dB
 
-/** Clamps and stores; false if nothing changes, or for what is no number. */
+/** Clamps and stores; false if nothing changes or the level is NaN. */
 [[nodiscard]] inline bool StoreLevel (float& stored, float decibels) noexcept
 {
     const float wanted = std::clamp (decibels, leastLevel, greatestLevel);

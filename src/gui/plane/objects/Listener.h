@@ -5,7 +5,7 @@
 namespace lumo::Plane
 {
 
-/** The head in the scene. Angles in radians. */
+/** The scene's listener. Angles in radians. */
 struct Listener
 {
     [[nodiscard]] Plane::Icon Icon (bool topView) const noexcept;

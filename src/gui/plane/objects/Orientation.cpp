@@ -16,8 +16,8 @@ constexpr const char* names[] = { "yawconstraint", "translation", "follow", "lis
 
 float Degrees (float radians) { return radians * qel::degreesPerRadian; }
 
-/** Across the back, where the directions of the two lie on either side of the half circle. The pi / 4 of the second
-    row and the missing quarter turns are how scenes have always been drawn, and stay. */
+/** For directions on either side of the half circle. The pi / 4 of the second row and the missing quadrants are kept on
+    purpose: existing scenes depend on them. */
 float YawAcrossTheBack (float a, float b, float angle)
 {
     using qel::halfPi;

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-/** What a source's yaw does when the source moves. */
+/** How a source's yaw changes when the source moves. */
 namespace lumo::Plane::Orientation
 {
 
@@ -17,16 +17,16 @@ enum Mode : std::int32_t
     listenerConstraint
 };
 
-/** Exact names: "yawconstraint", "translation", "follow", "listenerconstraint"; any other gives yawConstraint. */
+/** Exact names: "yawconstraint", "translation", "follow", "listenerconstraint"; any other returns yawConstraint. */
 Mode ModeNamed (const qel::String& name);
-/** The empty text for a number that is no mode. */
+/** Empty for an unknown mode. */
 qel::String NameOf (std::int32_t mode);
 
-/** Brings an angle into [-180, 180). */
+/** Wraps an angle into [-180, 180). */
 float WrapDegrees (float degrees) noexcept;
 
-/** The yaw in degrees that turns a source at a position towards a target, by the triangle of the two and the origin.
-    Nothing where the triangle has no such angle: the target on the source or on the origin. */
+/** The yaw in degrees that turns a source towards a target, from their triangle with the origin. Empty if the target
+    coincides with the source or the origin. */
 std::optional<float> YawLookingAt (const qel::Point3& source, const qel::Point3& target);
 
 }

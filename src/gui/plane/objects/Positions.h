@@ -6,7 +6,7 @@
 namespace lumo::Plane
 {
 
-/** Where sources or speakers stand, in their order. */
+/** Positions of sources or speakers, in order. */
 template <typename Object>
 [[nodiscard]] qel::Point3Array PositionsOf (const qel::Vector<Object>& objects)
 {

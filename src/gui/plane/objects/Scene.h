@@ -8,7 +8,7 @@
 namespace lumo::Plane
 {
 
-/** The objects on the plane. The layers read them through a const reference. */
+/** The objects on the plane; read-only for the layers. */
 struct Scene
 {
     static constexpr std::size_t largestCount = 256;

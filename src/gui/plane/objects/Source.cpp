@@ -23,7 +23,7 @@ void Source::SetYaw (float degrees)
     const float radians = Orientation::WrapDegrees (degrees) * qel::radiansPerDegree;
     if (yawMode != Orientation::yawConstraint && yawMode != Orientation::translation)
         return;
-    yaw = radians; // to the letter, also where a move will derive it from the offset
+    yaw = radians; // exact, even if a move later derives it from the offset
     yawOffset = RelativeYaw();
 }
 
@@ -38,7 +38,7 @@ std::optional<float> Source::UpdateYaw (const qel::Point3& listener)
         return YawDegrees();
     case Orientation::follow:
         return {};
-    case Orientation::listenerConstraint: // reports 0 to 360 where the others report -180 to 180
+    case Orientation::listenerConstraint: // reports 0 to 360; the others -180 to 180
         yawOffset = yaw - std::atan2 (position.y - listener.y, position.x - listener.x) - qel::halfPi;
         return qel::wrapDegrees (yawOffset * qel::degreesPerRadian - 180.0f);
     }

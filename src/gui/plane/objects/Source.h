@@ -6,18 +6,18 @@
 namespace lumo::Plane
 {
 
-/** A sound source of the scene: data, and the rules of its yaw and its looks. Angles in radians. */
+/** A sound source: its data, and the rules for its yaw and appearance. Angles in radians. */
 class Source
 {
 public:
     explicit Source (int number);
 
-    /** Sets the yaw as the mode takes it, wrapped: two of the modes store nothing. */
+    /** Sets the yaw, wrapped, according to the mode: two of the modes ignore it. */
     void SetYaw (float degrees);
-    /** After a move: brings yaw and offset together again. Gives the degrees to report, where the mode reports. */
+    /** Updates yaw and offset after a move. Returns the degrees to report, if the mode reports. */
     std::optional<float> UpdateYaw (const qel::Point3& listener);
     [[nodiscard]] float YawDegrees() const noexcept;
-    /** The yaw seen from the direction in which the source stands. */
+    /** The yaw relative to the source's direction. */
     [[nodiscard]] float RelativeYaw() const noexcept;
 
     /** Clamped to 10..180. */
@@ -35,9 +35,9 @@ public:
     [[nodiscard]] Plane::Icon Icon() const noexcept;
 
     juce::Point<float> screenPosition;
-    float aperture = 1.3962634f; // half opening of the fan
+    float aperture = 1.3962634f; // half the fan's angle
     float yaw = 0;
-    float yawOffset = 0; // relative to the direction of the source
+    float yawOffset = 0; // relative to the source's direction
     bool selected = false;
     bool visible = true;
     bool labelVisible = true;

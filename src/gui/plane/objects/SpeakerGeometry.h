@@ -5,29 +5,29 @@
 namespace lumo::Plane
 {
 
-/** What is derived from where the speakers stand, in metres. Each piece is computed when it is wanted, and kept until
-    a speaker moves: the view does not matter to it. */
+/** Geometry derived from the speakers' positions, in metres. Each piece is computed on demand and cached until a
+    speaker moves, independent of the view. */
 class SpeakerGeometry
 {
 public:
-    /** A speaker moved, or their number changed. */
+    /** Call when a speaker moves or their number changes. */
     void SpeakersMoved() noexcept;
 
     void UpdateHull (const qel::Vector<Speaker>& speakers);
     void UpdateTriangulation (const qel::Vector<Speaker>& speakers);
-    /** True if it had to be computed. */
+    /** Returns whether it was recomputed. */
     bool UpdateProjection (const qel::Vector<Speaker>& speakers);
-    /** The largest distance of a speaker from the origin. */
+    /** The radius is the largest distance of a speaker from the origin. */
     void UpdateRadius (const qel::Vector<Speaker>& speakers);
 
-    /** The corners of the convex hull; fewer than three for a hull with no inside. */
+    /** The corners of the convex hull; fewer than three if it has no area. */
     [[nodiscard]] const qel::Point3Array& Hull() const noexcept { return hull; }
-    /** Triples of speakers. */
+    /** Triples of speaker indices. */
     [[nodiscard]] const qel::Vector<qel::Triangulation::Triple>& Triangles() const noexcept
     {
         return triangulation.triples();
     }
-    /** Each speaker moved out to the sphere of the farthest. */
+    /** The speakers projected onto the sphere of the farthest. */
     [[nodiscard]] const qel::Point3Array& Projection() const noexcept { return projection; }
     [[nodiscard]] float Radius() const noexcept { return radius; }
 

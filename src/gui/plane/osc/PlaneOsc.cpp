@@ -22,11 +22,11 @@ void AddPosition (qel::OSCBundle& bundle, const qel::String& address, const qel:
 
 float Degrees (float radians) { return radians * qel::degreesPerRadian; }
 
-/** One address and how its value gets into the bundle. To show one more value: one row. */
+/** An address and how to add its value to the bundle. To expose another value: one row. */
 template <typename Object>
 struct Row
 {
-    const char* address; // behind the object's own
+    const char* address; // after the object's own
     void (*add) (qel::OSCBundle&, const qel::String& address, const Object&);
 };
 
@@ -109,14 +109,14 @@ const Row<BackgroundImage> imageRows[] = {
       [] (Bundle& b, Address a, const BackgroundImage& i) { b.add (a, BackgroundImage::NameOf (i.quality)); } },
 };
 
-/** Whether an address begins with a name as it stands: a pattern in its place reaches nothing. */
+/** Whether an address begins with this literal name; patterns do not match here. */
 bool BeginsWith (const qel::OSCMessage& message, const char* name)
 {
     const auto& parts = message.address().parts();
     return ! parts.empty() && parts[0] == name;
 }
 
-/** A switch that can be read and written by address. */
+/** A switch readable and writable by address. */
 template <typename Object>
 struct Switch
 {
@@ -189,7 +189,7 @@ bool PlaneBase::processOscMessage (const qel::OSCMessage& message)
 {
     const bool isWritten = surface.axis.processOscMessage (message) || surface.legend.processOscMessage (message);
     if (isWritten)
-        MarkStaticLayerDirty(); // so that the repaint, which is the caller's, shows it
+        MarkStaticLayerDirty(); // for the repaint, which the caller requests
     return isWritten;
 }
 

@@ -6,16 +6,16 @@
 namespace lumo::Plane
 {
 
-/** A line of text that is drawn centred about a point. Its glyphs are laid out once for each font and width, and not
-    before it is seen. Message thread, or the thread that paints and holds its lock. */
+/** A line of text centred about a point. Laid out on first use, and once per font and width. Message thread, or the
+    painting thread while it holds the lock. */
 class Caption
 {
 public:
     struct Style
     {
-        float height; // of the font, in pixels
+        float height; // font height in pixels
         bool bold;
-        float width; // what does not fit ends in an ellipsis
+        float width; // longer text ends in an ellipsis
 
         bool operator== (const Style& other) const noexcept
         {
@@ -28,7 +28,7 @@ public:
     void Set (juce::String newText);
     [[nodiscard]] const juce::String& Text() const noexcept { return text; }
 
-    /** All pixels that it may touch, with room for accents above the line and for what leans out of it. */
+    /** All pixels it may touch, including accents above the line and overhanging letters. */
     [[nodiscard]] juce::Rectangle<float> Extent (juce::Point<float> centre, const Style& style) const;
     void Draw (juce::Graphics& g, juce::Point<float> centre, const Style& style) const;
 

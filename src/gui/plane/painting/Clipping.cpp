@@ -12,7 +12,7 @@ namespace
 constexpr double period = 2.0 * static_cast<double> (dashLength);
 constexpr double pi = juce::MathConstants<double>::pi;
 
-/** The span of a line's parameter within one pair of parallel edges. */
+/** Narrows a line's parameter to the interval between two parallel edges. */
 void Narrow (double start, double step, double low, double high, double& first, double& last)
 {
     if (step == 0.0) {
@@ -36,7 +36,7 @@ double FarthestDistance (juce::Point<double> p, juce::Rectangle<double> area)
                        std::max (std::abs (p.y - area.getY()), std::abs (p.y - area.getBottom())));
 }
 
-/** The angles, from the centre, between which a rectangle that does not hold the centre is seen. */
+/** The angles, from the centre, covered by a rectangle that does not contain the centre. */
 juce::Range<double> AnglesOf (juce::Rectangle<double> area, juce::Point<double> centre)
 {
     const auto middle = area.getCentre() - centre;
@@ -86,7 +86,7 @@ juce::Path VisibleCircle (juce::Point<float> at, double radius, juce::Rectangle<
     }
     const auto angles = AnglesOf (area, centre);
     const double start = std::floor (angles.getStart() * radius / period) * period / radius;
-    const double step = std::min (0.1, std::sqrt (1.0 / radius)); // the chord leaves the circle by an eighth of a pixel
+    const double step = std::min (0.1, std::sqrt (1.0 / radius)); // chords are at most 1/8 pixel off the circle
     const auto pointAt = [&] (double angle) {
         return juce::Point<double> (centre.x + radius * std::cos (angle), centre.y + radius * std::sin (angle))
             .toFloat();

@@ -3,20 +3,20 @@
 
 #include <optional>
 
-/** Long lines and large circles are cut to what can be seen before they are dashed: at a great zoom a grid line would
-    otherwise be millions of dashes long. Pixels. */
+/** Clips long lines and large circles to the visible area before dashing: at high zoom a grid line would otherwise have
+    millions of dashes. Pixels. */
 namespace lumo::Plane
 {
 
-/** Dashes are this long, and so are the gaps. */
+/** Length of dashes and gaps. */
 inline constexpr float dashLength = 5.0f;
 
-/** The part of a line inside a rectangle, from the start of a dash on. */
+/** The part of a line inside a rectangle, starting at the start of a dash. */
 [[nodiscard]] std::optional<juce::Line<float>> VisiblePart (juce::Line<double> line, juce::Rectangle<float> clip);
 
-/** Whether any of a circle's line lies in a rectangle. */
+/** Whether a circle's line intersects a rectangle. */
 [[nodiscard]] bool MeetsCircle (juce::Rectangle<float> area, juce::Point<float> centre, double radius);
-/** A circle, or the arcs of it that may be seen; empty if none is. Precise for radii of any size. */
+/** A circle, or its possibly visible arcs; empty if there are none. Accurate for radii of any size. */
 [[nodiscard]] juce::Path VisibleCircle (juce::Point<float> centre, double radius, juce::Rectangle<float> clip);
 
 }

@@ -2,22 +2,22 @@
 #include "gui/plane/objects/Scene.h"
 #include "gui/plane/surface/Surface.h"
 
-/** What both layers draw with. */
+/** Drawing helpers for both layers. */
 namespace lumo::Plane
 {
 
 /** A square about a point. */
 [[nodiscard]] juce::Rectangle<float> SquareAt (juce::Point<float> centre, float side);
 
-/** Whether anything in a square about a point would be painted. */
+/** Whether a square about a point intersects the clip. */
 [[nodiscard]] bool IsWanted (const juce::Graphics& g, juce::Point<float> centre, float side);
 
-/** Centred in a square about a point; what does not fit ends in an ellipsis. */
+/** Centres text in a square about a point; longer text ends in an ellipsis. */
 void DrawTextAt (juce::Graphics& g, const juce::String& text, juce::Point<float> centre, float side);
 
-/** With halves away from zero, as in all texts of the system. */
+/** Rounds halves away from zero, unlike juce::String. */
 [[nodiscard]] juce::String MetresText (float metres, int decimals);
-/** "(x,y,z)" in metres; with the circular constraint the angle that a drag changes, in whole degrees. */
+/** "(x,y,z)" in metres; under the circular constraint, the angle that a drag changes, in whole degrees. */
 [[nodiscard]] juce::String CoordinatesText (const qel::Point3& position, const Surface& surface);
 void DrawCoordinates (juce::Graphics& g, const qel::Point3& position, juce::Rectangle<int> area, juce::Colour colour,
                       const Surface& surface);

@@ -15,7 +15,7 @@ namespace
 constexpr int coordinatesWidth = 100, coordinatesHeight = 20;
 constexpr float meterWidth = 5;
 
-/** In whole pixels, as the system has always placed them. */
+/** Kept at whole pixels. */
 juce::Rectangle<int> CoordinatesAt (juce::Point<float> at, float size, int down)
 {
     const auto x = static_cast<int> (at.x), y = static_cast<int> (at.y), half = static_cast<int> (size * 0.5f);
@@ -90,7 +90,7 @@ float RotationOfFan (const Source& source) noexcept
     return source.yawMode == Orientation::translation ? source.yawOffset : source.RelativeYaw();
 }
 
-/** The centre, the ends of the arc, and where it passes a quarter of the circle. */
+/** The centre, the ends of the arc, and where it crosses quarter turns. */
 juce::Rectangle<int> ExtentOfFan (const Source& source, const Surface& surface)
 {
     const auto& view = surface.viewTransform;
@@ -98,7 +98,7 @@ juce::Rectangle<int> ExtentOfFan (const Source& source, const Surface& surface)
         source.yawMode == Orientation::follow)
         return {};
     constexpr float quarter = juce::MathConstants<float>::halfPi;
-    constexpr float corners = 8; // how far the stroke's corners may stand out
+    constexpr float corners = 8; // how far the stroke's corners may protrude
     const auto at = source.screenPosition;
     const float radius = ApertureRadius (source, view);
     const float first = RotationOfFan (source) - source.aperture, last = first + 2 * source.aperture;
@@ -154,7 +154,7 @@ juce::Rectangle<int> ExtentOf (const Listener& listener, const Surface& surface)
 {
     if (! listener.visible)
         return {};
-    constexpr float turned = 1.4143f; // whichever way it looks
+    constexpr float turned = 1.4143f; // at any rotation
     return WithRoom (SquareAt (listener.screenPosition, turned * SizeOf (listener, surface.viewTransform)));
 }
 

@@ -54,8 +54,8 @@ void DrawMeters (juce::Graphics& g, const Surface& surface, const Scene& scene)
 
 // ---- Sources
 
-/** With chords that leave the arc by no more than a twentieth of a pixel of the screen: JUCE's own arcs have the same
-    number of chords whatever their size, twice as many as a fan of the usual size needs. */
+/** With chords at most a twentieth of a screen pixel off the arc: JUCE's own arcs always have the same number of
+    chords, twice as many as a fan of the usual size needs. */
 juce::Path FanOf (const Source& source, const Surface& surface)
 {
     constexpr float deviation = 0.05f;
@@ -111,7 +111,7 @@ void DrawSources (juce::Graphics& g, const Surface& surface, const Scene& scene)
     }
 }
 
-/** For the one source that is selected. */
+/** For a single selected source. */
 void DrawRadiusCircle (juce::Graphics& g, const Surface& surface, const Scene& scene)
 {
     const auto isSelected = [] (const Source& source) { return source.selected; };

@@ -5,7 +5,7 @@
 namespace lumo::Plane
 {
 
-/** All that moves often, drawn in every frame over the static layer. */
+/** Everything that changes often, drawn in every frame over the static layer. */
 void DrawForeground (juce::Graphics& g, const Surface& surface, const Scene& scene);
 
 }

@@ -10,13 +10,13 @@ namespace lumo::Plane
 namespace
 {
 
-/** With room for the width of a line. */
+/** Includes a margin for the line width. */
 juce::Rectangle<float> VisibleArea (const ViewTransform& view) { return view.Bounds().toFloat().expanded (2); }
 
-/** What the clip has of it. Lines are cut to the visible area all the same, so that parts of a picture fit together. */
+/** The clip's part of it. Lines are still clipped to the visible area, so that separately painted parts match. */
 juce::Rectangle<float> WantedArea (const juce::Graphics& g) { return g.getClipBounds().toFloat().expanded (2); }
 
-/** One fill for all dashes of a line: they do not meet, and hundreds of fills a line would be slow. */
+/** Fills all dashes of a line at once: they do not overlap, and hundreds of fills per line would be slow. */
 void Stroke (juce::Graphics& g, const juce::Path& path, bool dashed)
 {
     const juce::PathStrokeType stroke (1.0f);
@@ -94,7 +94,7 @@ void DrawAngularDivisions (juce::Graphics& g, const Surface& surface)
         return;
     g.setColour (grid.colour.withAlpha (0.5f));
     const auto origin = view.ToScreen ({}).toDouble();
-    const double metres = std::max (1u, grid.numLines); // whatever the spacing
+    const double metres = std::max (1u, grid.numLines); // independent of the spacing
     const double reach = metres * static_cast<double> (view.pixelsPerMetre);
     const float division = 360.0f / static_cast<float> (grid.numAngularDivisions);
     for (std::uint32_t k = 0; k < grid.numAngularDivisions; ++k) {

@@ -7,16 +7,16 @@
 namespace lumo::Plane
 {
 
-/** Pictures of texts that stand in whole pixels and often come back, as coordinates do while something is dragged:
-    the renderer spends more on a dozen letters than on the icon above them. Planes that paint hold it together, by
-    juce::SharedResourcePointer. Message thread, or the thread that paints and holds its lock. */
+/** Cache of text images at whole pixels for recurring texts, such as coordinates during a drag: the renderer spends
+    more on a dozen letters than on the icon above them. Shared by the planes that paint, through
+    juce::SharedResourcePointer. Message thread, or the painting thread while it holds the lock. */
 class LineStore
 {
 public:
-    /** When it is full, all of it is dropped and what shows is drawn again. */
+    /** Limit of the cache; when full it is emptied, and visible lines are rendered again. */
     static constexpr std::size_t mostLines = 64;
 
-    /** Centred about a pixel of the component. */
+    /** Centred about a component pixel. */
     void Draw (juce::Graphics& g, const juce::String& text, const Caption::Style& style, juce::Colour colour,
                juce::Point<int> centre, const PixelGrid& pixels);
 
@@ -28,9 +28,9 @@ private:
         juce::String text;
         Caption::Style style;
         juce::Colour colour;
-        PixelGrid grid; // of a component whose corner is the centre
+        PixelGrid grid; // of a component whose corner is at the centre
         juce::Image picture;
-        juce::Point<int> topLeft; // from the centre, in pixels of the screen
+        juce::Point<int> topLeft; // relative to the centre, in screen pixels
     };
 
     [[nodiscard]] const Line& LineOf (const juce::String& text, const Caption::Style& style, juce::Colour colour,

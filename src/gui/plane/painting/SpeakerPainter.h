@@ -2,7 +2,7 @@
 #include "gui/plane/objects/Scene.h"
 #include "gui/plane/surface/Surface.h"
 
-/** The speakers and what is derived from where they stand. Each draws nothing unless its option says so. */
+/** The speakers and their derived geometry. Each function draws nothing unless its option is on. */
 namespace lumo::Plane
 {
 

@@ -14,10 +14,10 @@ namespace lumo::Plane
 namespace
 {
 
-/** From the picture's pixels to the component's. */
+/** Transforms image pixels to component pixels. */
 juce::AffineTransform PlacementOf (const BackgroundImage& picture, const ViewTransform& view)
 {
-    const int halfWidth = view.width / 2; // for both directions: the picture hangs from the top
+    const int halfWidth = view.width / 2; // for both axes: the image is placed relative to the width
     const int pixels = static_cast<int> (static_cast<float> (halfWidth) * view.zoom) - view.Margin() / 2 - 1;
     const auto scale = static_cast<float> (pixels);
     const auto shift = [&] (float offset, int extent) {
@@ -28,7 +28,7 @@ juce::AffineTransform PlacementOf (const BackgroundImage& picture, const ViewTra
         .translated (shift (picture.xOffset, picture.scaledWidth), shift (picture.yOffset, picture.scaledHeight));
 }
 
-/** Only the part that shows is handed to the renderer, whose arithmetic ends where a great zoom begins. */
+/** Passes only the visible part to the renderer, whose arithmetic overflows at high zoom. */
 void DrawBackgroundImage (juce::Graphics& g, const Surface& surface)
 {
     const auto& picture = surface.backgroundImage;
@@ -134,7 +134,7 @@ void DrawAnchors (juce::Graphics& g, const Surface& surface)
     g.setFont (lumo::Component::MakeFont (juce::jlimit (10.0f, 20.0f, half)));
     for (const auto& anchor : surface.anchors.items) {
         const auto at = anchor.screenPosition;
-        if (! IsWanted (g, at, 7 * half)) // the name stands to the lower right
+        if (! IsWanted (g, at, 7 * half)) // the name is at the lower right
             continue;
         g.drawVerticalLine (static_cast<int> (at.x), at.y - half, at.y + half);
         g.drawHorizontalLine (static_cast<int> (at.y), at.x - half, at.x + half);

@@ -5,9 +5,9 @@
 namespace lumo::Plane
 {
 
-/** All that seldom moves: what a cached picture may hold. Hull, triangulation and projection are up to date. */
+/** Everything that seldom changes, to be cached. Hull, triangulation and projection must be up to date. */
 void DrawStaticLayer (juce::Graphics& g, const Surface& surface, const Scene& scene);
-/** The colour and its frame alone. */
+/** Only the colour and its frame. */
 void DrawBackground (juce::Graphics& g, const Surface& surface);
 
 }

@@ -6,7 +6,7 @@
 namespace lumo::Plane
 {
 
-/** The cross through the origin with its words. Writable by OSC address; a write neither repaints nor notifies. */
+/** The cross through the origin and its labels. Writable by OSC address; a write neither repaints nor notifies. */
 class Axis : public qel::OscInterface
 {
 public:

@@ -6,14 +6,14 @@
 namespace lumo::Plane
 {
 
-/** A picture under the scene, a floor plan for instance. One pixel of it is scale times two metres wide. */
+/** An image under the scene, such as a floor plan. One image pixel is 2 * scale metres wide. */
 struct BackgroundImage
 {
-    /** 0 "low", 1 "medium", 2 "high"; any other name gives medium. */
+    /** 0 "low", 1 "medium", 2 "high"; any other name returns medium. */
     static int QualityNamed (const qel::String& name);
     static qel::String NameOf (int quality);
 
-    /** What ReadImage cannot read gives a null image. */
+    /** The image is null if ReadImage cannot read the file. */
     void Load (const juce::File& path);
     void SetScale (float fraction);
 

@@ -8,7 +8,7 @@
 namespace lumo::Plane
 {
 
-/** The circles or squares behind the scene. */
+/** The circles or squares in the background of the scene. */
 struct Grid
 {
     enum Mode : std::int32_t
@@ -19,9 +19,9 @@ struct Grid
     };
     static constexpr std::int32_t numModes = 3;
 
-    /** "none", "circular", "square" or "box"; any other name gives circular. */
+    /** "none", "circular", "square" or "box"; any other name returns circular. */
     static std::int32_t ModeNamed (const qel::String& name);
-    /** "none", "circular" or "cartesian": a mode reads back by another word than it was set by. */
+    /** "none", "circular" or "cartesian": square modes read back under another name than they were set by. */
     static qel::String NameOf (std::int32_t mode);
 
     std::int32_t mode = circular;

@@ -3,7 +3,7 @@
 #include <csetjmp>
 #include <cstdio>
 
-// The order matters: jpeglib.h needs the types of stdio.
+// After stdio: jpeglib.h uses its types without including it.
 #include <jpeglib.h>
 
 #include <jerror.h>
@@ -57,9 +57,9 @@ void BeginPng (PngReader& reader)
     png_read_info (reader.png, reader.info);
 }
 
-/** Whatever the file holds, rows come as 8 bits of blue, green, red and alpha, as JUCE keeps them but for the alpha in
-    the colours. The values stand for sRGB unless the file names another gamma. The library's simplified interface
-    would be shorter, but its 16-bit interlaced pictures come out wrong. */
+/** Decodes any PNG to 8-bit blue, green, red and alpha, JUCE's format except that colours are not premultiplied. Values
+    are sRGB unless the file specifies another gamma. The library's simplified interface would be shorter, but decodes
+    16-bit interlaced pictures wrongly. */
 void DecodePng (PngReader& reader)
 {
     auto* const png = reader.png;
@@ -77,10 +77,10 @@ void DecodePng (PngReader& reader)
     png_read_end (png, nullptr);
 }
 
-/** The library leaves a step with an error by a long jump, so that no object may be born in one. */
+/** The library exits a failed step by longjmp, so that no object may be constructed in one. */
 bool Succeeds (void (*step) (PngReader&), PngReader& reader)
 {
-    if (setjmp (png_jmpbuf (reader.png)) != 0) // NOLINT(cert-err52-cpp): the library's way
+    if (setjmp (png_jmpbuf (reader.png)) != 0) // NOLINT(cert-err52-cpp): required by the library
         return false;
     step (reader);
     return true;
@@ -121,7 +121,7 @@ juce::Image ReadPng (const juce::MemoryBlock& bytes)
 
 struct JpegReader
 {
-    jpeg_decompress_struct info; // whose client_data leads here
+    jpeg_decompress_struct info; // its client_data points to this struct
     jpeg_error_mgr errors;
     std::jmp_buf failed;
     bool cutShort;
@@ -147,7 +147,7 @@ void BeginJpeg (JpegReader& reader)
     jpeg_read_header (&reader.info, TRUE);
 }
 
-/** Of four inks without a profile. Programs that leave Adobe's mark write how much paper shows instead. */
+/** CMYK without a profile. Programs that write Adobe's marker store inverted values. */
 juce::Colour ColourOfInks (const JSAMPLE* inks, bool areInverted)
 {
     const auto paper = [=] (int i) { return areInverted ? int{ inks[i] } : 255 - inks[i]; };
@@ -178,7 +178,7 @@ void DecodeJpeg (JpegReader& reader)
 /** As above. */
 bool Succeeds (void (*step) (JpegReader&), JpegReader& reader)
 {
-    if (setjmp (reader.failed) != 0) // NOLINT(cert-err52-cpp): the library's way
+    if (setjmp (reader.failed) != 0) // NOLINT(cert-err52-cpp): required by the library
         return false;
     step (reader);
     return true;

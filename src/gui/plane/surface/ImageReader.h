@@ -4,11 +4,11 @@
 namespace lumo::Plane
 {
 
-/** The picture in a PNG or JPEG file, whole or not at all: a file that is missing, damaged, cut short, of another kind,
-    or that declares more pixels than memory should pay for gives a null image.
+/** Reads a PNG or JPEG file completely or not at all: a null image if it is missing, damaged, truncated, of another
+    kind, or declares an excessive number of pixels.
 
-    It does not go through JUCE's readers: an error in a file makes those jump into a function that has returned, or
-    carry on behind the error. */
+    Does not use JUCE's readers: after an error in a file those jump into a function that has returned, or continue
+    reading. */
 [[nodiscard]] juce::Image ReadImage (const juce::File& file);
 
 }

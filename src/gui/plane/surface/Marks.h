@@ -25,7 +25,7 @@ struct Anchors
     std::vector<Anchor> items;
 };
 
-/** The outline of a room, seen from above. */
+/** Outline of a room from above. */
 struct Shoebox
 {
     qel::Point3Array corners{ qel::Point3Array::defaultRectangle() };
@@ -37,7 +37,7 @@ struct Background
     juce::Colour colour{ 0xFFB5B5B5 };
 };
 
-/** The rectangle that is dragged open to select sources, in pixels. */
+/** The selection rectangle for sources, in pixels. */
 struct Lasso
 {
     juce::Rectangle<float> area;

@@ -14,8 +14,8 @@
 namespace lumo::Plane
 {
 
-/** What belongs to the surface and not to a source, a speaker or an area. The layers read it through a const reference.
-    A flag that has a record of its own lives there; the options hold the others. */
+/** State of the surface rather than of sources, speakers or areas; read-only for the layers. Flags are in their own
+    structs where there is one, otherwise in the options. */
 struct Surface
 {
     bool viewerVisible = true;
@@ -31,7 +31,7 @@ struct Surface
     PlaneOptions options;
     Lasso lasso;
 
-    // How it is painted, up to date whenever it is.
+    // Painting state, updated before every paint.
     PixelGrid pixels;
     std::optional<juce::SharedResourcePointer<IconStore>> icons;
     std::optional<juce::SharedResourcePointer<LineStore>> lines;

@@ -11,7 +11,7 @@ namespace
 
 constexpr float step = 0.01f;
 
-/** By x and y, in the front view too; of equals the last, and the first source if none is visible. */
+/** By x and y, even in the front view; the last of equals, or the first source if none is visible. */
 const Source& FarthestSource (const qel::Vector<Source>& sources)
 {
     const Source* farthest = &sources[0];
@@ -26,7 +26,7 @@ const Source& FarthestSource (const qel::Vector<Source>& sources)
     return *farthest;
 }
 
-/** A view to try zooms on. */
+/** A view for trying zooms. */
 class Trial
 {
 public:
@@ -64,7 +64,7 @@ void Shrink (Trial& trial)
         if (before <= 0.1f)
             return trial.Apply (before - 2 * step);
         trial.Apply (before - step);
-        if (trial.Zoom() >= before) // the least zoom that the margin allows
+        if (trial.Zoom() >= before) // the smallest zoom that the margin allows
             return;
     }
 }

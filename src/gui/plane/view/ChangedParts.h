@@ -6,29 +6,28 @@
 namespace lumo::Plane
 {
 
-/** What has changed in a picture since its last frame: a few parts, or the whole. Before the first frame it is the
-    whole, whatever changes. */
+/** Areas changed since a picture's last frame: a few parts, or everything. Before the first frame it is everything. */
 class ChangedParts
 {
 public:
-    /** More than these are painted as one. With 64 sources a frame of as many moves costs what the whole does. */
+    /** More parts are painted as one. With 64 sources a frame with this many moves costs as much as a full repaint. */
     static constexpr int most = 8;
 
     [[nodiscard]] bool AreTheWhole() const noexcept { return count > most; }
-    /** The first part too many makes them the whole. */
+    /** One part too many turns them into everything. */
     void Add (juce::Rectangle<int> part)
     {
         if (++count <= most)
             parts.add (part);
     }
-    /** As a frame begins: gives what it has to show, nothing for the whole. */
+    /** Call at the start of a frame: returns the areas to paint; empty means everything. */
     [[nodiscard]] juce::RectangleList<int> Take()
     {
         const bool wereTheWhole = std::exchange (count, 0) > most;
         auto taken = std::exchange (parts, {});
         return wereTheWhole ? juce::RectangleList<int>() : std::move (taken);
     }
-    /** When no frame is coming: the next one shows all. */
+    /** Call if no frame follows: the next one paints everything. */
     void Reset()
     {
         count = most + 1;

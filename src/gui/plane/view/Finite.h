@@ -4,7 +4,7 @@
 namespace lumo::Plane
 {
 
-/** What is not a number, or infinite, must never reach an object: it would come back out of every sum. */
+/** NaN and infinity must never reach an object: they would propagate through every later sum. */
 template <typename... Numbers>
 [[nodiscard]] bool AreFinite (Numbers... numbers) noexcept
 {

@@ -28,8 +28,8 @@ juce::AffineTransform PixelGrid::Transform() const noexcept
 
 void PixelGrid::DrawPixels (juce::Graphics& g, const juce::Image& picture, juce::Point<int> topLeftOnScreen) const
 {
-    // The renderer cuts the place to 256ths of a pixel, and blits only up to an eighth of a pixel behind a whole one:
-    // a little ahead, rounding cannot fall short of it.
+    // The renderer truncates positions to 256ths of a pixel, and blits only up to an eighth of a pixel past a whole
+    // one: slightly ahead, rounding cannot fall short of it.
     constexpr float ahead = 1.0f / 16;
     const auto place = (topLeftOnScreen.toFloat() - phase + juce::Point<float> (ahead, ahead)) / scale;
     g.setColour (juce::Colours::black); // opaque

@@ -8,7 +8,7 @@ namespace lumo::Plane
 namespace
 {
 
-// Beyond, the renderer spends more on the clip than it saves.
+// With more, clipping costs the renderer more than it saves.
 constexpr int mostParts = 8;
 
 }
@@ -59,7 +59,7 @@ juce::RectangleList<int> StaticCache::TakeDirtyParts()
     return parts;
 }
 
-/** Hands the renderer no more than what shows: it makes a table of every line of a picture, shown or not. */
+/** Passes only the visible part to the renderer, which builds a table for every line of an image, visible or not. */
 void StaticCache::Blit (juce::Graphics& g) const
 {
     const auto shown = grid.ToScreen (g.getClipBounds()).getIntersection (image.getBounds());

@@ -4,23 +4,23 @@
 namespace lumo::Plane
 {
 
-/** The picture of all that seldom moves, in the screen's own pixels, so that a frame costs one blit instead of a
-    drawing. It is drawn anew where it is dirty, when it is next wanted. */
+/** Caches everything that seldom changes as an image in screen pixels, so that a frame costs one blit. Dirty parts are
+    redrawn on demand. */
 class StaticCache
 {
 public:
     void MarkDirty() noexcept { wholeIsDirty = true; }
-    /** A part, in pixels of the component. */
+    /** Marks a part, in component pixels. */
     void MarkDirty (juce::Rectangle<int> area);
-    /** Whether marking parts makes no difference. */
+    /** Whether marking parts has no further effect. */
     [[nodiscard]] bool IsWhollyDirty() const noexcept { return wholeIsDirty; }
-    /** Drops the picture: the next one has this size, in pixels of the component. */
+    /** Frees the image; the next one has this size, in component pixels. */
     void Resize (int newWidth, int newHeight);
-    /** Drops the picture until it is wanted again. */
+    /** Frees the image until it is needed again. */
     void Release();
 
-    /** Blits the picture where the context wants it, brought up to date by the given function; nothing while the size
-        is empty. Without transparency it is an RGB image, which blits many times faster. */
+    /** Blits the image where the context needs it, after updating it with the given function; does nothing while the
+        size is empty. Without transparency it is an RGB image, which blits many times faster. */
     template <typename Function>
     void Draw (juce::Graphics& g, const PixelGrid& pixels, bool opaque, Function&& draw)
     {
@@ -38,7 +38,7 @@ public:
 
 private:
     void Prepare (const PixelGrid& pixels, bool opaque);
-    /** In pixels of the picture. */
+    /** In image pixels. */
     [[nodiscard]] juce::RectangleList<int> TakeDirtyParts();
     void Blit (juce::Graphics& g) const;
 

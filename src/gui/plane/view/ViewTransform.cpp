@@ -9,10 +9,10 @@ namespace lumo::Plane
 namespace
 {
 
-// A narrow component with a wide margin would turn the scene inside out; it shows a very small scene instead.
+// A narrow component with a wide margin would mirror the scene; this shows a very small scene instead.
 constexpr float leastScale = 0.01f;
 
-// The rasteriser counts in 256ths of a pixel, in 32 bits.
+// The rasteriser uses 32-bit numbers in 256ths of a pixel.
 constexpr float farAway = 4.0e6f;
 
 float WithinReach (float pixels) noexcept { return std::clamp (pixels, -farAway, farAway); }
