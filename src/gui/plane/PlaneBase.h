@@ -121,8 +121,8 @@ protected:
     void MarkStaticLayerDirty() noexcept { staticCache.MarkDirty(); }
     /** Call at the start of a frame. */
     void BeginFrame (const juce::Graphics& g);
-    /** Clamps and stores; false if the zoom was requested unchanged or is locked. True if clamping makes it equal to
-        the present zoom: the caller must then be notified of the result. */
+    /** Clamps and stores; false if the request equals the present zoom or the zoom is locked. True even if clamping
+        restores the present zoom, because the requester must be notified of it. */
     bool StoreZoom (float zoom);
 
     Plane::Surface surface;
