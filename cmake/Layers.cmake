@@ -1,5 +1,5 @@
-# Who may include whom. Headers are found under the real folders src, tests and the project's own, and cmake/layers
-# refuses, before anything compiles, an #include of a layer that the target does not link.
+# Which target may include which. The include roots are the real folders src, tests and the project's own; cmake/layers
+# rejects, before anything compiles, an #include of a layer that the target does not link.
 
 # halcyra_layer(qel BASE src FOLDERS common text ...): headers as "common/...", "text/...".
 function(halcyra_layer target)
@@ -15,7 +15,7 @@ function(halcyra_layer target)
     endif()
 endfunction()
 
-# The targets of a folder and those below it, as objects of JSON.
+# The targets of a folder and its subfolders, as JSON objects.
 function(halcyra_targets_below folder out)
     set(rows)
     get_directory_property(targets DIRECTORY "${folder}" BUILDSYSTEM_TARGETS)
@@ -50,8 +50,7 @@ function(halcyra_targets_below folder out)
     set(${out} "${rows}" PARENT_SCOPE)
 endfunction()
 
-# To be called when all targets are known. What has to hold before a library of ours compiles hangs on qel and max_api,
-# below which there is nothing.
+# Call when all targets are known. Every library depends on qel or max_api, so the check runs before anything compiles.
 function(halcyra_check_layers)
     halcyra_targets_below("${CMAKE_SOURCE_DIR}" rows)
     list(JOIN rows ",\n" rows)

@@ -23,33 +23,33 @@ BASIC = {
         [
             ("The window", [
                 ("send", "open", "opens the window, or brings it to the front; a double click on the box does the same"),
-                ("send", "wclose", "hides it; the object goes on working"),
+                ("send", "wclose", "hides it; the object keeps working"),
                 ("attr", "windowtitle", "one word"),
-                ("attr", "windowtopleft", "top, then left, in pixels: where it opens the first time"),
-                ("attr", "windowmoveable", "0: windowtopleft is refused"),
+                ("attr", "windowtopleft", "top, then left, in pixels: where it first opens"),
+                ("attr", "windowmoveable", "0: windowtopleft is ignored"),
             ]),
             ("Settings", [
                 ("attr", "gain", "level of the late reverberation, dB"),
                 ("from", ["flonum 0.1 30"], "tr0 $1", "decay time in seconds"),
-                ("send", "reverb tr0 1.5", "the same in the words of the reverberator"),
-                ("send", "getgain", "asks for a value: it answers on the right outlet. Every attribute has its get"),
-                ("send", "bang", "sends all positions, filters and reverb settings again, for instance to a reverberator that was just loaded"),
+                ("send", "reverb tr0 1.5", "the same by its name in the reverberator"),
+                ("send", "getgain", "queries a value: the answer is at the right outlet. Every attribute has a get"),
+                ("send", "bang", "sends all positions, filters and reverb settings again, for example to a newly loaded reverberator"),
             ]),
         ],
         [
             ("Sizes", [
-                ("say", "numsources (1 to 64), numspeakers (1 to 64) and numinternals (2 to 16) are fixed when the box is made: type them into the box as @numsources 4. A saved state fits only an object of the same sizes."),
-                ("send", "getnumsources", "how many sources there are"),
+                ("say", "numsources (1 to 64), numspeakers (1 to 64) and numinternals (2 to 16) are fixed when the box is created: type them into the box as @numsources 4. A saved state fits only an object of the same sizes."),
+                ("send", "getnumsources", "the number of sources"),
             ]),
-            ("What comes out", [
-                ("say", "Left: every change that was heard or made in the window, as the messages that halcyra~ takes, such as reverb tr0 2. or source 1 aed 30. 0. 1. A reverb value that is already set is not sent again; a position always is, so do not connect two objects in a ring."),
+            ("Outlets", [
+                ("say", "Left: every change by message or in the window, in the form that halcyra~ accepts, such as reverb tr0 2. or source 1 aed 30. 0. 1. Unchanged reverb values are not sent again; positions always are, so do not connect two objects in a loop."),
                 ("say", "Right: answers to get messages, to dump and to dumpdict."),
             ]),
             ("Good to know", [
-                ("say", "Sliders and messages move in the same steps; filters take the exact value. What is out of range is clipped. A word where a number belongs counts as 0; other nonsense is refused and changes nothing."),
+                ("say", "Sliders and messages move in the same steps; filters are exact. Out-of-range values are clipped. A word in place of a number counts as 0; other invalid input is rejected and changes nothing."),
                 ("send", "version", "posts the version in the Max window"),
                 ("attr", "useopengl", "draws the window with OpenGL"),
-                ("attr", "showfps", "shows how fast it draws"),
+                ("attr", "showfps", "shows its frame rate"),
             ]),
         ],
     ],
@@ -58,7 +58,7 @@ BASIC = {
 TIME = {
     "tab": "time structure",
     "title": "Time structure",
-    "digest": "Early reflections, then a cluster of denser ones, then the late reverberation: three stages on one time axis, in milliseconds. A time that is set stops at its neighbours: a start at the start of the stage before and at its own end, an end at its own start and at the end of the other stage.",
+    "digest": "Early reflections, then a cluster of denser ones, then the late reverberation: three stages on one time axis, in milliseconds. A time is limited by its neighbours: a start by the start of the stage before and its own end, an end by its own start and the end of the other stage.",
     "object": MIN_SIZES,
     "columns": [
         [
@@ -71,7 +71,7 @@ TIME = {
                 ("attr", "early_distr", "0.5 is even"),
                 ("attr", "early_shape", "below 0.5 they fall, above they rise"),
                 ("attr", "early_width", "degrees"),
-                ("send", "early start 18.5", "the same by the reverberator's words: start, end, distr, shape, width"),
+                ("send", "early start 18.5", "the same by the reverberator's names: start, end, distr, shape, width"),
             ]),
             ("Cluster", [
                 ("attr", "cluster_start", "ms, up to 300"),
@@ -90,13 +90,13 @@ TIME = {
                 ("attr", "trh", "high frequencies: times tr0"),
                 ("attr", "fl", "low to middle, Hz"),
                 ("attr", "fh", "middle to high, Hz"),
-                ("attr", "roomairabsorption", "highs fade in the air"),
+                ("attr", "roomairabsorption", "air absorbs highs"),
                 ("attr", "roomairrolloff", "from this frequency, Hz"),
                 ("attr", "infinite", "freezes the tail"),
-                ("send", "reverb air 1", "the reverberator's words: start, gain, tr0, trl, trm, trh, fl, fh, air, airfreq, modaldensity, infinite"),
+                ("send", "reverb air 1", "the reverberator's names: start, gain, tr0, trl, trm, trh, fl, fh, air, airfreq, modaldensity, infinite"),
             ]),
-            ("Back to the start", [
-                ("send", "reset", "the time structure and the four filters return to their defaults"),
+            ("Reset", [
+                ("send", "reset", "resets the time structure and the four filters"),
             ]),
         ],
     ],
@@ -105,7 +105,7 @@ TIME = {
 FILTERS = {
     "tab": "filters",
     "title": "Filters",
-    "digest": "Four filters of three bands: direct sound, room, early reflections, cluster. Each has an overall gain, a low, a middle and a high gain in dB, and two crossover frequencies in Hz.",
+    "digest": "Four three-band filters: direct sound, room, early reflections, cluster. Each has an overall gain, a low, a middle and a high gain in dB, and two crossover frequencies in Hz.",
     "object": MIN_SIZES,
     "columns": [
         [
@@ -113,22 +113,22 @@ FILTERS = {
                 ("say", "In this order: overall gain (-200 to 30 dB), low, middle, high gain (-30 to 30 dB), low/middle and middle/high frequency (20 to 20000 Hz)."),
                 ("send", "direct 0 0 0 -6 250 4000", ""),
                 ("send", "room 0 -3 0 -9 300 3500", ""),
-                ("send", "early params 0 0 -2 -6 250 4000", "params or hlshelf may stand in front"),
+                ("send", "early params 0 0 -2 -6 250 4000", "optionally after params or hlshelf"),
                 ("send", "cluster hlshelf 0 0 0 -12 200 5000", ""),
             ]),
         ],
         [
             ("Some of them", [
-                ("send", "direct gains -3 0 0 -6", "the four gains; the frequencies stay"),
-                ("send", "room freqs 177 5657", "the two frequencies; the gains stay"),
+                ("send", "direct gains -3 0 0 -6", "the four gains; keeps the frequencies"),
+                ("send", "room freqs 177 5657", "the two frequencies; keeps the gains"),
                 ("send", "early Gh -9", "one: G0, Gl, Gm, Gh in dB, fl, fh in Hz"),
-                ("send", "cluster gh 0.5", "g0, gl, gm, gh are linear gains of power: 0.5 is -3 dB"),
+                ("send", "cluster gh 0.5", "g0, gl, gm, gh are linear power gains: 0.5 is -3 dB"),
                 ("from", ["flonum -30 30"], "room Gl $1", "from a number"),
-                ("send", "getroom", "asks for the six values"),
+                ("send", "getroom", "queries the six values"),
             ]),
             ("In the window", [
                 ("say", "Drag a dot of a curve up or down for a gain, one of the two vertical lines sideways for a frequency; the wheel moves the last one."),
-                ("say", "The slider of the overall gain goes from -60 to 10 dB; a message reaches the whole range."),
+                ("say", "The overall gain's slider ranges from -60 to 10 dB; messages cover the full range."),
             ]),
         ],
     ],
@@ -137,31 +137,31 @@ FILTERS = {
 SCENE = {
     "tab": "scene",
     "title": "Scene",
-    "digest": "Sources, in metres or in degrees and metres: x to the right, y to the front, z up; azimuth 0 is in front and grows clockwise. Indices start at 1.",
+    "digest": "Sources, in metres or in degrees and metres: x to the right, y to the front, z up; azimuth 0 is in front and increases clockwise. Indices start at 1.",
     "object": "halcyra~.control @numsources 2 @numspeakers 4 @numareas 1 @numanchors 1",
     "columns": [
         [
             ("Sources", [
-                ("send", "sourcespositions -1 1 0 1 1 0", "x y z of all sources in one list. For many sources send this one list and not a message for each: it is far lighter"),
+                ("send", "sourcespositions -1 1 0 1 1 0", "x y z of all sources in one list. For many sources this is far cheaper than a message each"),
                 ("send", "source 1 aed 30 0 1", "one source: azimuth, elevation, distance"),
                 ("send", "source 2 xyz 0.5 1 0", "also xy, x, y, z, ad, ae, ade, az, azim, elev, azimelev, dist, ambrel3, wfs"),
                 ("from", ["number -180 180"], "source 1 azim $1", "keeps elevation and distance"),
                 ("send", "source 1 azim++ 10", "a step; also elev++, dist++, dist*=, x++, y++, z++"),
                 ("send", "source 1 name voice", "also yaw, aperture, radius, visible, showaperture, showcoordinates, orientationmode, color (four numbers), lookat (x y z)"),
                 ("send", "source 2 color 0.2 0.6 1 1", "red, green, blue, alpha from 0 to 1"),
-                ("attr", "format", "how positions leave"),
+                ("attr", "format", "output format"),
             ]),
         ],
         [
             ("From a fast process", [
-                ("attr", "defer", "1: scene messages wait for the main thread. Use it when they come from a metro in overdrive"),
+                ("attr", "defer", "1: queues scene messages for the main thread. Use it for a metro in overdrive"),
             ]),
             ("Everything", [
                 ("send", "rotate 0 15 0 0", "the whole scene (1, 2, ... for one source): yaw, pitch, roll in degrees"),
                 ("send", "adjustzoom", "fits all into the view"),
             ]),
             ("Try it", [
-                ("say", "Open the window, turn to its third page and drag a source: what leaves is shown above."),
+                ("say", "Open the window, go to its third page and drag a source: the output is shown above."),
                 ("send", "open", ""),
             ]),
         ],
@@ -171,7 +171,7 @@ SCENE = {
 SPEAKERS = {
     "tab": "speakers",
     "title": "Speakers, listener, areas, anchors",
-    "digest": "What stands around the sources. Positions are written as those of sources.",
+    "digest": "Objects around the sources. Positions use the formats of sources.",
     "object": "halcyra~.control @numsources 2 @numspeakers 4 @numareas 1 @numanchors 1",
     "columns": [
         [
@@ -187,11 +187,11 @@ SPEAKERS = {
             ("Listener, areas, anchors", [
                 ("send", "listener xyz 0 0 0", ""),
                 ("send", "listener yaw 20", "also pitch, roll; rpy takes roll, pitch, yaw"),
-                ("attr", "numareas", "how many areas there are"),
+                ("attr", "numareas", "number of areas"),
                 ("attr", "showareas", ""),
                 ("send", "area 1 xy -1 1 1 1 1 2 -1 2", "the corners; areas is the same"),
                 ("send", "areas 1 name stage", "also color, visible, clear"),
-                ("attr", "numanchors", "how many anchors there are"),
+                ("attr", "numanchors", "number of anchors"),
                 ("attr", "showanchors", ""),
                 ("send", "anchor 1 xyz 0 2 0", "a fixed mark"),
             ]),
@@ -202,16 +202,16 @@ SPEAKERS = {
 VIEW = {
     "tab": "view",
     "title": "View",
-    "digest": "What the scene tab shows and what the mouse may do there. All are attributes: use the controls, messages, the inspector or the box.",
+    "digest": "What the scene tab shows and what the mouse may edit. All are attributes: use the controls, messages, the inspector or the box.",
     "object": "halcyra~.control @numsources 2 @numspeakers 4",
-    "remark": "open the window and turn to its third tab",
+    "remark": "open the window and go to its third tab",
     "columns": [
         [
             ("View", [
                 ("attr", "viewpoint", "top or front"),
                 ("attr", "zoom", "from 0.1"),
                 ("attr", "autozoom", ""),
-                ("attr", "zoomlock", "the zoom stays"),
+                ("attr", "zoomlock", "locks the zoom"),
                 ("attr", "rightclicklock", "no menu"),
                 ("attr", "showviewer", "0 saves drawing time"),
                 ("attr", "showlegend", ""),
@@ -223,7 +223,7 @@ VIEW = {
                 ("attr", "showradius", ""),
                 ("attr", "showspeakers", ""),
                 ("attr", "showspeakerslabel", ""),
-                ("attr", "showspeakershull", "needs some processor time"),
+                ("attr", "showspeakershull", "uses some CPU time"),
                 ("attr", "showlistener", ""),
                 ("attr", "showheadphones", ""),
             ]),
@@ -234,7 +234,7 @@ VIEW = {
                 ("attr", "speakerseditable", ""),
                 ("attr", "listenereditable", ""),
                 ("attr", "circularconstraint", "only around the centre"),
-                ("attr", "radiusconstraint", "a drag keeps the distance"),
+                ("attr", "radiusconstraint", "drags keep the distance"),
             ]),
             ("Grid and background", [
                 ("attr", "gridmode", "none, circular, square"),
@@ -248,7 +248,7 @@ VIEW = {
             ]),
             ("Levels", [
                 ("attr", "showsourceslevels", ""),
-                ("send", "sourceslevels -12 -20", "dB for each source, from a meter of your own"),
+                ("send", "sourceslevels -12 -20", "dB per source, from your own meter"),
             ]),
         ],
     ],
@@ -257,25 +257,25 @@ VIEW = {
 DETAILS = {
     "tab": "details",
     "title": "Details of the view",
-    "digest": "The rest of what the scene tab can show: sizes, colours, and aids that are off at first. radius, orientationmode, sourcecolor, and likewise name, yaw and aperture, take one list with a value for each source; a shorter list is ignored.",
+    "digest": "More that the scene tab can show: sizes, colours, and aids that are off by default. radius, orientationmode, sourcecolor, name, yaw and aperture take one list with a value per source; shorter lists are ignored.",
     "object": "halcyra~.control @numsources 2 @numspeakers 4",
-    "remark": "open the window and turn to its third tab",
+    "remark": "open the window and go to its third tab",
     "columns": [
         [
             ("Sources", [
                 ("attr", "radius", "metres"),
                 ("attr", "orientationmode", "yawconstraint, translation, follow, listenerconstraint"),
-                ("attr", "sourcecolor", "four numbers for each"),
+                ("attr", "sourcecolor", "four numbers each"),
                 ("attr", "aperturecolor", ""),
-                ("attr", "sourceproportion", "how large they are drawn"),
+                ("attr", "sourceproportion", "size of their icons"),
             ]),
             ("Speakers", [
                 ("attr", "showspeakersradius", "their distance"),
                 ("attr", "showspeakersprojection", "on the sphere"),
-                ("attr", "showspeakerstriangulation", "needs some processor time"),
+                ("attr", "showspeakerstriangulation", "uses some CPU time"),
                 ("attr", "showspeakerslevels", ""),
-                ("attr", "speakerslevels", "dB, from a meter of your own"),
-                ("attr", "speakersproportion", "how large they are drawn"),
+                ("attr", "speakerslevels", "dB, from your own meter"),
+                ("attr", "speakersproportion", "size of their icons"),
             ]),
         ],
         [
@@ -284,7 +284,7 @@ DETAILS = {
                 ("attr", "listeneryaw", "degrees"),
                 ("attr", "listenerpitch", "degrees"),
                 ("attr", "listenerroll", "degrees"),
-                ("attr", "listenerproportion", "how large it is drawn"),
+                ("attr", "listenerproportion", "size of its icon"),
             ]),
             ("Background", [
                 ("attr", "showbackgroundimage", ""),
@@ -302,21 +302,21 @@ DETAILS = {
 
 MARKS = {
     "tab": "room",
-    "title": "Room, marks and the place of the view",
-    "digest": "Walls, anchors and areas in the scene tab, and where its picture stands.",
+    "title": "Room, marks and position of the view",
+    "digest": "Walls, anchors and areas in the scene tab, and the position of its view.",
     "object": "halcyra~.control @numsources 2 @numspeakers 4",
-    "remark": "open the window and turn to its third tab",
+    "remark": "open the window and go to its third tab",
     "columns": [
         [
             ("Room and marks", [
                 ("attr", "showshoebox", "a box of six walls"),
                 ("attr", "shoeboxcorners", "two opposite corners: x y z, x y z"),
                 ("attr", "showanchorslabel", ""),
-                ("attr", "areasmonitoring", "keeps watch on which areas hold what; nothing of it leaves this object"),
+                ("attr", "areasmonitoring", "tracks which areas contain what; this object sends nothing about it"),
             ]),
         ],
         [
-            ("Place of the view", [
+            ("Position of the view", [
                 ("attr", "xoffset", "pixels"),
                 ("attr", "yoffset", "pixels"),
                 ("attr", "zoffset", "pixels"),
@@ -330,26 +330,26 @@ MARKS = {
 KEYS = {
     "tab": "keys and mouse",
     "title": "Keys and mouse",
-    "digest": "In the scene tab of the window. Click into the scene first, so that it hears the keys.",
+    "digest": "In the scene tab of the window. Click into the scene first, so that it gets the keys.",
     "object": MIN_SIZES,
-    "remark": "try it: open the window and turn to its third tab",
+    "remark": "try it: open the window and go to its third tab",
     "columns": [
         [
             ("Mouse", [
-                ("say", "Click: selects a source. Shift and click adds to the selection or takes from it. A drag moves all selected sources."),
+                ("say", "Click: selects a source. Shift-click adds to the selection or removes from it. A drag moves all selected sources."),
                 ("say", "Drag on empty space: a rectangle selects the sources in it."),
-                ("say", "Right click: a menu for what may be moved, what is shown, and the view."),
-                ("say", "In the top view a drag changes x and y, in the front view x and z; the third coordinate stays."),
-                ("say", "Double click on a slider of the first tab: its default."),
+                ("say", "Right click: a menu for editing, visibility and the view."),
+                ("say", "In the top view a drag changes x and y, in the front view x and z; the third coordinate is kept."),
+                ("say", "Double click on a slider of the first tab: resets it."),
             ]),
             ("Wheel", [
                 ("say", "Zooms."),
-                ("say", "With a source selected: shift raises or lowers it; with the apertures shown, ctrl changes the aperture and alt turns the source."),
-                ("say", "With the listener selected and editable: alt turns it."),
+                ("say", "With a source selected: shift raises or lowers it; with the apertures shown, ctrl changes the aperture and alt rotates the source."),
+                ("say", "With the listener selected and editable: alt rotates it."),
             ]),
             ("Keys of the other tabs", [
-                ("say", "tab, shift + tab: the next control, the one before"),
-                ("say", "arrows: change a slider by a step, with shift by ten"),
+                ("say", "tab, shift + tab: next control, previous control"),
+                ("say", "arrows: move a slider by a step, with shift by ten"),
                 ("say", "return, space: press a button or a switch"),
             ]),
         ],
@@ -357,20 +357,20 @@ KEYS = {
             ("Keys", [
                 ("say", "tab: selects the next source; shift + tab and ctrl + tab leave the scene"),
                 ("say", "alt + arrows: move the selection by 0.1 m, with shift by 1 m; alt + page up and page down, along the hidden axis"),
-                ("say", "alt + home, alt + end: select the next speaker, the listener, where they are editable"),
+                ("say", "alt + home, alt + end: select the next speaker, the listener, if editable"),
                 ("say", "ctrl + a: selects all sources"),
-                ("say", "v: top view or front view"),
-                ("say", "g: next kind of grid"),
+                ("say", "v: switches top and front view"),
+                ("say", "g: next grid mode"),
                 ("say", "a, s, l: shows or hides apertures, speakers, the listener"),
                 ("say", "c: moves only around the centre, or freely"),
-                ("say", "+ and -: zoom;  = goes back to 1"),
-                ("say", "arrows: shift the view"),
-                ("say", "ctrl + w: closes the window, from the first two tabs"),
-                ("say", "ctrl + z: undoes the last gesture of the hand, on every page; ctrl + shift + z or ctrl + y does it again"),
+                ("say", "+ and -: zoom;  = resets it to 1"),
+                ("say", "arrows: scroll the view"),
+                ("say", "ctrl + w: closes the window, on the first two tabs"),
+                ("say", "ctrl + z: undoes the last edit, on every page; ctrl + shift + z or ctrl + y redoes it"),
             ]),
             ("Start", [
                 ("send", "open", ""),
-                ("send", "sourceseditable 1", "if the mouse does not move sources, somebody locked them"),
+                ("send", "sourceseditable 1", "if the mouse does not move sources, they are locked"),
             ]),
         ],
     ],
@@ -379,23 +379,23 @@ KEYS = {
 SNAPSHOTS = {
     "tab": "snapshots",
     "title": "Snapshots",
-    "digest": "A snapshot keeps the positions of all sources under a name. Snapshots live in the object: neither pattr nor preset nor the patcher saves them, so write them to a file.",
+    "digest": "A snapshot stores the positions of all sources under a name, in the object only: neither pattr nor preset nor the patcher saves them, so write them to a file.",
     "object": MIN_SIZES,
     "columns": [
         [
-            ("Keep", [
+            ("Store", [
                 ("send", "source 1 aed -60 0 1, source 2 aed 60 0 1, store wide", "1: a scene, stored as wide"),
                 ("send", "source 1 aed -10 0 2, source 2 aed 10 0 2, store far", "2: another, stored as far"),
             ]),
-            ("Come back", [
+            ("Recall", [
                 ("send", "recall wide", "3: back to the first"),
                 ("from", ["flonum 0 1"], "xsnapshot wide far $1", "4: between the two, from 0 to 1"),
             ]),
         ],
         [
             ("Files", [
-                ("send", "writesnapshot", "all snapshots into an XML file; asks where. A file name may follow"),
-                ("send", "clearsnapshot far", "forgets one; without a name, all"),
+                ("send", "writesnapshot", "all snapshots to an XML file; asks where. A file name may follow"),
+                ("send", "clearsnapshot far", "deletes one; without a name, all"),
                 ("send", "clearsnapshot", ""),
                 ("send", "readsnapshot", "reads such a file; asks which. A file name may follow"),
             ]),
@@ -406,33 +406,33 @@ SNAPSHOTS = {
 STATE = {
     "tab": "state",
     "title": "State",
-    "digest": "How the settings are kept: with the patcher, in presets, in dictionaries, in a file.",
+    "digest": "How the settings are saved: with the patcher, in presets, in dictionaries, in a file.",
     "object": "halcyra~.control @numsources 2 @numspeakers 4",
     "varname": "verb",
     "answers": ["route dictionary", "prepend dictionary", "dict", "dict.view"],
     "columns": [
         [
             ("pattr and preset", [
-                ("say", "Saved: all attributes, that is every reverb setting, the filters, the positions, the view and the window. Not saved: snapshots, the corners of areas, the places of anchors, names and colours of speakers, what is shown or hidden one by one, the room size slider, the selection. Positions, names, colours and levels behind an @ in the box are overwritten when it is made: set them by pattr, a preset or a message."),
-                ("say", "A state fits only an object with the same sizes (numsources, numspeakers, numinternals); another one is refused as a whole, with a message."),
+                ("say", "Saved: all attributes: reverb settings, filters, positions, view and window. Not saved: snapshots, corners of areas, positions of anchors, names and colours of speakers, visibility of single objects, the room size slider, the selection. A new object overwrites positions, names, colours and levels after an @ in the box: set them by pattr, a preset or a message."),
+                ("say", "A state fits only an object with the same sizes (numsources, numspeakers, numinternals); others are rejected as a whole, with a message."),
                 ("to", "states", "store 1", ""),
                 ("to", "states", "recall 1", ""),
                 ("object", "states", "pattrstorage verb-states", "", {"varname": "verb-states"}),
-                ("object", "auto", "autopattr", "takes every box that has a scripting name; this object's is verb", {"varname": "auto"}),
-                ("object", "presets", "preset", "shift and click stores, click recalls"),
+                ("object", "auto", "autopattr", "saves every box with a scripting name; this object's is verb", {"varname": "auto"}),
+                ("object", "presets", "preset", "shift-click stores, click recalls"),
             ]),
         ],
         [
             ("Dictionaries and lists", [
                 ("send", "dumpdict", "all attributes as a dictionary, on the right outlet"),
-                ("send", "dumpdict gain tr0 room", "only these. Copy it at once, as the dict below does: it is empty afterwards"),
-                ("to", "settings", "set gain -6., set tr0 3.2", "puts something into the dict below"),
+                ("send", "dumpdict gain tr0 room", "only these. Copy it at once, as the dict below does: it is cleared afterwards"),
+                ("to", "settings", "set gain -6., set tr0 3.2", "sets entries of the dict below"),
                 ("object", "settings", "dict verb-settings", ""),
-                ("send", "dictionary verb-settings", "sets what that dict holds"),
+                ("send", "dictionary verb-settings", "sets what that dict contains"),
                 ("send", "dump gain", "a list; without a name, all in one list"),
             ]),
             ("Files", [
-                ("send", "exportdict", "all attributes into a JSON file; asks where. A file name may follow"),
+                ("send", "exportdict", "all attributes to a JSON file; asks where. A file name may follow"),
                 ("send", "postattributes gain", "posts it in the Max window; without a name, all"),
             ]),
         ],
@@ -447,15 +447,15 @@ NOTES = {
     "columns": [
         [
             ("In Max", [
-                ("say", "pattrstorage and autopattr: many states, and ways between them."),
+                ("say", "pattrstorage and autopattr: many states, and interpolation."),
                 ("say", "preset: a few states, by a click."),
-                ("say", "dict: settings by name, from a file or from other objects."),
-                ("say", "route: takes what leaves the left outlet apart."),
+                ("say", "dict: settings by name, from a file or other objects."),
+                ("say", "route: separates the messages of the left outlet."),
             ]),
         ],
         [
             ("In this package", [
-                ("say", "Extras > Halcyra Overview leads to the examples."),
+                ("say", "Extras > Halcyra Overview has the examples."),
                 ("say", "halcyra~ is the reverberator itself, a separate object that is not part of this package."),
             ]),
         ],
@@ -466,7 +466,7 @@ HELP = [BASIC, TIME, FILTERS, SCENE, SPEAKERS, VIEW, DETAILS, MARKS, KEYS, SNAPS
 
 FIRST_STEPS = {
     "title": "First steps",
-    "digest": "One object, a few settings, and a chain of two: what the first one sends, the second understands.",
+    "digest": "One object, a few settings, and a chain of two: the second accepts what the first one sends.",
     "object": "halcyra~.control @numsources 2 @numspeakers 2",
     "remark": "its left outlet goes to halcyra~",
     "columns": [
@@ -478,7 +478,7 @@ FIRST_STEPS = {
                 ("send", "room gains 0 0 0 -9", "darker"),
                 ("send", "reset", "back to the defaults"),
             ]),
-            ("A second object hears the first", [
+            ("A second object follows the first", [
                 ("object", "second", "halcyra~.control @numsources 2 @numspeakers 2 @windowtitle Second @windowtopleft 90 90", ""),
                 ("to", "second", "open", "its window follows the first"),
             ]),
@@ -489,7 +489,7 @@ FIRST_STEPS = {
 
 MOVING = {
     "title": "A moving source",
-    "digest": "Steps on a clock: a metro turns one source, a number moves the other.",
+    "digest": "Steps on a clock: a metro rotates one source, a number moves the other.",
     "object": "halcyra~.control @numsources 2 @numspeakers 4 @defer 1",
     "columns": [
         [
@@ -498,7 +498,7 @@ MOVING = {
                 ("from", ["toggle", "metro 50"], "source 1 azim++ 2", "40 degrees a second"),
                 ("from", ["flonum 0.2 5"], "source 2 dist $1", "metres"),
                 ("send", "sourcespositions -1 1 0 1 1 0", "all sources in one list"),
-                ("attr", "format", "how positions leave"),
+                ("attr", "format", "output format"),
             ]),
         ],
     ],
@@ -506,7 +506,7 @@ MOVING = {
 
 CROSSFADE = {
     "title": "From scene to scene",
-    "digest": "Two snapshots and a way between them, in steps of a line or by hand.",
+    "digest": "Two snapshots and interpolation between them, by a line or by hand.",
     "object": "halcyra~.control @numsources 3 @numspeakers 4",
     "columns": [
         [
@@ -515,7 +515,7 @@ CROSSFADE = {
                 ("send", "sourcespositions -0.2 1 0 0 1 0 0.2 1 0, store together", ""),
             ]),
             ("Then go", [
-                ("from", ["line 0. 50", "flonum 0 1"], "xsnapshot apart together $1", "0 is apart, 1 is together; line makes a point every 50 ms"),
+                ("from", ["line 0. 50", "flonum 0 1"], "xsnapshot apart together $1", "0 is apart, 1 is together; line outputs every 50 ms"),
                 ("to", "line 0. 50", "0., 1. 4000", "there in four seconds"),
                 ("to", "line 0. 50", "1., 0. 4000", "and back"),
             ]),
@@ -534,7 +534,7 @@ TUTORIAL = {
                 ("send", "open", "three pages: time structure, filters, scene"),
             ]),
             ("2  Choose a room", [
-                ("send", "roomsize 2000.", "cubic metres, with a point: times and density follow"),
+                ("send", "roomsize 2000.", "cubic metres, with a point: sets times and density"),
                 ("from", ["flonum 0.1 30"], "tr0 $1", "drag the number: decay time in seconds"),
                 ("send", "gain -3", "level of the late reverberation, dB"),
             ]),
@@ -548,17 +548,17 @@ TUTORIAL = {
                 ("send", "source 1 aed -60 0 2, source 1 name voice", "azimuth, elevation, distance; a name"),
                 ("send", "source 2 aed 60 0 2, source 2 name guitar", ""),
                 ("send", "source 3 xyz 0 -1 0, source 3 name strings", "or in metres"),
-                ("send", "store wide", "keeps the positions as wide"),
+                ("send", "store wide", "stores the positions as wide"),
             ]),
             ("5  Another scene", [
                 ("send", "sourcespositions -0.3 1 0 0.3 1 0 0 2 0", "all sources in one list"),
-                ("send", "store close", "keeps them as close"),
+                ("send", "store close", "stores them as close"),
             ]),
             ("6  Let it move", [
                 ("from", ["line 0. 50", "flonum 0 1"], "xsnapshot wide close $1", "0 is wide, 1 is close"),
                 ("to", "line 0. 50", "0., 1. 4000", "there in four seconds"),
                 ("to", "line 0. 50", "1., 0. 4000", "and back"),
-                ("send", "writesnapshot", "snapshots live in the object: save them to a file"),
+                ("send", "writesnapshot", "only the object has the snapshots: save them"),
             ]),
         ],
     ],
@@ -566,7 +566,7 @@ TUTORIAL = {
 
 LAYOUTS = {
     "title": "Speaker layouts",
-    "digest": "Azimuth and distance of every speaker in one message; as many as the box has. Azimuth 0 is in front and grows clockwise, so left is negative.",
+    "digest": "Azimuth and distance of every speaker in one message; as many as the box has. Azimuth 0 is in front and increases clockwise, so left is negative.",
     "columns": [
         [
             ("Two to five", [
@@ -604,21 +604,21 @@ LAYOUTS = {
 
 OSC = {
     "title": "OSC to and from another program",
-    "digest": "Another program sends /halcyra with the words of a message as its arguments, and gets every change in the same form.",
+    "digest": "Another program sends /halcyra with the words of a message as its arguments, and receives every change in the same form.",
     "object": "halcyra~.control @numsources 2 @numspeakers 2",
     "varname": "verb",
     "columns": [
         [
-            ("In: for instance /halcyra source 1 aed 30. 0. 1.", [
+            ("In: for example /halcyra source 1 aed 30. 0. 1.", [
                 ("object", "in", "udpreceive 7400", "the port to send to"),
-                ("object", "ours", "route /halcyra", "takes the address off"),
+                ("object", "ours", "route /halcyra", "removes the address"),
             ]),
             ("Out: every change", [
-                ("object", "address", "prepend /halcyra", "puts it back"),
+                ("object", "address", "prepend /halcyra", "adds it again"),
                 ("object", "out", "udpsend 127.0.0.1 7401", "the other program's machine and port"),
             ]),
             ("Try it", [
-                ("send", "source 1 aed 45 0 1", "leaves by OSC as well"),
+                ("send", "source 1 aed 45 0 1", "also sent by OSC"),
             ]),
         ],
     ],
@@ -627,7 +627,7 @@ OSC = {
 
 SILENT = {
     "title": "Silent sources disappear",
-    "digest": "A level in dB hides its source below a threshold and shows it above. Put a meter of your own in place of each number.",
+    "digest": "A level in dB hides its source below a threshold and shows it above. Replace each number by your own meter.",
     "object": "halcyra~.control @numsources 2 @numspeakers 2 @showsourceslevels 1",
     "columns": [
         [
@@ -638,7 +638,7 @@ SILENT = {
                 ("from", ["number -60 6", "> -50", "change 0"], "source 2 visible $1", ""),
             ]),
             ("Levels at the sources", [
-                ("send", "sourceslevels -12 -40", "dB for each source, drawn while showsourceslevels is 1"),
+                ("send", "sourceslevels -12 -40", "dB per source, drawn while showsourceslevels is 1"),
             ]),
         ],
     ],
@@ -646,7 +646,7 @@ SILENT = {
 
 SURFACES = {
     "title": "Two surfaces for one reverberator",
-    "digest": "Positions always come out again, so two objects in a ring would never rest. Only one of two gates is open: what the leading surface says goes to the other one, and to halcyra~, which belongs below both gates.",
+    "digest": "Positions are always sent again, so two objects in a loop would never stop. Only one of two gates is open: the leading surface's output goes to the other one, and to halcyra~, which belongs below both gates.",
     "columns": [
         [
             ("Which one leads", [
@@ -668,8 +668,8 @@ SURFACES = {
 }
 
 COLOURS = {
-    "title": "Colours that everybody can tell apart",
-    "digest": "Eight colours chosen so that colour-blind users can tell them apart, in light and shade as well; the first ones go to the first sources.",
+    "title": "Colours for everyone",
+    "digest": "Eight colours that colour-blind users can distinguish, also by brightness; the first ones are for the first sources.",
     "object": "halcyra~.control @numsources 8 @numspeakers 2",
     "columns": [
         [
@@ -689,7 +689,7 @@ COLOURS = {
 
 WRAP = {
     "title": "Angles that wrap",
-    "digest": "From azimuth 170 to -170 a line of numbers runs through the front, 340 degrees the wrong way. Between two snapshots a source takes the straight way in x y z, through the back.",
+    "digest": "From azimuth 170 to -170 a line of numbers passes through the front, 340 degrees the wrong way. Between two snapshots a source moves straight in x y z, through the back.",
     "object": "halcyra~.control @numsources 1 @numspeakers 2",
     "columns": [
         [
@@ -742,18 +742,18 @@ LOOKUP = {
 
 OVERVIEW = {
     "title": "Halcyra",
-    "digest": "halcyra~.control sets up a room reverberator: in its window, and by messages. It makes no sound: halcyra~, the reverberator, is a separate object and not part of this package. Without it everything here works, and is silent.",
+    "digest": "halcyra~.control controls a room reverberator, in its window and by messages. It makes no sound: halcyra~, the reverberator, is a separate object and not part of this package. Without it everything here works silently.",
     "columns": [
         [
             ("Start here", [
                 ("to", "loader", "load halcyra-tutorial.maxpat", "six steps to a moving scene"),
-                ("to", "loader", "load halcyra~.control.maxhelp", "the help, one topic a tab"),
+                ("to", "loader", "load halcyra~.control.maxhelp", "the help, one topic per tab"),
                 ("object", "loader", "pcontrol", ""),
             ]),
             ("Examples", [
                 ("to", "loader", "load halcyra-first-steps.maxpat", "two objects in a chain"),
                 ("to", "loader", "load halcyra-moving-source.maxpat", "positions on a clock"),
-                ("to", "loader", "load halcyra-scene-to-scene.maxpat", "snapshots and the way between them"),
+                ("to", "loader", "load halcyra-scene-to-scene.maxpat", "interpolation between snapshots"),
                 ("to", "loader", "load halcyra-speaker-layouts.maxpat", "stereo to eight, rings, JSON"),
                 ("to", "loader", "load halcyra-osc.maxpat", "to and from another program"),
                 ("to", "loader", "load halcyra-silent-sources.maxpat", "hidden by their levels"),

@@ -13,12 +13,12 @@ WORDS = {
     "a double click on the box does the same": "a click on the box, or Properties of its menu, does the same",
     "posts the version in the Max window": "posts the version in the Pd window",
     ". Takes a float, so write 2000. with its point": "",
-    "cubic metres, with a point: times": "cubic metres: times",
-    "use the controls, messages, the inspector or the box": "use messages, or write them into the box with an @",
+    "cubic metres, with a point: sets times": "cubic metres: sets times",
+    "use the controls, messages, the inspector or the box": "use messages, or type them into the box with an @",
     "neither pattr nor preset nor the patcher saves them": "the patch does not save them",
-    "1: scene messages wait for the main thread. Use it when they come from a metro in overdrive": "has no effect in Pd, which has one thread",
+    "1: queues scene messages for the main thread. Use it for a metro in overdrive": "has no effect in Pd, which has one thread",
     "its left outlet goes to halcyra~": "its left outlet goes to halcyra~ or halcyra-listen~",
-    "a separate object.": "a separate object, or to halcyra-listen~, an aid for the ear.",
+    "a separate object.": "a separate object, or to halcyra-listen~, a listening aid.",
     "asks where. A file name may follow": "asks where. A file name may follow, relative to the patch",
     "0., 1. 4000": "0, 1 4000",
     "1., 0. 4000": "1, 0 4000",
@@ -44,23 +44,23 @@ def check_all_used():
 STATE = {
     "tab": "state",
     "title": "State",
-    "digest": "The patch keeps the settings: save it, and they come back when it is loaded. Undo, copy and duplicate keep them too.",
+    "digest": "The patch saves the settings and restores them when it is loaded. Undo, copy and duplicate keep them too.",
     "object": "halcyra~.control @numsources 2 @numspeakers 4",
     "columns": [
         [
             ("With the patch", [
-                ("say", "Saved: all attributes that differ from the state in which the box was made, that is reverb settings, filters, positions, the view and the window. When the patch is loaded, the object sends all of them once everything is connected."),
-                ("say", "Not saved: snapshots, the corners of areas, the places of anchors, names and colours of speakers, what is shown or hidden one by one, the room size slider, the selection."),
-                ("say", "What is changed by hand in the window marks the patch as changed; messages do not."),
+                ("say", "Saved: all attributes that differ from those of a new box: reverb settings, filters, positions, view and window. When the patch is loaded, the object sends all of them once everything is connected."),
+                ("say", "Not saved: snapshots, corners of areas, positions of anchors, names and colours of speakers, visibility of single objects, the room size slider, the selection."),
+                ("say", "Edits in the window mark the patch as changed; messages do not."),
             ]),
         ],
         [
-            ("Ask", [
+            ("Query", [
                 ("send", "dump gain", "one attribute with its name; without a name, all in one list"),
                 ("send", "bang", "sends all positions, filters and reverb settings"),
-                ("send", "exportdict", "all attributes into a JSON file; asks where. A file name may follow, relative to the patch"),
+                ("send", "exportdict", "all attributes to a JSON file; asks where. A file name may follow, relative to the patch"),
                 ("send", "postattributes gain", "posts it in the Pd window; without a name, all"),
-                ("send", "reset", "the time structure and the filters return to their defaults"),
+                ("send", "reset", "resets the time structure and the filters"),
             ]),
         ],
     ],
@@ -69,7 +69,7 @@ STATE = {
 NOTES = {
     "tab": "?",
     "title": "See also",
-    "digest": "README.deken.pd tells what is in this package.",
+    "digest": "README.deken.pd lists the package's contents.",
     "columns": [
         [
             ("In this package", [
@@ -80,9 +80,9 @@ NOTES = {
         ],
         [
             ("In Pd", [
-                ("say", "route: takes what leaves the left outlet apart."),
-                ("say", "declare -path: lets a patch find the objects of a folder."),
-                ("say", "Numbers: Pd knows one kind. A whole number reaches the object as a whole number, any other as a float."),
+                ("say", "route: separates the messages of the left outlet."),
+                ("say", "declare -path: lets a patch find objects in a folder."),
+                ("say", "Numbers: Pd has only floats. The object receives whole numbers as integers, all others as floats."),
             ]),
         ],
     ],
@@ -95,20 +95,20 @@ OSC = {
     **help_content.OSC,
     "columns": [
         [
-            ("In: for instance /halcyra source 1 aed 30. 0. 1.", [
+            ("In: for example /halcyra source 1 aed 30. 0. 1.", [
                 ("object", "in", "netreceive -u -b 7400", "the port to send to"),
                 ("object", "parsed", "oscparse", ""),
                 ("object", "trimmed", "list trim", ""),
-                ("object", "ours", "route halcyra", "takes the address off"),
+                ("object", "ours", "route halcyra", "removes the address"),
             ]),
             ("Out: every change", [
                 ("object", "list", "list", ""),
-                ("object", "address", "oscformat halcyra", "puts it back"),
+                ("object", "address", "oscformat halcyra", "adds it again"),
                 ("to", "out", "connect 127.0.0.1 7401", "the other program's machine and port: first click this"),
                 ("object", "out", "netsend -u -b", ""),
             ]),
             ("Try it", [
-                ("send", "source 1 aed 45 0 1", "leaves by OSC as well"),
+                ("send", "source 1 aed 45 0 1", "also sent by OSC"),
             ]),
         ],
     ],
@@ -145,15 +145,15 @@ README = {
         [
             ("Start", [
                 ("send", "open", "opens the window"),
-                ("say", "A right click on the object and Help lead to its help patch, one topic in each of its subpatches."),
-                ("say", "examples: small patches to start from. halcyra-hearing.pd lets you hear the settings by halcyra-listen~, a listening aid that is not the reverberator."),
+                ("say", "Right-click the object and choose Help for its help patch, with one topic per subpatch."),
+                ("say", "examples: small patches to start from. halcyra-hearing.pd plays the settings with halcyra-listen~, a listening aid that is not the reverberator."),
             ]),
         ],
         [
             ("What it needs", [
                 ("say", "Pd 0.53 or later on 64-bit Linux with X11, FreeType, OpenGL and glibc 2.35 or later."),
                 ("say", "halcyra~, the reverberator itself, is a separate object and not part of this package."),
-                ("say", "Under the GNU General Public License, version 3 or later: LICENSE.txt. What is linked in: NOTICES.txt."),
+                ("say", "Under the GNU General Public License, version 3 or later: LICENSE.txt. Linked libraries: NOTICES.txt."),
             ]),
         ],
     ],

@@ -1,4 +1,4 @@
 #include "host/api/MaxApi.h"
 
-/** The entry of an external that brings no class: the floor. */
+/** Entry point of an external without classes: the floor. */
 MAX_EXPORT t_clong ext_main (void*) { return 0; }

@@ -3,9 +3,9 @@
 #include <filesystem>
 #include <windows.h>
 
-/** What an external costs its host when the first box of its class appears. An external stays for the process, so
-    every run measures once: ./load runs it again and again and takes the medians. The arguments name libraries of
-    Windows that the external asks for: a host has these and a window already, so they are told apart. */
+/** What an external costs its host when the first box of its class is created. An external stays loaded for the
+    process, so each run measures once: ./load repeats it and takes the medians. The arguments name Windows libraries
+    that the external needs: a host already has these and a window, so they are measured separately. */
 
 namespace
 {
@@ -17,7 +17,7 @@ double now()
     return 1000.0 * static_cast<double> (count.QuadPart) / static_cast<double> (perSecond.QuadPart);
 }
 
-/** Milliseconds of one step. */
+/** Duration of one step in milliseconds. */
 template <typename Step>
 double timed (Step step)
 {

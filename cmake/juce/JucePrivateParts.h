@@ -1,8 +1,8 @@
 #pragma once
 #include <juce_gui_basics/juce_gui_basics.h>
 
-/** The private parts of JUCE that we use. Before allowing another version, check each part named here, and X11Window
-    and OffscreenDesktop. */
+/** The private parts of JUCE that we use. Before allowing another version, check each part named here,
+    and desktop::X11Window and desktop::OffscreenDesktop. */
 static_assert (JUCE_VERSION == 0x70005, "JUCE's private parts were read in version 7.0.5");
 
 namespace juce

@@ -5,7 +5,7 @@
 namespace desktop
 {
 
-/** A window in memory: no display, but the same component, events and pixels. Call OffscreenDesktop::start() first.
+/** A window in memory: no display, but the same component, events and pixels. Call offscreen::start() first.
     Menus open inside the window. */
 class OffscreenWindow : public JuceWindow
 {

@@ -21,7 +21,8 @@ struct Decoded
     std::size_t length; ///< in bytes
 };
 
-/** The character at a place. A byte that begins no well-formed sequence gives one that no text holds otherwise. */
+/** The character at a position. A byte that begins no well-formed sequence returns a value that no valid text
+    contains. */
 Decoded decodeAt (const std::string& bytes, std::size_t at)
 {
     struct Form
@@ -58,8 +59,8 @@ Characters decode (const std::string& bytes)
     return characters;
 }
 
-/** Walks a pattern once, and keeps the set of all places of the text that can have been reached so far. That is what
-    trying each way in turn would find, without trying any place twice. */
+/** Walks the pattern once with the set of all text positions reachable so far: equivalent to trying every alternative,
+    but never tries a position twice. */
 class Matcher
 {
 public:
@@ -78,7 +79,7 @@ public:
     }
 
 private:
-    /** Takes one construct of the pattern; false if it is malformed. */
+    /** Consumes one construct of the pattern; false if it is malformed. */
     bool step()
     {
         const auto character = pattern[at++];
@@ -99,7 +100,7 @@ private:
         }
     }
 
-    /** From each reached place, one character further if the text's character there is accepted. */
+    /** Advances each reached position by one character if that character is accepted. */
     template <typename Accept>
     void advance (Accept&& accept)
     {
@@ -108,7 +109,7 @@ private:
         reached[0] = false;
     }
 
-    /** All places from the first on; but where the text ends already, only the last character of a pattern holds. */
+    /** Reaches all positions from the first on; at the end of the text only a final star matches. */
     void star()
     {
         const auto first = std::find (reached.begin(), reached.end(), true);
@@ -149,7 +150,7 @@ private:
         });
     }
 
-    /** Behind a "-" in a class: from the last member up to the next character. */
+    /** After a "-" in a class: a range from the last member to the next character. */
     bool range (std::vector<Range>& members)
     {
         if (at == pattern.size() || members.empty())
@@ -181,7 +182,7 @@ private:
         return true;
     }
 
-    /** Adds the places behind the next characters of the pattern, wherever the text holds them. */
+    /** Adds the positions after the pattern's next characters, wherever the text contains them. */
     void alternative (const std::vector<bool>& before, std::size_t length)
     {
         for (std::size_t place = 0; place + length < reached.size(); ++place)
@@ -190,7 +191,7 @@ private:
     }
 
     const Characters pattern, text;
-    std::vector<bool> reached; ///< one for each character of the text, and its end
+    std::vector<bool> reached; ///< one per character of the text, plus its end
     std::size_t at = 0;        ///< in the pattern
 };
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The check of who includes whom, on a tree of three layers."""
+"""Tests the layer check on a tree of three layers."""
 
 import json
 import pathlib
@@ -12,7 +12,7 @@ CHECK = pathlib.Path(__file__).resolve().parents[2] / "cmake" / "layers"
 
 
 class Layers(unittest.TestCase):
-    """`views` links `model`, which links `core` for itself alone; `program` links `views`."""
+    """`views` links `model`, which links `core` privately; `program` links `views`."""
 
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
@@ -49,14 +49,14 @@ class Layers(unittest.TestCase):
         for file, include, refused in [
             ("src/model/A.cpp", "core/A.h", ""),
             ("src/model/A.cpp", "views/A.h", "views, which model does not link"),    # up
-            ("src/core/A.cpp", "../model/A.h", "model, which core does not link"),   # by another road
-            ("src/model/A.h", "core/A.h", "core, which model does not link"),        # linked, but not handed on
-            ("src/views/A.cpp", "core/A.h", "core, which views does not link"),      # two steps down, and not handed on
-            ("src/program/A.cpp", "model/A.h", ""),                                  # two steps down, handed on
+            ("src/core/A.cpp", "../model/A.h", "model, which core does not link"),   # by another path
+            ("src/model/A.h", "core/A.h", "core, which model does not link"),        # linked, but not passed on
+            ("src/views/A.cpp", "core/A.h", "core, which views does not link"),      # two levels down, not passed on
+            ("src/program/A.cpp", "model/A.h", ""),                                  # two levels down, passed on
             ("src/program/A.cpp", "Beside.h", ""),
             ("src/views/A.cpp", "program/Beside.h", "no layer, which views does not link"),
-            ("src/views/A.cpp", "views/parts/A.h", "views/parts, which views does not link"),  # a folder in a folder
-            ("src/views/A.cpp", "juce_core.h", ""),                                  # a library's
+            ("src/views/A.cpp", "views/parts/A.h", "views/parts, which views does not link"),  # a nested folder
+            ("src/views/A.cpp", "juce_core.h", ""),                                  # from a library
         ]:
             with self.subTest(file=file, include=include):
                 self.write(file, include)

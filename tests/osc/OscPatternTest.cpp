@@ -61,7 +61,7 @@ constexpr MatchRow matchRows[] = {
     { "[a!]", "!", true },  // no inversion after a member
     { "[!!]", "!", false }, // only the first inverts
     { "[!!]", "a", true },
-    { "x[]y", "xy", true }, // an empty class matches nothing
+    { "x[]y", "xy", true }, // an empty class matches empty text
     { "x[!]y", "xy", true },
     { "x[!]y", "xay", false },
     { "[abc", "a", false },

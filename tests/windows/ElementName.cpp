@@ -3,17 +3,17 @@
 #include <cstdio>
 #include <oleauto.h>
 
-/** What a screen reader does first, from another process than the object's: it asks the window for its element by UI
-    Automation, and that for its name, which is printed; then it closes the window. Ends with 0 if there was a name. It
-    calls what the client's COM objects are made of: Wine has not the objects themselves. */
+/** Does what a screen reader does first, from another process: gets the window's element through UI Automation, and
+    prints its name; then closes the window. Exits with 0 if there was a name. Calls the functions beneath the client's
+    COM objects, which Wine lacks. */
 namespace
 {
 
 using Node = void*;
 constexpr int nameProperty = 30005;
-constexpr int patience = 60; // seconds that a busy machine may take to show the window
+constexpr int patience = 60; // seconds allowed for the window to appear on a busy machine
 
-/** A function of the system's UI Automation. MinGW has no import library for the client's side. */
+/** A function of UI Automation. MinGW has no import library for the client side. */
 template <typename Function>
 Function clientFunction (const char* name)
 {
@@ -21,7 +21,7 @@ Function clientFunction (const char* name)
     return reinterpret_cast<Function> (reinterpret_cast<void (*)()> (GetProcAddress (library, name)));
 }
 
-/** What stands in the frame of that title, once it is on the screen. */
+/** The content of the frame with this title, once it is on the screen. */
 HWND contentOf (const wchar_t* title)
 {
     for (int tenth = 0; tenth < 10 * patience; ++tenth) {

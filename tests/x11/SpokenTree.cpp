@@ -5,7 +5,7 @@
 
 #include <cstdio>
 
-/** A window on the display that OpenGL draws: what a screen reader meets on each of its pages, one line each. Ends with 1
+/** A window on the display drawn by OpenGL: prints what a screen reader gets on each page, one line each. Exits with 1
     if a control lacks something. */
 int main()
 {

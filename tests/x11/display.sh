@@ -1,4 +1,4 @@
-# A display of the test's own and the bench on it. Sourced by the tests of this folder:
+# A private display with the bench on it. Sourced by the tests in this folder:
 #   PATCHBENCH=PROGRAM . display.sh; start_display; start_manager; start_bench
 
 fail() { echo "FAILED: $*" >&2; [ -f out ] && tail -n 15 out err >&2; exit 1; }
@@ -18,10 +18,10 @@ clean_up() {
 trap clean_up EXIT
 trap 'exit 1' INT TERM
 
-patience=60 # seconds that a busy machine may take for one step
+patience=60 # seconds allowed per step on a busy machine
 title='^Halcyra$'
 
-# until_true COMMAND ...: asks again and again, and gives the bench time for its window meanwhile.
+# until_true COMMAND ...: polls, and gives the bench time for its window.
 until_true() {
     local end=$((SECONDS + patience))
     until "$@"; do
@@ -67,7 +67,7 @@ start_bench() {
 
 tell() { kill -0 "$bench" 2>/dev/null || fail "the bench has ended"; echo "$1" >&8; }
 
-# expect LINE ...: each comes after the one before; what stands between is passed over.
+# expect LINE ...: each in order; lines in between are skipped.
 expect() {
     local line
     for line; do
@@ -81,7 +81,7 @@ came() {
     found=$((seen + ${at%%:*}))
 }
 
-# Waits until the bench has done all that it was told, and passes over what it said.
+# Waits until the bench has run all commands, and skips their output.
 settle() {
     local answers
     answers=$(grep -c '^h assist' out)
@@ -97,7 +97,7 @@ is_visible() { [ -n "$(visible)" ]; }
 is_hidden() { ! is_visible; }
 windows() { xdotool search --name "$title" 2>/dev/null | wc -l; }
 
-# The window, once it stands on the screen in its size.
+# The window, once it is on the screen in its full size.
 find_window() {
     until_true stands || fail "the window is not on the screen"
     window=$(visible | tail -n 1)
@@ -110,7 +110,7 @@ settled_place() {
     [ "$now" = "$before" ]
 }
 
-# The steps of a hand: the bench sees each before the next is made. What it says meanwhile can still be expected.
+# One step of a drag: the bench handles each before the next. Its output can still be expected.
 step() { local before=$seen; settle; seen=$before; }
 pointer() { xdotool mousemove --window "$window" "$1" "$2"; step; }
 press() { pointer "$1" "$2"; xdotool mousedown 1; step; }
@@ -118,7 +118,7 @@ release() { xdotool mouseup 1; step; }
 click() { press "$1" "$2"; release; }
 wheel() { pointer "$1" "$2"; xdotool click "$3"; step; }
 
-# drag X Y X2 Y2 ...: from point to point, the button held.
+# drag X Y X2 Y2 ...: from point to point with the button held.
 drag() {
     press "$1" "$2"
     while [ $# -ge 4 ]; do
