@@ -1,6 +1,8 @@
 #include "ControlTest.h"
 
 #include "max/AttributeServices.h"
+#include "max/PattrState.h"
+#include "support/bench/HookClass.h"
 
 CONTROL_TESTS (SavedState);
 
@@ -126,18 +128,67 @@ TEST_P (SavedState, TravelsByDictionary)
 
 TEST_P (SavedState, TravelsByPreset)
 {
-    auto box = settled ("@numsources 2");
-    box.send ("gain 7");
+    auto box = settled ("@numsources 64 @numspeakers 64"); // 1,200 values: none is lost, whatever the road
+    for (const auto* change : { "gain 7", "zoffset 3" })
+        box.send (change);
     settle();
     const auto preset = bench::presetOf (*box);
     const bench::Atoms values (preset.begin() + 3, preset.end());
     EXPECT_EQ (bench::textOf (values), stateOf (box));
     EXPECT_EQ (preset[2].a_w.w_sym, gensym ("recallpreset"));
-    box.send ("gain 1");
+    for (const auto thread : { bench::Thread::main, bench::Thread::scheduler }) {
+        for (const auto* change : { "gain 1", "zoffset 0" })
+            box.send (change);
+        settle();
+        box.send ("recallpreset", values, thread);
+        settle();
+        EXPECT_EQ (bench::textOf (values), stateOf (box));
+    }
+    EXPECT_EQ (box.console(), Messages());
+}
+
+TEST_P (SavedState, GoesIntoNewMemoryUnlessTheCallerHasSome)
+{
+    auto box = settled();
+    std::vector<t_atom> callers (4000);
+    for (const t_clong room : { 0, 4000 }) {
+        auto count = room;
+        auto* atoms = callers.data();
+        ASSERT_EQ (orvanemax_getvalueof ((*box).object, &count, &atoms), MAX_ERR_NONE);
+        EXPECT_EQ (bench::textOf (bench::Atoms (atoms, atoms + count)), stateOf (box));
+        EXPECT_EQ (atoms == callers.data(), room > 0);
+        EXPECT_EQ (box.console(), room > 0 ? Messages{ "warn orvanemax_getvalueof : memory passed in" } : Messages());
+        if (room == 0)
+            sysmem_freeptr (atoms);
+    }
+}
+
+TEST_P (SavedState, ADictionaryIsEmptyOnceItsReceiversHaveReturned)
+{
+    patch.load (hook_main);
+    auto box = settled();
+    auto hook = make ("test.hook");
+    ASSERT_TRUE (patch.connect (*box, 1, *hook));
+    t_dictionary* kept = nullptr;
+    t_clong during = 0;
+    const auto entries = [&] {
+        t_clong count = 0;
+        t_symbol** keys = nullptr;
+        dictionary_getkeys (kept, &count, &keys);
+        dictionary_freekeys (kept, count, keys);
+        return count;
+    };
+    onHook() = [&] {
+        for (const auto& event : take (bench::Event::Kind::out, box->name))
+            kept = dictobj_findregistered_retain (atom_getsym (event.atoms.data()));
+        during = entries();
+    };
+    box.send ("dumpdict gain tr0");
     settle();
-    box.send ("recallpreset", values);
-    settle();
-    EXPECT_EQ (box.attribute ("gain"), "7.");
+    onHook() = nullptr;
+    EXPECT_EQ (during, 2);
+    EXPECT_EQ (entries(), 0);
+    dictobj_release (kept);
 }
 
 TEST_P (SavedState, BadDictionariesAreToldAndSendNothing)
