@@ -68,6 +68,15 @@ TEST_P (MessagesIn, SetTheWindowsOptionsFromWhateverReadsAsANumber)
     }
 }
 
+TEST_P (MessagesIn, AWindowThatIsNotMoveableWarnsOfEachMove)
+{
+    auto box = settled();
+    for (const auto* message : { "windowtopleft 5 6", "windowmoveable 0", "windowtopleft 5 6" })
+        EXPECT_EQ (saying (box, message), Messages()) << message;
+    for (const auto* message : { "windowtopleft 5 7", "windowtopleft 6 6", "windowtopleft 7 8" })
+        EXPECT_EQ (saying (box, message), Messages{ "warn this window is not moveable" }) << message;
+}
+
 TEST_P (MessagesIn, LinearGainsHaveAFloor)
 {
     auto box = settled();

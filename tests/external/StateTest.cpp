@@ -81,6 +81,45 @@ TEST_P (SavedState, StagesThatCrossTheirNeighboursComeBackInOneGo)
     }
 }
 
+/** Locks and constraints are lifted while a recall sets what they refuse or bend, and hold again behind it. */
+TEST_P (SavedState, WithALockReplacesAnotherWithTheSameLock)
+{
+    struct Row
+    {
+        const char *lock, *saved, *held, *refused;
+    };
+    for (const auto* defer : { "defer 0", "defer 1" })
+        for (const auto& row : {
+                 Row{ "zoomlock 1", "zoom 2", "zoom 0.5", "zoom 3" },
+                 Row{ "radiusconstraint 1", "sourcespositions 3 0 0 0 4 0", "sourcespositions 1 1 0 2 0 0",
+                      "source 1 xyz 9 0 0" },
+                 Row{ "windowmoveable 0", "windowtopleft 10 20", "windowtopleft 30 40", nullptr },
+                 Row{ "globalproportion 0.2", "zoom 0.05", "zoom 1", nullptr },
+                 Row{ "showheadphones 1", "showspeakers 0", "showspeakers 1", nullptr },
+                 Row{ "display 0", "source 1 xyz 1 2 3", "source 1 xyz 3 2 1", nullptr },
+             }) {
+            SCOPED_TRACE (std::string (row.lock) + ", " + defer);
+            auto first = settled ("@numsources 2 @numspeakers 2");
+            auto second = settled ("@numsources 2 @numspeakers 2");
+            for (const auto& [box, change] : { std::pair (&first, row.saved), std::pair (&second, row.held) })
+                for (const auto* message : { defer, change, row.lock }) {
+                    box->send (message);
+                    settle();
+                }
+            ASSERT_NE (stateOf (first), stateOf (second));
+            bench::setState (*second, bench::stateOf (*first).value());
+            settle();
+            EXPECT_EQ (stateOf (first), stateOf (second));
+            if (row.refused == nullptr)
+                continue;
+            for (auto* box : { &first, &second }) {
+                box->send (row.refused);
+                settle();
+            }
+            EXPECT_EQ (stateOf (first), stateOf (second));
+        }
+}
+
 TEST_P (SavedState, OfAnotherLengthChangesNothing)
 {
     auto box = settled();
