@@ -41,6 +41,7 @@ TEST_P (Registration, AttributesStandInTheirOrderWithWhatTheirRowsSay)
         EXPECT_EQ (words->at (0).a_w.w_sym, gensym (row->label)) << row->name; // blanks and all, in one symbol
         const auto minimum = bench::propertyOf (*box, row->name, "minvalue");
         EXPECT_EQ (minimum && ! minimum->empty(), row->hasBounds) << row->name;
+        EXPECT_EQ (box.property (row->name, "save"), "1") << row->name; // a patcher keeps the value
     }
     const auto first = std::find (visible.begin(), visible.end(), expected.front());
     EXPECT_EQ (std::vector<std::string> (first, visible.end()), expected);

@@ -1,5 +1,6 @@
 #include "ControlTest.h"
 
+#include "host/bench/Words.h"
 #include "max/AttributeServices.h"
 #include "max/PattrState.h"
 #include "support/bench/HookClass.h"
@@ -118,6 +119,26 @@ TEST_P (SavedState, WithALockReplacesAnotherWithTheSameLock)
             }
             EXPECT_EQ (stateOf (first), stateOf (second));
         }
+}
+
+TEST_P (SavedState, APartOfAStateLeavesALockThatItDoesNotHold)
+{
+    struct Row
+    {
+        const char *lock, *value;
+    };
+    for (const auto& row : { Row{ "zoomlock 1", "zoom 2." }, Row{ "radiusconstraint 1", "sourcespositions 3. 0. 0." },
+                             Row{ "windowmoveable 0", "windowtopleft 10. 20." } }) {
+        auto box = settled ("@numsources 1");
+        box.send (row.lock);
+        settle();
+        const auto value = bench::messageOf (bench::wordsOf (row.value));
+        bench::putEntry ("part", value.selector->s_name, value.atoms);
+        EXPECT_EQ (saying (box, "dictionary part"), Messages()) << row.lock;
+        const auto lock = bench::messageOf (bench::wordsOf (row.lock));
+        EXPECT_EQ (box.attribute (lock.selector->s_name), bench::textOf (lock.atoms));
+        EXPECT_EQ (box.attribute (value.selector->s_name), bench::textOf (value.atoms));
+    }
 }
 
 TEST_P (SavedState, OfAnotherLengthChangesNothing)
