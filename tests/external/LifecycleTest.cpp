@@ -13,6 +13,7 @@ TEST_P (Lifecycle, BangReplaysEverythingInItsOrder)
     box.send ("bang");
     settle();
     const auto heard = box.leftOutlet();
+    EXPECT_THAT (box.notifications(), testing::Each ("modified")); // no attribute has another value
     Messages words;
     for (const auto& message : heard)
         words.push_back (message.substr (0, message.find (' ', message.find (' ') + 1)));

@@ -112,3 +112,77 @@ TEST_P (Scene, HoldsWhatAnAttributeSaysAndElseWhatItHeld)
         settle();
     }
 }
+
+namespace
+{
+
+/** What the hand may do on the plane, as the plane's own operation; or an item of its menu. */
+struct Act
+{
+    const char* attribute;
+    const char* value;
+    void (*act) (Plane& plane);
+};
+
+const Act acts[] = {
+    { "sourcespositions", "-4.371139e-08 1. 0. 1. 2. 3.",
+      [] (Plane& p) {
+          p.SetSourcePosition (1, { 1, 2, 3 }, true);
+      } },
+    { "speakerspositions", "1. 0. 0. 0. 2. 0. 0. 0. 3.",
+      [] (Plane& p) {
+          p.SetSpeakersPositions ({ { 1, 0, 0 }, { 0, 2, 0 }, { 0, 0, 3 } }, true);
+      } },
+    { "listenerposition", "1. 2. 3.",
+      [] (Plane& p) {
+          p.SetListenerPosition ({ 1, 2, 3 }, true);
+      } },
+    { "listeneryaw", "30.", [] (Plane& p) { p.SetListenerYaw (390, true); } },
+    { "listenerpitch", "40.", [] (Plane& p) { p.SetListenerPitch (40, true); } },
+    { "listenerroll", "50.", [] (Plane& p) { p.SetListenerRoll (50, true); } },
+    { "listenerroll", "-30.", [] (Plane& p) { p.SetListenerOrientation (10, 20, -30, true); } },
+    { "yaw", "0. 40.", [] (Plane& p) { p.SetSourceYaw (1, 40, true); } },
+    { "aperture", "80. 50.", [] (Plane& p) { p.SetSourceAperture (1, 50, true); } },
+    { "zoom", "2.", [] (Plane& p) { p.SetZoom (2, true); } },
+    { "xoffset", "3.", [] (Plane& p) { p.ShiftView (3, 4); } },
+    { "yoffset", "4.", [] (Plane& p) { p.ShiftView (3, 4); } },
+    { "viewpoint", "front", [] (Plane& p) { p.MenuItemChosen (8); } },
+    { "zoffset", "4.",
+      [] (Plane& p) {
+          p.SetTopView (false);
+          p.ShiftView (3, 4);
+      } },
+    { "gridmode", "cartesian", [] (Plane& p) { p.SetGridMode (lumo::Plane::Grid::square); } },
+    { "sourceseditable", "0", [] (Plane& p) { p.MenuItemChosen (2); } },
+    { "speakerseditable", "1", [] (Plane& p) { p.MenuItemChosen (1); } },
+    { "listenereditable", "1", [] (Plane& p) { p.MenuItemChosen (3); } },
+    { "showspeakers", "0", [] (Plane& p) { p.MenuItemChosen (4); } },
+    { "showaperture", "1", [] (Plane& p) { p.MenuItemChosen (10); } },
+    { "showlistener", "0", [] (Plane& p) { p.MenuItemChosen (13); } },
+    { "circularconstraint", "1", [] (Plane& p) { p.MenuItemChosen (6); } },
+    { "showheadphones", "1", [] (Plane& p) { p.MenuItemChosen (9); } },
+    { "showbackgroundimage", "0", [] (Plane& p) { p.MenuItemChosen (11); } },
+    { "showradius", "1", [] (Plane& p) { p.MenuItemChosen (12); } },
+    { "showshoebox", "1", [] (Plane& p) { p.MenuItemChosen (14); } },
+    { "showspeakershull", "1", [] (Plane& p) { p.MenuItemChosen (15); } },
+    { "showangulardivisions", "0", [] (Plane& p) { p.MenuItemChosen (16); } },
+    { "showspeakersradius", "1", [] (Plane& p) { p.MenuItemChosen (17); } },
+    { "showspeakersprojection", "1", [] (Plane& p) { p.MenuItemChosen (18); } },
+};
+
+}
+
+TEST_P (Scene, AttributesFollowTheHand)
+{
+    for (const auto& act : acts) {
+        auto box = settled ("@numsources 2 @numspeakers 3");
+        EXPECT_NE (box.attribute (act.attribute), act.value);
+        act.act (*box.record<t_halcyra_control>()->plane);
+        settle();
+        EXPECT_EQ (box.attribute (act.attribute), act.value) << act.attribute;
+        const auto notifications = box.notifications();
+        EXPECT_THAT (notifications, testing::Contains ("attr_modified")) << act.attribute;
+        EXPECT_EQ (notifications.back(), "modified") << act.attribute;
+        box.free();
+    }
+}
