@@ -1,6 +1,7 @@
 #include "ControlTest.h"
 
 #include "gui/plane/PlaneComponent.h"
+#include "support/bench/HookClass.h"
 
 #include <cmath>
 
@@ -122,6 +123,7 @@ struct Act
     const char* attribute;
     const char* value;
     void (*act) (Plane& plane);
+    const char* prepare = "version";
 };
 
 const Act acts[] = {
@@ -147,11 +149,12 @@ const Act acts[] = {
     { "xoffset", "3.", [] (Plane& p) { p.ShiftView (3, 4); } },
     { "yoffset", "4.", [] (Plane& p) { p.ShiftView (3, 4); } },
     { "viewpoint", "front", [] (Plane& p) { p.MenuItemChosen (8); } },
-    { "zoffset", "4.",
+    { "zoffset", "4.", [] (Plane& p) { p.ShiftView (3, 4); }, "viewpoint front" },
+    { "yaw", "0. 45.",
       [] (Plane& p) {
-          p.SetTopView (false);
-          p.ShiftView (3, 4);
-      } },
+          p.SetSourcePosition (1, { 1, -1, 0 }, true);
+      },
+      "source 2 orientationmode translation" },
     { "gridmode", "cartesian", [] (Plane& p) { p.SetGridMode (lumo::Plane::Grid::square); } },
     { "sourceseditable", "0", [] (Plane& p) { p.MenuItemChosen (2); } },
     { "speakerseditable", "1", [] (Plane& p) { p.MenuItemChosen (1); } },
@@ -174,15 +177,27 @@ const Act acts[] = {
 
 TEST_P (Scene, AttributesFollowTheHand)
 {
+    patch.load (hook_main);
+    auto hook = make ("test.hook");
     for (const auto& act : acts) {
+        SCOPED_TRACE (act.attribute);
         auto box = settled ("@numsources 2 @numspeakers 3");
-        EXPECT_NE (box.attribute (act.attribute), act.value);
+        box.send (act.prepare);
+        settle();
+        transcript();
+        ASSERT_TRUE (patch.connect (*box, 0, *hook));
+        object_attach_byptr (box->object, hook->object);
+        const auto before = box.attribute (act.attribute);
+        EXPECT_NE (before, act.value);
+        Messages heard;
+        onHook() = [&] { heard.push_back (box.attribute (act.attribute)); };
         act.act (*box.record<t_halcyra_control>()->plane);
         settle();
-        EXPECT_EQ (box.attribute (act.attribute), act.value) << act.attribute;
-        const auto notifications = box.notifications();
-        EXPECT_THAT (notifications, testing::Contains ("attr_modified")) << act.attribute;
-        EXPECT_EQ (notifications.back(), "modified") << act.attribute;
+        onHook() = nullptr;
+        EXPECT_EQ (box.attribute (act.attribute), act.value);
+        EXPECT_THAT (heard, testing::Each (act.value)); // it is stored before anything is told
+        EXPECT_THAT (box.notifications(), testing::Contains ("attr_modified"));
+        EXPECT_FALSE (heard.empty());
         box.free();
     }
 }
