@@ -117,13 +117,14 @@ TEST_P (Scene, HoldsWhatAnAttributeSaysAndElseWhatItHeld)
 namespace
 {
 
-/** What the hand may do on the plane, as the plane's own operation; or an item of its menu. */
+/** What the hand may do on the plane, as the plane's own operation; or an item of its menu; or a message. */
 struct Act
 {
     const char* attribute;
     const char* value;
     void (*act) (Plane& plane);
     const char* prepare = "version";
+    const char* message = nullptr;
 };
 
 const Act acts[] = {
@@ -171,11 +172,18 @@ const Act acts[] = {
     { "showangulardivisions", "0", [] (Plane& p) { p.MenuItemChosen (16); } },
     { "showspeakersradius", "1", [] (Plane& p) { p.MenuItemChosen (17); } },
     { "showspeakersprojection", "1", [] (Plane& p) { p.MenuItemChosen (18); } },
+    { "sourcespositions", "-4.371139e-08 1. 0. 1. 2. 3.", nullptr, "version", "source 2 xyz 1 2 3" },
+    { "yaw", "0. 45.", nullptr, "source 2 orientationmode translation", "source 2 xyz 1 -1 0" },
+    { "yaw", "0. 90.", nullptr, "source 2 xyz 1 0 0", "source 2 lookat 2 0 0" },
+    { "speakerspositions", "1. 0. 0. 0. 2. 0. 0. 0. 3.", nullptr, "version", "speakers xyz 1 0 0 0 2 0 0 0 3" },
+    { "direct", "1. 2. 3. 4. 300. 3000.", nullptr, "version", "direct 1 2 3 4 300 3000" },
+    { "gain", "3.", nullptr, "version", "gain 3" },
+    { "infinite", "1", nullptr, "version", "reverb infinite 1" },
 };
 
 }
 
-TEST_P (Scene, AttributesFollowTheHand)
+TEST_P (Scene, AttributesHoldWhatWasDoneBeforeAnythingIsTold)
 {
     patch.load (hook_main);
     auto hook = make ("test.hook");
@@ -191,11 +199,14 @@ TEST_P (Scene, AttributesFollowTheHand)
         EXPECT_NE (before, act.value);
         Messages heard;
         onHook() = [&] { heard.push_back (box.attribute (act.attribute)); };
-        act.act (*box.record<t_halcyra_control>()->plane);
+        if (act.message == nullptr)
+            act.act (*box.record<t_halcyra_control>()->plane);
+        else
+            box.send (act.message);
         settle();
         onHook() = nullptr;
         EXPECT_EQ (box.attribute (act.attribute), act.value);
-        EXPECT_THAT (heard, testing::Each (act.value)); // it is stored before anything is told
+        EXPECT_THAT (heard, testing::Each (act.value));
         EXPECT_THAT (box.notifications(), testing::Contains ("attr_modified"));
         EXPECT_FALSE (heard.empty());
         box.free();

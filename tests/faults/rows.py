@@ -251,7 +251,7 @@ ROWS = [
      "what is set quietly is told"),
     ("src/reverb/ReverbModel.cpp", "listeners.call ([number] (Listener& l) { l.parameterTold (number); });\n    else",
      "tellLater (number);\n    else", "a switch is told at the turn's end"),
-    ("src/reverb/ReverbModel.cpp", "if (moves && edit != Edit::quiet)", "if (edit != Edit::quiet)",
+    ("src/reverb/ReverbModel.cpp", "if (moves && edit != Edit::quiet)", "if ((moves || ! moves) && edit != Edit::quiet)",
      "the same room size again is told again"),
     ("src/reverb/ReverbModel.cpp", "times = fitted (times);", "",
      "the times of a room are not fitted about the one that the hand holds"),
