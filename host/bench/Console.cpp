@@ -120,6 +120,8 @@ void object_bug (t_object* x, const char* format, ...) { TELL_FORMATTED (Event::
 t_max_err object_notify (void* x, t_symbol* message, void* data)
 {
     const auto* head = headOf (x);
+    if (head == nullptr && x != nullptr)
+        object_bug (nullptr, "object_notify for an object that was freed");
     if (head == nullptr || message == nullptr)
         return MAX_ERR_INVALID_PTR;
     if (head->box == nullptr && head->registeredName == nullptr)

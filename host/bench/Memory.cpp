@@ -1,5 +1,7 @@
 #include "host/api/MaxApi.h"
+#include "host/bench/Objects.h"
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -17,19 +19,25 @@ struct BlockHead
 constexpr std::uint64_t ours = 0x4D454D4F52592121;
 constexpr int freshByte = 0xA5;
 
+std::atomic<std::size_t> blocksGivenOut{ 0 };
+
 BlockHead* allocate (t_ptr_size size)
 {
     if (size > PTRDIFF_MAX - sizeof (BlockHead))
         return nullptr;
     // An empty block gets a byte too: leak checkers count a block as lost unless a pointer points into it.
     auto* head = static_cast<BlockHead*> (std::malloc (sizeof (BlockHead) + std::max<t_ptr_size> (size, 1)));
-    if (head != nullptr)
+    if (head != nullptr) {
         *head = { size, ours };
+        ++blocksGivenOut;
+    }
     return head;
 }
 
 char* blockOf (BlockHead* head) { return reinterpret_cast<char*> (head + 1); }
 }
+
+std::size_t bench::numberOfBlocks() { return blocksGivenOut; }
 
 char* sysmem_newptr (t_ptr_size size)
 {
@@ -60,6 +68,7 @@ void sysmem_freeptr (void* block)
     }
     head->mark = 0;
     std::free (head);
+    --blocksGivenOut;
 }
 
 void sysmem_copyptr (const void* source, void* destination, t_ptr_size bytes)

@@ -50,6 +50,13 @@ bool isLive (const void* x)
     return all.objects.count (x) != 0;
 }
 
+std::size_t numberOfObjects()
+{
+    auto& all = liveObjects();
+    const std::lock_guard<std::mutex> lock (all.mutex);
+    return all.objects.size();
+}
+
 ObjectHead* headOf (const void* x) { return x != nullptr && isLive (x) ? headBefore (const_cast<void*> (x)) : nullptr; }
 
 t_object* allocateObject (ClassRecord& type)

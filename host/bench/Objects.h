@@ -36,6 +36,10 @@ struct alignas (16) ObjectHead
     int references = 1; // more while a registered dictionary is retained
 };
 
+/** What the host has given out and not got back: blocks of memory, objects. Any thread. */
+std::size_t numberOfBlocks();
+std::size_t numberOfObjects();
+
 /** Null for null and for anything that is not a living object. */
 ObjectHead* headOf (const void* x);
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <vector>
 
 namespace qel
 {
@@ -43,6 +44,38 @@ public:
 
 private:
     Vector<Listener*> list;
+};
+
+/** Listeners, not owned, each once, null ignored; called in the order of adding. One that is called may remove itself
+    or others, or add some; none is called twice in one walk. One thread. */
+template <typename Listener>
+class ListenersInOrder
+{
+public:
+    void add (Listener* listener)
+    {
+        if (listener != nullptr && std::find (list.begin(), list.end(), listener) == list.end())
+            list.push_back (listener);
+    }
+    void remove (Listener* listener) noexcept
+    {
+        list.erase (std::remove (list.begin(), list.end(), listener), list.end());
+    }
+
+    template <typename Function>
+    void call (Function&& function)
+    {
+        for (std::size_t next = 0; next < list.size();) {
+            auto* const listener = list[next];
+            function (*listener);
+            const auto place = std::find (list.begin(), list.end(), listener);
+            if (place != list.end())
+                next = static_cast<std::size_t> (place - list.begin()) + 1;
+        }
+    }
+
+private:
+    std::vector<Listener*> list;
 };
 
 }

@@ -64,7 +64,7 @@ void MaxHalcyraListener::tell (Change&& change)
 {
     if (x == nullptr)
         return;
-    orvanemax::guarded (x, [this, &change, owner = x] {
+    orvanemax::guarded (x, [&change, owner = x] {
         change();
         orvanemax::notifyModified (owner);
     });

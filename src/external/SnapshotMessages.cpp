@@ -2,6 +2,7 @@
 
 #include "external/ProductVersion.h"
 #include "gui/plane/PlaneComponent.h"
+#include "gui/plane/objects/Positions.h"
 #include "max/Atoms.h"
 #include "max/FileDialogs.h"
 #include "max/OrvanemaxSymbols.h"
@@ -88,7 +89,7 @@ void storeSnapshot (void* object, t_symbol*, t_clong argc, t_atom* argv)
     const Atoms atoms (argc, argv);
     if (! isName (atoms))
         return invalidMessage (x, "invalid message : store", atoms);
-    x->plane->StoreSnapshot (nameOf (atoms[0]));
+    x->plane->GetSnapshots().store (nameOf (atoms[0]), lumo::Plane::PositionsOf (x->plane->GetScene().sources));
 }
 
 void recallSnapshot (void* object, t_symbol*, t_clong argc, t_atom* argv)
@@ -97,7 +98,7 @@ void recallSnapshot (void* object, t_symbol*, t_clong argc, t_atom* argv)
     const Atoms atoms (argc, argv);
     if (! isName (atoms))
         return invalidMessage (x, "invalid message : recall", atoms);
-    x->plane->RecallSnapshot (nameOf (atoms[0]));
+    x->plane->SetSourcesPositions (x->plane->GetSnapshots().points (nameOf (atoms[0])), true);
 }
 
 void clearSnapshot (void* object, t_symbol*, t_clong argc, t_atom* argv)
@@ -105,9 +106,9 @@ void clearSnapshot (void* object, t_symbol*, t_clong argc, t_atom* argv)
     auto* x = control (object);
     const Atoms atoms (argc, argv);
     if (atoms.empty())
-        x->plane->RemoveAllSnapshots();
+        x->plane->GetSnapshots().removeAll();
     else if (isName (atoms))
-        x->plane->RemoveSnapshot (nameOf (atoms[0]));
+        x->plane->GetSnapshots().remove (nameOf (atoms[0]));
     else
         invalidMessage (x, "invalid message : clearsnapshot", atoms);
 }
@@ -119,7 +120,9 @@ void interpolateSnapshots (void* object, t_symbol*, t_clong argc, t_atom* argv)
     if (atoms.size() != 3 || ! isSnapshotReference (atoms[0]) || ! isSnapshotReference (atoms[1]) ||
         ! orvanemax::isNumber (atoms[2]))
         return invalidMessage (x, "invalid message : xsnapshot", atoms);
-    x->plane->RecallSnapshots (nameOf (atoms[0]), nameOf (atoms[1]), atoms.number (2));
+    qel::Point3Array points;
+    x->plane->GetSnapshots().interpolate (points, nameOf (atoms[0]), nameOf (atoms[1]), atoms.number (2));
+    x->plane->SetSourcesPositions (std::move (points), true);
 }
 
 void readSnapshot (void* x, t_symbol*, t_clong argc, t_atom* argv)

@@ -1,5 +1,6 @@
 #pragma once
 #include "files/OrvaneDspFile.h"
+#include "files/OrvaneDspFileWriter.h"
 
 namespace qel
 {
@@ -23,5 +24,16 @@ private:
     File target;
     File temporary;
 };
+
+/** The safe way to write a file: `write` gets a FileWriter for a file beside it, which takes its place once `write` has
+    returned true and all of it is on the disk. Otherwise returns false, and the old file is unchanged. Throws what
+    FileWriter and `write` throw. */
+template <typename Write>
+[[nodiscard]] bool replaceFile (const File& file, Write&& write)
+{
+    const TemporaryFile temporary (file);
+    FileWriter writer (temporary.file());
+    return write (writer) && writer.finish() && temporary.replaceTarget();
+}
 
 }

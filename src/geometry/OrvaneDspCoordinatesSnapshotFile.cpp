@@ -176,30 +176,30 @@ bool CoordinatesSnapshotStore::write (const File& file, const String& version, b
     if (! overwrite && file.exists())
         throw Exception ("file " + file.path().quoted() + " already exists", QEL_HERE);
 
-    const TemporaryFile temporary (file);
-    FileWriter fileWriter (temporary.file());
-    MemoryOutput piece (pieceSize + pieceSize / 4);
-    const auto flush = [&] {
-        const bool isWritten = fileWriter.write (piece);
-        piece.reset();
-        return isWritten;
-    };
+    return replaceFile (file, [&] (FileWriter& fileWriter) {
+        MemoryOutput piece (pieceSize + pieceSize / 4);
+        const auto flush = [&] {
+            const bool isWritten = fileWriter.write (piece);
+            piece.reset();
+            return isWritten;
+        };
 
-    const XmlLayout layout;
-    XmlWriter writer (piece, layout);
-    writer.startDocument();
-    writer.start ("ambrel.viewer");
-    if (! version.empty())
-        writer.attribute ("version", version.str());
-    for (const auto& snapshot : snapshots) {
-        if (! snapshot.points.empty())
-            writeSnapshot (writer, snapshot);
-        if (piece.size() >= pieceSize && ! flush())
-            return false;
-    }
-    writer.end();
-    writer.endDocument();
-    return flush() && fileWriter.finish() && temporary.replaceTarget();
+        const XmlLayout layout;
+        XmlWriter writer (piece, layout);
+        writer.startDocument();
+        writer.start ("ambrel.viewer");
+        if (! version.empty())
+            writer.attribute ("version", version.str());
+        for (const auto& snapshot : snapshots) {
+            if (! snapshot.points.empty())
+                writeSnapshot (writer, snapshot);
+            if (piece.size() >= pieceSize && ! flush())
+                return false;
+        }
+        writer.end();
+        writer.endDocument();
+        return flush();
+    });
 }
 
 }

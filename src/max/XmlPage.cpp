@@ -1,5 +1,7 @@
 #include "max/XmlPage.h"
 
+#include "text/OrvaneDspXmlWriter.h"
+
 namespace orvanemax
 {
 namespace
@@ -18,26 +20,11 @@ std::string startOf (const char* name, const XmlPage::Attributes& attributes)
 std::string escaped (const std::string& text)
 {
     std::string out;
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char> (c);
-        switch (c) {
-        case '&':
-            out += "&amp;";
-            break;
-        case '<':
-            out += "&lt;";
-            break;
-        case '>':
-            out += "&gt;";
-            break;
-        case '"':
-            out += "&quot;";
-            break;
-        default:
-            if (byte >= 0x20 || c == '\t' || c == '\n')
-                out += c; // other control characters cannot be represented in XML
-        }
-    }
+    for (const char c : text)
+        if (const auto* const escape = qel::xmlEscape (c))
+            out += escape;
+        else if (static_cast<unsigned char> (c) >= 0x20 || c == '\t' || c == '\n')
+            out += c; // other control characters cannot be represented in XML
     return out;
 }
 

@@ -167,9 +167,7 @@ bool XmlElement::writeTo (const File& file, const String& dtd, const String& enc
     MemoryOutput document (2048);
     writeTo (document, layout);
 
-    const TemporaryFile temporary (file);
-    FileWriter writer (temporary.file());
-    return writer.write (document) && writer.finish() && temporary.replaceTarget();
+    return replaceFile (file, [&] (FileWriter& writer) { return writer.write (document); });
 }
 
 }

@@ -12,13 +12,7 @@
 namespace qel
 {
 
-namespace
-{
-
-constexpr const char* lineEnd = "\r\n";
-
-/** The named escape for a character; null if it needs none or is escaped by number. */
-const char* namedEscape (char c) noexcept
+const char* xmlEscape (char c) noexcept
 {
     switch (c) {
     case '"':
@@ -34,10 +28,15 @@ const char* namedEscape (char c) noexcept
     }
 }
 
+namespace
+{
+
+constexpr const char* lineEnd = "\r\n";
+
 bool isSafe (char c, bool inAttribute) noexcept
 {
     const bool isLineBreak = c == '\n' || c == '\r';
-    return (c >= ' ' && c <= '~' && namedEscape (c) == nullptr) || (isLineBreak && ! inAttribute);
+    return (c >= ' ' && c <= '~' && xmlEscape (c) == nullptr) || (isLineBreak && ! inAttribute);
 }
 
 template <typename Number>
@@ -176,7 +175,7 @@ void XmlWriter::escaped (std::string_view bytes, bool inAttribute)
         output.write (bytes.data() + i, safeEnd - i);
         if (safeEnd < bytes.size()) {
             const char c = bytes[safeEnd++];
-            if (const auto* const name = namedEscape (c))
+            if (const auto* const name = xmlEscape (c))
                 output << name;
             else
                 output << "&#" << String (int{ static_cast<signed char> (c) }) << ';';

@@ -21,6 +21,9 @@ struct XmlLayout
     std::size_t lineWrapLength = 60;
 };
 
+/** The named escape of a character that cannot stand for itself in text and attributes, or null. */
+[[nodiscard]] const char* xmlEscape (char c) noexcept;
+
 /** A number with as many digits as needed to read it back, as a double or as the original float. */
 [[nodiscard]] String xmlNumber (double value);
 

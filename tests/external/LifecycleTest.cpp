@@ -1,4 +1,7 @@
 #include "ControlTest.h"
+#include "EveryMessage.h"
+
+#include "host/bench/Objects.h"
 
 #include <juce_gui_basics/juce_gui_basics.h>
 
@@ -10,6 +13,7 @@ TEST_P (Lifecycle, BangReplaysEverythingInItsOrder)
     box.send ("bang");
     settle();
     const auto heard = box.leftOutlet();
+    EXPECT_THAT (box.notifications(), testing::Each ("modified")); // no attribute has another value
     Messages words;
     for (const auto& message : heard)
         words.push_back (message.substr (0, message.find (' ', message.find (' ') + 1)));
@@ -124,6 +128,29 @@ TEST_P (Lifecycle, FreedWithCallsQueuedItIsForgotten)
     }
     settle();
     EXPECT_EQ (patch.names().size(), 0u);
+}
+
+TEST_P (Lifecycle, WhatTheHostGaveOutComesBack)
+{
+    const auto live = [this] {
+        auto box = settled ("@numsources 2 @numspeakers 2");
+        t_atom gain{};
+        atom_setfloat (&gain, 2);
+        bench::putEntry ("changes", "gain", { gain });
+        bench::putEntry ("changes", "direct", bench::Atoms (6, gain));
+        for (const auto* message : everyMessage) {
+            box.send (message);
+            settle();
+        }
+        bench::presetOf (*box);
+        bench::setState (*box, bench::stateOf (*box).value());
+        box.free();
+        settle();
+        transcript();
+        return std::pair (bench::numberOfBlocks(), bench::numberOfObjects());
+    };
+    const auto afterTheFirst = live();
+    EXPECT_EQ (live(), afterTheFirst);
 }
 
 TEST_P (Lifecycle, AThousandObjectsComeAndGo)

@@ -68,6 +68,15 @@ TEST_P (MessagesIn, SetTheWindowsOptionsFromWhateverReadsAsANumber)
     }
 }
 
+TEST_P (MessagesIn, AWindowThatIsNotMoveableWarnsOfEachMove)
+{
+    auto box = settled();
+    for (const auto* message : { "windowtopleft 5 6", "windowmoveable 0", "windowtopleft 5 6" })
+        EXPECT_EQ (saying (box, message), Messages()) << message;
+    for (const auto* message : { "windowtopleft 5 7", "windowtopleft 6 6", "windowtopleft 7 8" })
+        EXPECT_EQ (saying (box, message), Messages{ "warn this window is not moveable" }) << message;
+}
+
 TEST_P (MessagesIn, LinearGainsHaveAFloor)
 {
     auto box = settled();
@@ -198,15 +207,18 @@ TEST_P (MessagesIn, ListsHoldAsManyValuesAsThereAreObjectsOfTheirKind)
     for (const int sources : { 2, 5 }) {
         const int speakers = 7 - sources;
         for (const auto& list : lists)
-            for (const int tooMany : { 0, 12 }) {
+            for (const int tooMany : { -1, 0, 12 }) { // a list that is too short is ignored, but for positions
                 auto box =
                     settled ("@numsources " + std::to_string (sources) + " @numspeakers " + std::to_string (speakers));
                 const int count = list.valuesEach * (list.isOfSpeakers ? speakers : sources);
                 std::string kept, more;
                 for (int i = 0; i < count + tooMany; ++i)
                     (i < count ? kept : more) += " " + list.value (i);
+                const auto before = box.attribute (list.attribute);
                 box.send (list.attribute + kept + more);
                 settle();
+                if (tooMany < 0)
+                    kept = list.valuesEach == 3 ? kept + before.substr (before.rfind (' ')) : " " + before;
                 EXPECT_EQ (" " + box.attribute (list.attribute), kept)
                     << list.attribute << " of " << count << " + " << tooMany;
                 box.free();

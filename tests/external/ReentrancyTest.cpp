@@ -92,6 +92,7 @@ public:
         patch.free (victim());
         patch.free (hook);
         settle();
+        EXPECT_TRUE (take (bench::Event::Kind::bug, "").empty()); // what was freed is not touched
         transcript();
         return speeches;
     }

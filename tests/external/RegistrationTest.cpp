@@ -2,6 +2,7 @@
 
 #include "external/ControlAttributes.h"
 #include "external/ViewerAttributes.h"
+#include "max/AttributeList.h"
 #include "max/ClassRegistration.h"
 #include "max/MaxXmlDocumentation.h"
 
@@ -40,9 +41,33 @@ TEST_P (Registration, AttributesStandInTheirOrderWithWhatTheirRowsSay)
         EXPECT_EQ (words->at (0).a_w.w_sym, gensym (row->label)) << row->name; // including blanks, as one symbol
         const auto minimum = bench::propertyOf (*box, row->name, "minvalue");
         EXPECT_EQ (minimum && ! minimum->empty(), row->hasBounds) << row->name;
+        EXPECT_EQ (box.property (row->name, "save"), "1") << row->name; // a patcher keeps the value
     }
     const auto first = std::find (visible.begin(), visible.end(), expected.front());
     EXPECT_EQ (std::vector<std::string> (first, visible.end()), expected);
+}
+
+TEST_P (Registration, AttributesAreListedByNameAndByTheirOrder)
+{
+    auto box = settled();
+    const auto names = [&] (orvanemax::SortMode mode) {
+        std::vector<std::string> found;
+        for (const auto* name : orvanemax::attributeNames ((*box).object, mode))
+            found.emplace_back (name->s_name);
+        return found;
+    };
+    const auto byName = names (orvanemax::SortMode::byName);
+    EXPECT_TRUE (std::is_sorted (byName.begin(), byName.end()));
+
+    std::vector<const orvanemax::AttributeRow*> ordered;
+    for (const auto& attribute : halcyra::controlAttributes())
+        if (attribute.row.order != 0)
+            ordered.push_back (&attribute.row);
+    std::sort (ordered.begin(), ordered.end(), [] (const auto* a, const auto* b) { return a->order < b->order; });
+    const auto byOrder = names (orvanemax::SortMode::byOrder);
+    ASSERT_EQ (byOrder.size(), byName.size());
+    for (std::size_t i = 0; i < ordered.size(); ++i)
+        EXPECT_EQ (byOrder[i], ordered[i]->name);
 }
 
 TEST_P (Registration, PropertiesAreTheOnesThatUsersKnow)

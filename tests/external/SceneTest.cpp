@@ -1,6 +1,7 @@
 #include "ControlTest.h"
 
 #include "gui/plane/PlaneComponent.h"
+#include "support/bench/HookClass.h"
 
 #include <cmath>
 
@@ -110,5 +111,104 @@ TEST_P (Scene, HoldsWhatAnAttributeSaysAndElseWhatItHeld)
         }
         bench::setState (*box, start);
         settle();
+    }
+}
+
+namespace
+{
+
+/** What the hand may do on the plane, as the plane's own operation; or an item of its menu; or a message. */
+struct Act
+{
+    const char* attribute;
+    const char* value;
+    void (*act) (Plane& plane);
+    const char* prepare = "version";
+    const char* message = nullptr;
+};
+
+const Act acts[] = {
+    { "sourcespositions", "-4.371139e-08 1. 0. 1. 2. 3.",
+      [] (Plane& p) {
+          p.SetSourcePosition (1, { 1, 2, 3 }, true);
+      } },
+    { "speakerspositions", "1. 0. 0. 0. 2. 0. 0. 0. 3.",
+      [] (Plane& p) {
+          p.SetSpeakersPositions ({ { 1, 0, 0 }, { 0, 2, 0 }, { 0, 0, 3 } }, true);
+      } },
+    { "listenerposition", "1. 2. 3.",
+      [] (Plane& p) {
+          p.SetListenerPosition ({ 1, 2, 3 }, true);
+      } },
+    { "listeneryaw", "30.", [] (Plane& p) { p.SetListenerYaw (390, true); } },
+    { "listenerpitch", "40.", [] (Plane& p) { p.SetListenerPitch (40, true); } },
+    { "listenerroll", "50.", [] (Plane& p) { p.SetListenerRoll (50, true); } },
+    { "listenerroll", "-30.", [] (Plane& p) { p.SetListenerOrientation (10, 20, -30, true); } },
+    { "yaw", "0. 40.", [] (Plane& p) { p.SetSourceYaw (1, 40, true); } },
+    { "aperture", "80. 50.", [] (Plane& p) { p.SetSourceAperture (1, 50, true); } },
+    { "zoom", "2.", [] (Plane& p) { p.SetZoom (2, true); } },
+    { "xoffset", "3.", [] (Plane& p) { p.ShiftView (3, 4); } },
+    { "yoffset", "4.", [] (Plane& p) { p.ShiftView (3, 4); } },
+    { "viewpoint", "front", [] (Plane& p) { p.MenuItemChosen (8); } },
+    { "zoffset", "4.", [] (Plane& p) { p.ShiftView (3, 4); }, "viewpoint front" },
+    { "yaw", "0. 45.",
+      [] (Plane& p) {
+          p.SetSourcePosition (1, { 1, -1, 0 }, true);
+      },
+      "source 2 orientationmode translation" },
+    { "gridmode", "cartesian", [] (Plane& p) { p.SetGridMode (lumo::Plane::Grid::square); } },
+    { "sourceseditable", "0", [] (Plane& p) { p.MenuItemChosen (2); } },
+    { "speakerseditable", "1", [] (Plane& p) { p.MenuItemChosen (1); } },
+    { "listenereditable", "1", [] (Plane& p) { p.MenuItemChosen (3); } },
+    { "showspeakers", "0", [] (Plane& p) { p.MenuItemChosen (4); } },
+    { "showaperture", "1", [] (Plane& p) { p.MenuItemChosen (10); } },
+    { "showlistener", "0", [] (Plane& p) { p.MenuItemChosen (13); } },
+    { "circularconstraint", "1", [] (Plane& p) { p.MenuItemChosen (6); } },
+    { "showheadphones", "1", [] (Plane& p) { p.MenuItemChosen (9); } },
+    { "showbackgroundimage", "0", [] (Plane& p) { p.MenuItemChosen (11); } },
+    { "showradius", "1", [] (Plane& p) { p.MenuItemChosen (12); } },
+    { "showshoebox", "1", [] (Plane& p) { p.MenuItemChosen (14); } },
+    { "showspeakershull", "1", [] (Plane& p) { p.MenuItemChosen (15); } },
+    { "showangulardivisions", "0", [] (Plane& p) { p.MenuItemChosen (16); } },
+    { "showspeakersradius", "1", [] (Plane& p) { p.MenuItemChosen (17); } },
+    { "showspeakersprojection", "1", [] (Plane& p) { p.MenuItemChosen (18); } },
+    { "sourcespositions", "-4.371139e-08 1. 0. 1. 2. 3.", nullptr, "version", "source 2 xyz 1 2 3" },
+    { "yaw", "0. 45.", nullptr, "source 2 orientationmode translation", "source 2 xyz 1 -1 0" },
+    { "yaw", "0. 90.", nullptr, "source 2 xyz 1 0 0", "source 2 lookat 2 0 0" },
+    { "speakerspositions", "1. 0. 0. 0. 2. 0. 0. 0. 3.", nullptr, "version", "speakers xyz 1 0 0 0 2 0 0 0 3" },
+    { "direct", "1. 2. 3. 4. 300. 3000.", nullptr, "version", "direct 1 2 3 4 300 3000" },
+    { "gain", "3.", nullptr, "version", "gain 3" },
+    { "infinite", "1", nullptr, "version", "reverb infinite 1" },
+};
+
+}
+
+TEST_P (Scene, AttributesHoldWhatWasDoneBeforeAnythingIsTold)
+{
+    patch.load (hook_main);
+    auto hook = make ("test.hook");
+    for (const auto& act : acts) {
+        SCOPED_TRACE (act.attribute);
+        auto box = settled ("@numsources 2 @numspeakers 3");
+        box.send (act.prepare);
+        settle();
+        transcript();
+        ASSERT_TRUE (patch.connect (*box, 0, *hook));
+        object_attach_byptr (box->object, hook->object);
+        const auto before = box.attribute (act.attribute);
+        EXPECT_NE (before, act.value);
+        Messages heard;
+        onHook() = [&] { heard.push_back (box.attribute (act.attribute)); };
+        if (act.message == nullptr)
+            act.act (*box.record<t_halcyra_control>()->plane);
+        else
+            box.send (act.message);
+        settle();
+        onHook() = nullptr;
+        EXPECT_EQ (box.attribute (act.attribute), act.value);
+        EXPECT_THAT (heard, testing::Each (act.value));
+        EXPECT_THAT (box.notifications(), testing::Contains ("attr_modified"));
+        EXPECT_FALSE (heard.empty());
+        box.free();
     }
 }

@@ -1,6 +1,9 @@
 #include "ControlTest.h"
 
+#include "host/bench/Words.h"
 #include "max/AttributeServices.h"
+#include "max/PattrState.h"
+#include "support/bench/HookClass.h"
 
 CONTROL_TESTS (SavedState);
 
@@ -79,6 +82,65 @@ TEST_P (SavedState, StagesThatCrossTheirNeighboursComeBackInOneGo)
     }
 }
 
+/** Locks and constraints are lifted while a recall sets what they refuse or bend, and hold again behind it. */
+TEST_P (SavedState, WithALockReplacesAnotherWithTheSameLock)
+{
+    struct Row
+    {
+        const char *lock, *saved, *held, *refused;
+    };
+    for (const auto* defer : { "defer 0", "defer 1" })
+        for (const auto& row : {
+                 Row{ "zoomlock 1", "zoom 2", "zoom 0.5", "zoom 3" },
+                 Row{ "radiusconstraint 1", "sourcespositions 3 0 0 0 4 0", "sourcespositions 1 1 0 2 0 0",
+                      "source 1 xyz 9 0 0" },
+                 Row{ "windowmoveable 0", "windowtopleft 10 20", "windowtopleft 30 40", nullptr },
+                 Row{ "globalproportion 0.2", "zoom 0.05", "zoom 1", nullptr },
+                 Row{ "showheadphones 1", "showspeakers 0", "showspeakers 1", nullptr },
+                 Row{ "display 0", "source 1 xyz 1 2 3", "source 1 xyz 3 2 1", nullptr },
+             }) {
+            SCOPED_TRACE (std::string (row.lock) + ", " + defer);
+            auto first = settled ("@numsources 2 @numspeakers 2");
+            auto second = settled ("@numsources 2 @numspeakers 2");
+            for (const auto& [box, change] : { std::pair (&first, row.saved), std::pair (&second, row.held) })
+                for (const auto* message : { defer, change, row.lock }) {
+                    box->send (message);
+                    settle();
+                }
+            ASSERT_NE (stateOf (first), stateOf (second));
+            bench::setState (*second, bench::stateOf (*first).value());
+            settle();
+            EXPECT_EQ (stateOf (first), stateOf (second));
+            if (row.refused == nullptr)
+                continue;
+            for (auto* box : { &first, &second }) {
+                box->send (row.refused);
+                settle();
+            }
+            EXPECT_EQ (stateOf (first), stateOf (second));
+        }
+}
+
+TEST_P (SavedState, APartOfAStateLeavesALockThatItDoesNotHold)
+{
+    struct Row
+    {
+        const char *lock, *value;
+    };
+    for (const auto& row : { Row{ "zoomlock 1", "zoom 2." }, Row{ "radiusconstraint 1", "sourcespositions 3. 0. 0." },
+                             Row{ "windowmoveable 0", "windowtopleft 10. 20." } }) {
+        auto box = settled ("@numsources 1");
+        box.send (row.lock);
+        settle();
+        const auto value = bench::messageOf (bench::wordsOf (row.value));
+        bench::putEntry ("part", value.selector->s_name, value.atoms);
+        EXPECT_EQ (saying (box, "dictionary part"), Messages()) << row.lock;
+        const auto lock = bench::messageOf (bench::wordsOf (row.lock));
+        EXPECT_EQ (box.attribute (lock.selector->s_name), bench::textOf (lock.atoms));
+        EXPECT_EQ (box.attribute (value.selector->s_name), bench::textOf (value.atoms));
+    }
+}
+
 TEST_P (SavedState, OfAnotherLengthChangesNothing)
 {
     auto box = settled();
@@ -126,18 +188,67 @@ TEST_P (SavedState, TravelsByDictionary)
 
 TEST_P (SavedState, TravelsByPreset)
 {
-    auto box = settled ("@numsources 2");
-    box.send ("gain 7");
+    auto box = settled ("@numsources 64 @numspeakers 64"); // 1,200 values: none is lost, whatever the road
+    for (const auto* change : { "gain 7", "zoffset 3" })
+        box.send (change);
     settle();
     const auto preset = bench::presetOf (*box);
     const bench::Atoms values (preset.begin() + 3, preset.end());
     EXPECT_EQ (bench::textOf (values), stateOf (box));
     EXPECT_EQ (preset[2].a_w.w_sym, gensym ("recallpreset"));
-    box.send ("gain 1");
+    for (const auto thread : { bench::Thread::main, bench::Thread::scheduler }) {
+        for (const auto* change : { "gain 1", "zoffset 0" })
+            box.send (change);
+        settle();
+        box.send ("recallpreset", values, thread);
+        settle();
+        EXPECT_EQ (bench::textOf (values), stateOf (box));
+    }
+    EXPECT_EQ (box.console(), Messages());
+}
+
+TEST_P (SavedState, GoesIntoNewMemoryUnlessTheCallerHasSome)
+{
+    auto box = settled();
+    std::vector<t_atom> callers (4000);
+    for (const t_clong room : { 0, 4000 }) {
+        auto count = room;
+        auto* atoms = callers.data();
+        ASSERT_EQ (orvanemax_getvalueof ((*box).object, &count, &atoms), MAX_ERR_NONE);
+        EXPECT_EQ (bench::textOf (bench::Atoms (atoms, atoms + count)), stateOf (box));
+        EXPECT_EQ (atoms == callers.data(), room > 0);
+        EXPECT_EQ (box.console(), room > 0 ? Messages{ "warn orvanemax_getvalueof : memory passed in" } : Messages());
+        if (room == 0)
+            sysmem_freeptr (atoms);
+    }
+}
+
+TEST_P (SavedState, ADictionaryIsEmptyOnceItsReceiversHaveReturned)
+{
+    patch.load (hook_main);
+    auto box = settled();
+    auto hook = make ("test.hook");
+    ASSERT_TRUE (patch.connect (*box, 1, *hook));
+    t_dictionary* kept = nullptr;
+    t_clong during = 0;
+    const auto entries = [&] {
+        t_clong count = 0;
+        t_symbol** keys = nullptr;
+        dictionary_getkeys (kept, &count, &keys);
+        dictionary_freekeys (kept, count, keys);
+        return count;
+    };
+    onHook() = [&] {
+        for (const auto& event : take (bench::Event::Kind::out, box->name))
+            kept = dictobj_findregistered_retain (atom_getsym (event.atoms.data()));
+        during = entries();
+    };
+    box.send ("dumpdict gain tr0");
     settle();
-    box.send ("recallpreset", values);
-    settle();
-    EXPECT_EQ (box.attribute ("gain"), "7.");
+    onHook() = nullptr;
+    EXPECT_EQ (during, 2);
+    EXPECT_EQ (entries(), 0);
+    dictobj_release (kept);
 }
 
 TEST_P (SavedState, BadDictionariesAreToldAndSendNothing)

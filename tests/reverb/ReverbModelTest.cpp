@@ -272,11 +272,21 @@ TEST (ReverbModel, TheHandThatHoldsAControlWinsOverMessages)
     model.hold (cell::ofFilter (1, 2));
     model.setFilter (1, { 1, 2, 3, 4, 500, 600 }, Edit::message);
     EXPECT_EQ (model.filter (1), (HLShelfParameters{ 1, 2, 0, 4, 500, 600 })) << "the other fields follow";
+    model.hold (cell::roomSize);
+    model.setRoomSize (3000, Edit::hand);
+    const float clusterOfTheHand = model.parameters().clusterEnd;
+    model.setRoomSize (500, Edit::message);
+    EXPECT_EQ (model.value (cell::roomSize), 3000);
+    EXPECT_EQ (model.parameters().clusterEnd, clusterOfTheHand);
+    model.release();
+    model.setRoomSize (halcyra::defaultRoomSize, Edit::message);
+    model.end();
     model.hold (parameter::earlyEnd);
+    const float heldEnd = model.parameters().earlyEnd;
     for (const int number : { 7, 8, 12, 13, 15 })
         model.set (number, 5);
-    EXPECT_EQ (model.parameters().earlyEnd, 39.71f);
-    EXPECT_GE (model.parameters().clusterEnd, 39.71f) << "the limits hold all the same";
+    EXPECT_EQ (model.parameters().earlyEnd, heldEnd);
+    EXPECT_GE (model.parameters().clusterEnd, heldEnd) << "the limits hold all the same";
     model.end();
     model.hold (parameter::earlyStart);
     const float held = model.parameters().earlyStart;

@@ -16,6 +16,7 @@
 #include <iostream>
 #include <iterator>
 #include <string>
+#include <string_view>
 #include <thread>
 
 #include <malloc.h>
@@ -34,6 +35,7 @@ constexpr int messagesABeat = 32; // per thread
 constexpr int beatsAnAct = 50;    // half a second
 constexpr int actsToWarmUp = 3;   // caches fill, symbols are made
 constexpr double memoryMayGrow = 256 * 1024;
+constexpr double nameOfADictionary = 128; // at most: each dumpdict makes a name of its own, and symbols are never freed
 
 /** One thread's messages: a filter and a source alternating, each different from the one before. */
 class Stream
@@ -124,7 +126,7 @@ public:
 
     bench::Bench patch;
     std::atomic<long> echoes{ 0 }, others{ 0 }, complaints{ 0 };
-    long acts = 0, lateBeats = 0, made = 0;
+    long acts = 0, lateBeats = 0, made = 0, dictionaries = 0;
 
 private:
     void hear (const bench::Event& event)
@@ -174,6 +176,8 @@ private:
         };
         const auto place = static_cast<std::size_t> (number) % std::size (messages);
         sendTo (guest, messages[place]);
+        if (messages[place] == std::string_view ("dumpdict"))
+            ++dictionaries;
         if (place + 1 == std::size (messages)) { // another replaces it while its window is open
             patch.free (guest);
             makeGuest();
@@ -256,7 +260,8 @@ int main (int argc, char** argv)
                      "%ld beats late\n",
                      elapsed(), soak.sent(), std::lround (static_cast<double> (soak.sent()) / elapsed()),
                      soak.echoes.load(), soak.others.load(), soak.acts, soak.made, soak.lateBeats);
-        tell ("memory", before.memory, after.memory, memoryMayGrow);
+        tell ("memory", before.memory, after.memory,
+              memoryMayGrow + nameOfADictionary * static_cast<double> (soak.dictionaries));
         tell ("handles", static_cast<double> (before.handles), static_cast<double> (after.handles), 0);
         tell ("threads", static_cast<double> (before.threads), static_cast<double> (after.threads), 0);
         tell ("windows", static_cast<double> (before.windows), static_cast<double> (after.windows), 0);

@@ -2,8 +2,8 @@
 
 #include "gui/plane/Colours.h"
 #include "gui/plane/Text.h"
-#include "gui/plane/objects/Limits.h"
-#include "gui/plane/view/Finite.h"
+#include "gui/scene/Finite.h"
+#include "gui/scene/Limits.h"
 
 #include <utility>
 
@@ -55,16 +55,8 @@ void PlaneBase::GetOptions (PlaneOptions& copy) const
 
 // ---- Listeners, and what setters have in common
 
-void PlaneBase::AddListener (PlaneListener* listener)
-{
-    if (listener != nullptr && std::find (listeners.begin(), listeners.end(), listener) == listeners.end())
-        listeners.push_back (listener);
-}
-
-void PlaneBase::RemoveListener (PlaneListener* listener)
-{
-    listeners.erase (std::remove (listeners.begin(), listeners.end(), listener), listeners.end());
-}
+void PlaneBase::AddListener (PlaneListener* listener) { listeners.add (listener); }
+void PlaneBase::RemoveListener (PlaneListener* listener) { listeners.remove (listener); }
 
 void PlaneBase::NotifyOptionsChanged()
 {

@@ -1,4 +1,5 @@
 #pragma once
+#include "common/OrvaneDspListeners.h"
 #include "gui/plane/ComponentWithOscInterface.h"
 #include "gui/plane/PlaneListener.h"
 #include "gui/plane/surface/Surface.h"
@@ -110,7 +111,10 @@ protected:
     virtual void UpdateScreenPositions();
 
     template <typename Call>
-    void Notify (Call&& call);
+    void Notify (Call&& call)
+    {
+        listeners.call (call);
+    }
     void NotifyOptionsChanged();
     /** Common end of most setters. */
     void SettingChanged();
@@ -134,7 +138,7 @@ private:
     void SetNumber (float& stored, float value);
     void SetOffset (float& stored, float pixels);
 
-    std::vector<PlaneListener*> listeners;
+    qel::ListenersInOrder<PlaneListener> listeners;
     std::int32_t repaintMode = 0;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (PlaneBase)
@@ -147,19 +151,6 @@ void PlaneBase::SetOption (Value& stored, const Value& value)
         return NotifyOptionsChanged();
     stored = value;
     SettingChanged();
-}
-
-/** Listeners may be added and removed during the call. */
-template <typename Call>
-void PlaneBase::Notify (Call&& call)
-{
-    for (std::size_t next = 0; next < listeners.size();) {
-        auto* listener = listeners[next];
-        call (*listener);
-        const auto place = std::find (listeners.begin(), listeners.end(), listener);
-        if (place != listeners.end())
-            next = static_cast<std::size_t> (place - listeners.begin()) + 1;
-    }
 }
 
 }

@@ -6,7 +6,7 @@
 #include "gui/plane/painting/Foreground.h"
 #include "gui/plane/painting/StaticLayer.h"
 #include "gui/plane/view/AutoZoom.h"
-#include "gui/plane/view/Finite.h"
+#include "gui/scene/Finite.h"
 
 #include <algorithm>
 
@@ -207,23 +207,7 @@ void PlaneComponent::AutoZoom (bool repaintNow)
 
 void PlaneComponent::NotifySelectionChanged()
 {
-    Notify ([this, selection = scene.Selection()] (PlaneListener& l) { l.SelectionChanged (selection, *this); });
-}
-
-void PlaneComponent::DeselectAllSources()
-{
-    for (auto& source : scene.sources)
-        source.selected = false;
-    surface.lasso = {};
-}
-
-/** Their selection excludes that of sources, and each other's. */
-void PlaneComponent::DeselectSpeakerAndListener()
-{
-    const int speakerBefore = scene.selectedSpeaker;
-    surface.options.listenerSelected = false;
-    SelectSpeaker (Scene::none);
-    NotifySpeakerSelection (speakerBefore);
+    Notify ([this, flags = scene.Selection()] (PlaneListener& l) { l.SelectionChanged (flags, *this); });
 }
 
 void PlaneComponent::SetSourceSelected (std::size_t index, bool selected, bool notify)
@@ -237,47 +221,19 @@ void PlaneComponent::SetSourceSelected (std::size_t index, bool selected, bool n
         NotifySelectionChanged();
 }
 
-void PlaneComponent::SetSelection (const PlaneListener::Flags& selection, bool notify)
+void PlaneComponent::SetSelection (const PlaneListener::Flags& selected, bool notify)
 {
-    for (std::size_t i = 0; i < std::min (selection.size(), scene.sources.size()); ++i)
-        scene.sources[i].selected = selection[i];
+    selection.SetSources (selected);
     repaint();
     if (notify)
         NotifySelectionChanged();
 }
 
-void PlaneComponent::GetSelection (PlaneListener::Flags& selection) const { selection = scene.Selection(); }
+void PlaneComponent::GetSelection (PlaneListener::Flags& selected) const { selected = scene.Selection(); }
 
 bool PlaneComponent::IsSourceSelected (std::size_t index) const
 {
     return index < scene.sources.size() && scene.sources[index].selected;
-}
-
-void PlaneComponent::SelectAllSources()
-{
-    if (! scene.AnySourceEditable())
-        return;
-    for (auto& source : scene.sources)
-        source.selected = source.selected || source.Editable();
-    DeselectSpeakerAndListener();
-    NotifySelectionChanged();
-    repaint();
-}
-
-/** Moves a single source's selection to the next one, if it is editable; otherwise deselects. */
-void PlaneComponent::SelectNextSource()
-{
-    const auto selection = scene.Selection();
-    if (! scene.AnySourceEditable() || std::count (selection.begin(), selection.end(), true) > 1)
-        return;
-    const auto selected = std::find (selection.begin(), selection.end(), true);
-    const auto next = selected == selection.end() ? 0 : static_cast<std::size_t> (selected - selection.begin() + 1);
-    DeselectAllSources();
-    auto& source = scene.sources[next % selection.size()];
-    source.selected = source.Editable();
-    DeselectSpeakerAndListener();
-    NotifySelectionChanged();
-    repaint();
 }
 
 void PlaneComponent::SetCircularConstraint (bool on, bool repaintNow)
@@ -290,37 +246,5 @@ void PlaneComponent::SetCircularConstraint (bool on, bool repaintNow)
 }
 
 void PlaneComponent::SetRadiusConstraint (bool on) { SetOption (surface.options.radiusConstraint, on); }
-
-// ---- Snapshots
-
-void PlaneComponent::StoreSnapshot (const qel::String& name) { snapshots.store (name, PositionsOf (scene.sources)); }
-
-/** By value: listeners notified of the move may change the store. */
-void PlaneComponent::ApplySnapshot (qel::Point3Array points) // NOLINT(performance-unnecessary-value-param)
-{
-    for (std::size_t i = 0; i < std::min (points.size(), scene.sources.size()); ++i)
-        SetSourcePosition (i, points[i], true);
-}
-
-void PlaneComponent::RecallSnapshot (const qel::String& name) { ApplySnapshot (snapshots.points (name)); }
-
-void PlaneComponent::RecallSnapshots (const qel::String& first, const qel::String& second, float amount)
-{
-    if (! AreFinite (amount))
-        return;
-    qel::Point3Array points;
-    snapshots.interpolate (points, first, second, amount);
-    ApplySnapshot (points);
-}
-
-void PlaneComponent::RemoveSnapshot (const qel::String& name) { snapshots.remove (name); }
-void PlaneComponent::RemoveAllSnapshots() { snapshots.removeAll(); }
-
-qel::Vector<qel::String> PlaneComponent::GetSnapshotNames() const
-{
-    qel::Vector<qel::String> names;
-    snapshots.listNames (names);
-    return names;
-}
 
 }

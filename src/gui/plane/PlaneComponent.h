@@ -2,7 +2,7 @@
 #include "geometry/OrvaneDspCoordinatesSnapshot.h"
 #include "gui/plane/PlaneBase.h"
 #include "gui/plane/interaction/Pointer.h"
-#include "gui/plane/objects/Scene.h"
+#include "gui/plane/objects/Selection.h"
 #include "gui/plane/view/ChangedParts.h"
 
 namespace lumo
@@ -19,9 +19,6 @@ public:
     /** A square of the given side, 100 to 1600 pixels; sources are in a ring, speakers in the default layout. */
     PlaneComponent (std::size_t numSources, std::size_t numSpeakers, int size);
     ~PlaneComponent() override;
-
-    /** For the layers. */
-    [[nodiscard]] const Plane::Scene& GetScene() const noexcept { return scene; }
 
     // ---- Sources. At most 256.
     void SetNumSources (std::size_t number, bool notify);
@@ -123,21 +120,11 @@ public:
 
     // ---- Selection, constraints and the automatic zoom.
     void SetSourceSelected (std::size_t index, bool selected, bool notify);
-    void SetSelection (const PlaneListener::Flags& selection, bool notify);
-    void GetSelection (PlaneListener::Flags& selection) const;
+    void SetSelection (const PlaneListener::Flags& flags, bool notify);
+    void GetSelection (PlaneListener::Flags& flags) const;
     [[nodiscard]] bool IsSourceSelected (std::size_t index) const;
     /** -1 if none. */
     [[nodiscard]] int GetSelectedSpeaker() const noexcept { return scene.selectedSpeaker; }
-    void SelectAllSources();
-    void SelectNextSource();
-    /** Selects the next clickable one; none after the last. */
-    void SelectNextSpeaker();
-    // Selects a single object, as a click does; objects that are not clickable are ignored.
-    void SelectSourceAlone (std::size_t index);
-    void SelectSpeakerAlone (std::size_t index);
-    void SelectListenerAlone();
-    /** Moves the selection by a step as a drag does; under the circular constraint it rotates. */
-    void MoveSelection (const qel::Point3& step);
     /** Drags rotate about the origin. */
     void SetCircularConstraint (bool on, bool repaintNow = true);
     /** Moves keep a source's distance. */
@@ -145,26 +132,6 @@ public:
     /** While on, every frame first zooms to fit the sources. */
     void RequestAutoZoom (bool on);
     void AutoZoom (bool repaintNow);
-
-    // ---- Snapshots of the source positions.
-    void StoreSnapshot (const qel::String& name);
-    void RecallSnapshot (const qel::String& name);
-    /** An amount of 0 recalls the first, 1 the second. */
-    void RecallSnapshots (const qel::String& first, const qel::String& second, float amount);
-    void RemoveSnapshot (const qel::String& name);
-    void RemoveAllSnapshots();
-    [[nodiscard]] qel::Vector<qel::String> GetSnapshotNames() const;
-    /** The store, to read and write files. */
-    [[nodiscard]] qel::CoordinatesSnapshotStore& GetSnapshots() noexcept { return snapshots; }
-
-    // ---- Undo of user edits: exact, bypassing constraints and wrapping, with notification. Angles in radians.
-    struct SourcePose
-    {
-        qel::Point3 position;
-        float yaw, yawOffset, aperture;
-    };
-    void RestoreSource (std::size_t index, const SourcePose& pose);
-    void RestoreListener (const qel::Point3& position, float yaw, float pitch, float roll);
 
     void UpdateScreenPositions() override;
     qel::OSCBundle getOscState() override;
@@ -177,9 +144,39 @@ public:
     void mouseDoubleClick (const juce::MouseEvent& event) override;
     void mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel) override;
     bool keyPressed (const juce::KeyPress& key) override;
+
+    // ==== What follows is our own choice of names; all above is what programs of the family call a plane by.
+
+    /** For the layers. */
+    [[nodiscard]] const Plane::Scene& GetScene() const noexcept { return scene; }
+    /** As many as both have. */
+    void SetSourcesPositions (qel::Point3Array positions, bool notify);
+    /** The snapshots of the sources' positions. */
+    [[nodiscard]] qel::CoordinatesSnapshotStore& GetSnapshots() noexcept { return snapshots; }
+
+    // ---- The keyboard and the menu.
+    void SelectAllSources();
+    void SelectNextSource();
+    // Selects a single object, as a click does; objects that are not clickable are ignored.
+    void SelectSourceAlone (std::size_t index);
+    void SelectSpeakerAlone (std::size_t index);
+    void SelectListenerAlone();
+    /** Moves the selection by a step as a drag does; under the circular constraint it rotates. */
+    void MoveSelection (const qel::Point3& step);
+    /** Selects the next clickable one; none after the last. */
+    void SelectNextSpeaker();
     void SendKeyCommand (int number);
     /** Handles a menu item. Not all known ids are on the menu; 0 and unknown ids are ignored. */
     void MenuItemChosen (int id);
+
+    // ---- Undo of user edits: exact, bypassing constraints and wrapping, with notification. Angles in radians.
+    struct SourcePose
+    {
+        qel::Point3 position;
+        float yaw, yawOffset, aperture;
+    };
+    void RestoreSource (std::size_t index, const SourcePose& pose);
+    void RestoreListener (const qel::Point3& position, float yaw, float pitch, float roll);
 
 private:
     [[nodiscard]] Plane::Source* SourceAt (std::size_t index);
@@ -226,18 +223,17 @@ private:
     void DrawParts (juce::Graphics& g, const juce::RectangleList<int>& parts);
     template <typename Call>
     void TellFromPaint (Call&& call);
-    void ApplySnapshot (qel::Point3Array points);
     void NotifySelectionChanged();
-    void DeselectAllSources();
-    void DeselectSpeakerAndListener();
 
-    template <typename Select>
-    void SelectAlone (Select&& select);
-    void SelectUnder (juce::Point<float> pixels, bool toggle);
-    void PressSource (Plane::Source& source, bool toggle);
-    void SelectSpeaker (int index);
+    /** For changes that may return false: nothing happened. */
+    template <typename Change>
+    void ChangeSelection (Change&& change);
+    template <typename Take>
+    void SelectAlone (Take&& take);
+    [[nodiscard]] Plane::Selection::Hit HitUnder (juce::Point<float> pixels) const;
     [[nodiscard]] Plane::Speaker* SelectedSpeaker();
-    void NotifySpeakerSelection (int before);
+    /** Repaints and notifies if the selected speaker is another one. */
+    void FinishSpeakerSelection (int before);
     void BeginLassoOrDrag();
     void DragLasso (juce::Point<float> pixels);
     void TurnDragged (const qel::Point3& from, const qel::Point3& to);
@@ -255,6 +251,7 @@ private:
     void SpeakSelection();
 
     Plane::Scene scene;
+    Plane::Selection selection{ scene, surface.options.listenerSelected };
     Plane::Pointer pointer;
     qel::CoordinatesSnapshotStore snapshots;
     bool listenerEnabled = true;

@@ -1,7 +1,7 @@
 #include "geometry/OrvaneDspSpherical.h"
 #include "gui/plane/PlaneComponent.h"
-#include "gui/plane/objects/Limits.h"
-#include "gui/plane/view/Finite.h"
+#include "gui/scene/Finite.h"
+#include "gui/scene/Limits.h"
 
 namespace lumo
 {

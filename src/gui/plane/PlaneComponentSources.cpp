@@ -3,9 +3,9 @@
 #include "gui/plane/Colours.h"
 #include "gui/plane/PlaneComponent.h"
 #include "gui/plane/Text.h"
-#include "gui/plane/objects/Limits.h"
 #include "gui/plane/painting/Extents.h"
-#include "gui/plane/view/Finite.h"
+#include "gui/scene/Finite.h"
+#include "gui/scene/Limits.h"
 
 namespace lumo
 {
@@ -78,6 +78,12 @@ void PlaneComponent::FinishSourceMove (std::size_t index, juce::Rectangle<int> b
         Notify ([&] (PlaneListener& l) { l.SourcePositionChanged (index, position); });
     if (const auto* moved = SourceAt (index)) // a listener may have changed the number of sources
         RepaintMove (before, PartOf (*moved));
+}
+
+void PlaneComponent::SetSourcesPositions (qel::Point3Array positions, bool notify) // a listener may change its origin
+{
+    for (std::size_t i = 0; i < std::min (positions.size(), scene.sources.size()); ++i)
+        SetSourcePosition (i, positions[i], notify);
 }
 
 void PlaneComponent::SetSourceDistance (std::size_t index, float metres, bool notify)

@@ -1,10 +1,10 @@
 #include "gui/plane/Colours.h"
 #include "gui/plane/PlaneComponent.h"
 #include "gui/plane/Text.h"
-#include "gui/plane/objects/Limits.h"
 #include "gui/plane/objects/Positions.h"
 #include "gui/plane/painting/Extents.h"
-#include "gui/plane/view/Finite.h"
+#include "gui/scene/Finite.h"
+#include "gui/scene/Limits.h"
 
 namespace lumo
 {

@@ -63,28 +63,8 @@ HLShelfFrequencyResponseComponent::HLShelfFrequencyResponseComponent (const juce
 
 HLShelfFrequencyResponseComponent::~HLShelfFrequencyResponseComponent() { model.removeListener (this); }
 
-void HLShelfFrequencyResponseComponent::addListener (Listener* listener)
-{
-    if (listener != nullptr && std::find (listeners.begin(), listeners.end(), listener) == listeners.end())
-        listeners.push_back (listener);
-}
-
-void HLShelfFrequencyResponseComponent::removeListener (Listener* listener)
-{
-    listeners.erase (std::remove (listeners.begin(), listeners.end(), listener), listeners.end());
-}
-
-template <typename Call>
-void HLShelfFrequencyResponseComponent::tellListeners (Call&& tell)
-{
-    for (std::size_t next = 0; next < listeners.size();) { // a listener may remove itself or others
-        auto* const listener = listeners[next];
-        tell (*listener);
-        const auto place = std::find (listeners.begin(), listeners.end(), listener);
-        if (place != listeners.end())
-            next = static_cast<std::size_t> (place - listeners.begin()) + 1;
-    }
-}
+void HLShelfFrequencyResponseComponent::addListener (Listener* listener) { listeners.add (listener); }
+void HLShelfFrequencyResponseComponent::removeListener (Listener* listener) { listeners.remove (listener); }
 
 void HLShelfFrequencyResponseComponent::reverbChanged (const halcyra::ReverbModel::Change& change)
 {
@@ -97,7 +77,7 @@ void HLShelfFrequencyResponseComponent::reverbChanged (const halcyra::ReverbMode
 void HLShelfFrequencyResponseComponent::filterTold (HalcyraFilter told)
 {
     if (told == number)
-        tellListeners ([this] (Listener& l) { l.filterChanged (this); });
+        listeners.call ([this] (Listener& l) { l.filterChanged (this); });
 }
 
 void HLShelfFrequencyResponseComponent::setParameters (const HLShelfParameters& wish, bool notify, bool force)
@@ -112,7 +92,7 @@ void HLShelfFrequencyResponseComponent::setField (std::size_t field, float value
 
 void HLShelfFrequencyResponseComponent::requestClose()
 {
-    tellListeners ([] (Listener& l) { l.filterClose(); });
+    listeners.call ([] (Listener& l) { l.filterClose(); });
 }
 
 halcyra::HLShelfScale HLShelfFrequencyResponseComponent::scale() const noexcept

@@ -1,4 +1,5 @@
 #pragma once
+#include "common/OrvaneDspListeners.h"
 #include "gui/plane/LumoComponent.h"
 #include "gui/verb/HLShelfGrid.h"
 #include "gui/verb/SelfWakingModel.h"
@@ -75,8 +76,6 @@ private:
 
     HLShelfFrequencyResponseComponent (const juce::String& name, std::unique_ptr<halcyra::SelfWakingModel> own);
 
-    template <typename Call>
-    void tellListeners (Call&& tell);
     void reverbChanged (const halcyra::ReverbModel::Change& change) override;
     void filterTold (HalcyraFilter told) override;
     void setField (std::size_t field, float value, halcyra::Edit edit);
@@ -99,7 +98,7 @@ private:
     bool stale = true; // recompute the response at the next paint
     int selectedHandle = none;
     bool hovered = false; // from mouse events alone: they need not come from the real pointer
-    std::vector<Listener*> listeners;
+    qel::ListenersInOrder<Listener> listeners;
 
     JUCE_DECLARE_NON_COPYABLE_WITH_LEAK_DETECTOR (HLShelfFrequencyResponseComponent)
 };

@@ -157,7 +157,9 @@ TEST (PlaneBadNumbers, NeverReachAnObject)
         plane.SetMarkerProportion (bad);
         plane.SetBackgroundImageScale (bad);
         plane.SetBackgroundImageAngle (bad);
-        plane.RecallSnapshots ("a", "b", bad);
+        qel::Point3Array between;
+        plane.GetSnapshots().interpolate (between, "a", "b", bad);
+        plane.SetSourcesPositions (between, true);
     }
     plane.SetSourceColour (0, notANumber, 0, 0, 1, true);
     plane.SetBackgroundColour (0, notANumber, 0, 1);
@@ -218,8 +220,7 @@ TEST (PlaneWithoutObjects, WorksOnEveryPath)
     for (const int key : { int{ 'a' }, int{ 's' }, int{ 'v' }, int{ 'g' }, int{ juce::KeyPress::tabKey } })
         plane.keyPressed (juce::KeyPress (key, 0, 0));
     plane.keyPressed (juce::KeyPress ('a', juce::ModifierKeys::ctrlModifier, 0));
-    plane.StoreSnapshot ("empty");
-    plane.RecallSnapshot ("empty");
+    plane.SetSourcesPositions ({}, true);
     plane.SetSelection ({ true, false }, true);
     static_cast<void> (Picture (plane));
     plane.setSize (0, 0);

@@ -1,4 +1,5 @@
 #include "PlaneRecorder.h"
+#include "gui/plane/objects/Positions.h"
 
 #include <gmock/gmock.h>
 
@@ -288,23 +289,21 @@ TEST (PlaneAreas, ReportWhoStandsInThem)
     EXPECT_THAT (heard.Take(), SizeIs (2)) << "the source once for each area";
 }
 
-TEST (PlaneSnapshots, AreStoredRecalledAndMixed)
+TEST (PlaneSnapshots, MoveTheSourcesThatBothHaveAndNotify)
 {
     PlaneComponent plane (2, 0, 300);
-    plane.StoreSnapshot ("ring");
-    plane.SetSourcePosition (0, { 0, 3, 0 }, false);
-    plane.StoreSnapshot ("far");
+    auto& snapshots = plane.GetSnapshots();
+    snapshots.store ("ring", lumo::Plane::PositionsOf (plane.GetScene().sources));
+    snapshots.store ("far", { { 0, 3, 0 }, { 0, -1, 0 }, { 9, 9, 9 } });
     PlaneRecorder heard (plane);
-    plane.RecallSnapshots ("ring", "far", 0.5f);
+    qel::Point3Array between;
+    snapshots.interpolate (between, "ring", "far", 0.5f);
+    plane.SetSourcesPositions (between, true);
     EXPECT_THAT (heard.Take(), ElementsAre ("source 0 0.00 2.00 0.00", "source 1 0.00 -1.00 0.00"));
-    plane.RecallSnapshot ("ring");
-    ExpectNear (plane.GetSourcePosition (0), { 0, 1, 0 });
-    static_cast<void> (heard.Take());
-    plane.RecallSnapshot ("no such");
-    plane.RecallSnapshots ("ring", "no such", 0.5f);
+    plane.SetSourcesPositions (snapshots.points ("far"), false);
+    ExpectNear (plane.GetSourcePosition (0), { 0, 3, 0 });
+    plane.SetSourcesPositions (snapshots.points ("no such"), true);
     EXPECT_THAT (heard.Take(), IsEmpty());
-    plane.RemoveSnapshot ("ring");
-    EXPECT_EQ (plane.GetSnapshotNames(), qel::Vector<qel::String>{ "far" });
 }
 
 TEST (PlaneListeners, HearInTheOrderOfAddingAndMayLeaveDuringACall)

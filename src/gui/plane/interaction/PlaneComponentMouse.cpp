@@ -3,6 +3,7 @@
 #include "gui/plane/interaction/HitTest.h"
 #include "gui/plane/interaction/PlaneMenu.h"
 #include "gui/plane/objects/Positions.h"
+#include "gui/scene/Steps.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,29 +18,6 @@ namespace
 
 constexpr float degreesPerWheel = 20.0f;
 constexpr float octavesPerWheel = 0.15f;
-
-float AngleInView (const qel::Point3& point, bool topView)
-{
-    return topView ? std::atan2 (point.y, point.x) : std::atan2 (point.z, point.x);
-}
-
-/** The view may have changed since the last step: the hidden axis is kept. */
-qel::Point3 StepInView (const qel::Point3& from, const qel::Point3& to, bool topView)
-{
-    auto step = to - from;
-    (topView ? step.z : step.y) = 0;
-    return step;
-}
-
-qel::Point3 Turned (const qel::Point3& p, float angle, bool topView)
-{
-    if (angle == 0.0f)
-        return p;
-    const float c = std::cos (angle), s = std::sin (angle);
-    if (topView)
-        return { p.x * c - p.y * s, p.y * c + p.x * s, p.z };
-    return { p.x * c - p.z * s, p.y, p.z * c + p.x * s };
-}
 
 }
 
@@ -60,101 +38,27 @@ void PlaneComponent::mouseDown (const juce::MouseEvent& event)
     Notify ([this] (PlaneListener& l) { l.PointerMoved (pointer.last); });
 
     const int speakerBefore = scene.selectedSpeaker;
-    SelectUnder (event.position, event.mods.isShiftDown());
-    NotifySpeakerSelection (speakerBefore);
+    selection.Press (HitUnder (event.position), event.mods.isShiftDown());
+    FinishSpeakerSelection (speakerBefore);
     BeginLassoOrDrag();
     NotifySelectionChanged();
     repaint();
 }
 
-// ---- Selection without the mouse
+// ---- Selection
 
-template <typename Select>
-void PlaneComponent::SelectAlone (Select&& select)
+Selection::Hit PlaneComponent::HitUnder (juce::Point<float> pixels) const
 {
-    const int speakerBefore = scene.selectedSpeaker;
-    DeselectAllSources();
-    surface.options.listenerSelected = false;
-    SelectSpeaker (Scene::none);
-    select();
-    NotifySpeakerSelection (speakerBefore);
-    NotifySelectionChanged();
-    repaint();
+    return { SourceUnder (pixels, surface, scene), IsListenerUnder (pixels, surface),
+             SpeakerUnder (pixels, surface, scene) };
 }
 
-void PlaneComponent::SelectSourceAlone (std::size_t index)
-{
-    if (auto* source = SourceAt (index); source != nullptr && IsClickable (*source))
-        SelectAlone ([&] { source->selected = true; });
-}
-
-void PlaneComponent::SelectSpeakerAlone (std::size_t index)
-{
-    if (const auto* speaker = SpeakerAt (index); speaker != nullptr && IsClickable (*speaker, surface))
-        SelectAlone ([&] { SelectSpeaker (static_cast<int> (index)); });
-}
-
-void PlaneComponent::SelectListenerAlone()
-{
-    if (surface.listener.editable && surface.listener.visible)
-        SelectAlone ([this] { surface.options.listenerSelected = true; });
-}
-
-void PlaneComponent::SelectNextSpeaker()
-{
-    const auto first = scene.speakers.begin() + (scene.selectedSpeaker + 1);
-    const auto next = std::find_if (first, scene.speakers.end(),
-                                    [this] (const Speaker& speaker) { return IsClickable (speaker, surface); });
-    if (next != scene.speakers.end())
-        SelectSpeakerAlone (static_cast<std::size_t> (next - scene.speakers.begin()));
-    else if (scene.selectedSpeaker != Scene::none)
-        SelectAlone ([] {});
-}
-
-/** Speakers take precedence over the listener, the listener over sources. */
-void PlaneComponent::SelectUnder (juce::Point<float> pixels, bool toggle)
-{
-    surface.options.listenerSelected = false;
-    SelectSpeaker (Scene::none);
-    if (const int source = SourceUnder (pixels, surface, scene); source != Scene::none)
-        PressSource (scene.sources[static_cast<std::size_t> (source)], toggle);
-    else
-        DeselectAllSources();
-    if (IsListenerUnder (pixels, surface)) {
-        DeselectAllSources();
-        surface.options.listenerSelected = true;
-    }
-    if (const int speaker = SpeakerUnder (pixels, surface, scene); speaker != Scene::none) {
-        DeselectAllSources();
-        surface.options.listenerSelected = false;
-        SelectSpeaker (speaker);
-    }
-}
-
-void PlaneComponent::PressSource (Source& source, bool toggle)
-{
-    if (toggle) {
-        source.selected = ! source.selected;
-        return;
-    }
-    if (! source.selected)
-        DeselectAllSources();
-    source.selected = true;
-}
-
-void PlaneComponent::SelectSpeaker (int index)
-{
-    if (scene.selectedSpeaker == index)
-        return;
-    scene.selectedSpeaker = index;
-    MarkStaticLayerDirty();
-}
-
-void PlaneComponent::NotifySpeakerSelection (int before)
+void PlaneComponent::FinishSpeakerSelection (int before)
 {
     const int now = scene.selectedSpeaker;
     if (now == before)
         return;
+    MarkStaticLayerDirty();
     const auto tell = [this] (int index, bool selected) {
         if (index != Scene::none)
             Notify ([&] (PlaneListener& l) {
@@ -165,10 +69,76 @@ void PlaneComponent::NotifySpeakerSelection (int before)
     tell (before, false);
 }
 
+template <typename Change>
+void PlaneComponent::ChangeSelection (Change&& change)
+{
+    const int speakerBefore = scene.selectedSpeaker;
+    if (! change())
+        return;
+    FinishSpeakerSelection (speakerBefore);
+    NotifySelectionChanged();
+    repaint();
+}
+
+void PlaneComponent::SelectAllSources()
+{
+    ChangeSelection ([this] { return selection.TakeAllSources(); });
+}
+
+void PlaneComponent::SelectNextSource()
+{
+    ChangeSelection ([this] {
+        if (! selection.TakeNextSource())
+            return false;
+        surface.lasso = {};
+        return true;
+    });
+}
+
+template <typename Take>
+void PlaneComponent::SelectAlone (Take&& take)
+{
+    ChangeSelection ([&] {
+        take();
+        surface.lasso = {};
+        return true;
+    });
+}
+
+void PlaneComponent::SelectSourceAlone (std::size_t index)
+{
+    if (const auto* source = SourceAt (index); source != nullptr && IsClickable (*source))
+        SelectAlone ([&] { selection.TakeSource (index); });
+}
+
+void PlaneComponent::SelectSpeakerAlone (std::size_t index)
+{
+    if (const auto* speaker = SpeakerAt (index); speaker != nullptr && IsClickable (*speaker, surface))
+        SelectAlone ([&] { selection.TakeSpeaker (index); });
+}
+
+void PlaneComponent::SelectListenerAlone()
+{
+    if (surface.listener.editable && surface.listener.visible)
+        SelectAlone ([this] { selection.TakeListener(); });
+}
+
+void PlaneComponent::SelectNextSpeaker()
+{
+    const auto first = scene.speakers.begin() + (scene.selectedSpeaker + 1);
+    const auto next = std::find_if (first, scene.speakers.end(),
+                                    [this] (const Speaker& speaker) { return IsClickable (speaker, surface); });
+    if (next != scene.speakers.end())
+        SelectSpeakerAlone (static_cast<std::size_t> (next - scene.speakers.begin()));
+    else if (scene.selectedSpeaker != Scene::none)
+        SelectAlone ([this] { selection.Clear(); });
+}
+
+// ---- Lasso and drag
+
 void PlaneComponent::BeginLassoOrDrag()
 {
-    const bool anySelected =
-        scene.AnySourceSelected() || surface.options.listenerSelected || scene.selectedSpeaker != Scene::none;
+    const bool anySelected = selection.Any();
     surface.lasso = { {}, ! anySelected && scene.AnySourceEditable() };
     setMouseCursor (anySelected            ? juce::MouseCursor::DraggingHandCursor
                     : surface.lasso.active ? juce::MouseCursor::UpDownLeftRightResizeCursor
@@ -243,7 +213,7 @@ void PlaneComponent::MoveSelectedSources (Move&& move)
 void PlaneComponent::TurnDragged (const qel::Point3& from, const qel::Point3& to)
 {
     const bool topView = surface.viewTransform.topView;
-    const float angle = AngleInView (to, topView) - AngleInView (from, topView);
+    const float angle = TurnInView (from, to, topView);
     const auto turn = [&] (const qel::Point3& p) { return Turned (p, angle, topView); };
 
     if (auto* speaker = SelectedSpeaker(); speaker != nullptr && speaker->editable) {

@@ -1,7 +1,7 @@
 #include "gui/plane/objects/Source.h"
 
 #include "geometry/OrvaneDspSpherical.h"
-#include "gui/plane/objects/Limits.h"
+#include "gui/scene/Limits.h"
 
 #include <algorithm>
 #include <cmath>

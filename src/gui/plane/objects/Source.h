@@ -1,7 +1,7 @@
 #pragma once
 #include "gui/plane/icons/Icons.h"
-#include "gui/plane/objects/Orientation.h"
 #include "gui/plane/painting/Caption.h"
+#include "gui/scene/Orientation.h"
 
 namespace lumo::Plane
 {

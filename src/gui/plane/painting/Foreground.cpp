@@ -1,8 +1,8 @@
 #include "gui/plane/painting/Foreground.h"
 
-#include "gui/plane/objects/Limits.h"
 #include "gui/plane/painting/Drawing.h"
 #include "gui/plane/painting/Extents.h"
+#include "gui/scene/Limits.h"
 
 #include <algorithm>
 #include <cmath>

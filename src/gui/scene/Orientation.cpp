@@ -1,4 +1,4 @@
-#include "gui/plane/objects/Orientation.h"
+#include "gui/scene/Orientation.h"
 
 #include "geometry/OrvaneDspSpherical.h"
 
