@@ -145,7 +145,7 @@ public:
     void mouseWheelMove (const juce::MouseEvent& event, const juce::MouseWheelDetails& wheel) override;
     bool keyPressed (const juce::KeyPress& key) override;
 
-    // ==== What follows is our own choice of names; all above is what programs of the family call a plane by.
+    // ==== Names of our own from here on; programs of the family use those above.
 
     /** For the layers. */
     [[nodiscard]] const Plane::Scene& GetScene() const noexcept { return scene; }

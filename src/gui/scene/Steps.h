@@ -1,17 +1,17 @@
 #pragma once
 #include "geometry/OrvaneDspPoint3.h"
 
-/** What one step of a drag does to a position: it moves or turns in the plane of the view. Metres and radians. */
+/** How one drag step changes a position: it moves or rotates in the plane of the view. Metres and radians. */
 namespace lumo::Plane
 {
 
-/** From one point to the next, without the axis hidden by the view: the view may have changed between the two. */
+/** The step between two points, without the axis hidden by the view, because the view may have changed in between. */
 [[nodiscard]] qel::Point3 StepInView (const qel::Point3& from, const qel::Point3& to, bool topView) noexcept;
 
 /** The angle from one point to the next about the origin. */
 [[nodiscard]] float TurnInView (const qel::Point3& from, const qel::Point3& to, bool topView) noexcept;
 
-/** A point turned about the origin; the coordinate hidden by the view stays, and so does every one at an angle of 0. */
+/** Rotates a point about the origin; keeps the hidden coordinate, and all coordinates if the angle is 0. */
 [[nodiscard]] qel::Point3 Turned (const qel::Point3& point, float angle, bool topView) noexcept;
 
 }

@@ -7,7 +7,7 @@ using namespace lumo::Plane;
 namespace
 {
 
-/** Five sources, of which the fourth is not editable, and three speakers; no component. */
+/** Five sources, the fourth not editable, and three speakers; no component. */
 class PlaneSelection : public testing::Test
 {
 protected:
@@ -20,7 +20,7 @@ protected:
         scene.sources[3].SetEditable (false);
     }
 
-    /** The selected sources, "L" for the listener, the selected speaker behind "S". */
+    /** The selected sources, "L" for the listener, the selected speaker after "S". */
     std::string Selected() const
     {
         std::string text;
@@ -56,7 +56,7 @@ TEST_F (PlaneSelection, FollowsThePressOnWhatLiesOnTop)
              Row{ { 1 }, true, "2" },
              Row{ { 0 }, false, "0" },
              Row{ { 0, true }, false, "L" },
-             Row{ { 2 }, true, "2" }, // and lets go of the listener
+             Row{ { 2 }, true, "2" }, // and deselects the listener
              Row{ { 2, true, 1 }, false, "S1" },
              Row{ { Scene::none, true }, true, "L" },
              Row{ { Scene::none, false, 0 }, true, "S0" },

@@ -4,8 +4,8 @@
 namespace lumo::Plane
 {
 
-/** The rules of the selection: any number of sources, or one speaker, or the listener. Keeps nothing itself: the flags
-    are the sources' `selected`, the scene's `selectedSpeaker` and the options' `listenerSelected`. Tells nobody. */
+/** The rules of the selection: any number of sources, or one speaker, or the listener. Stores nothing: the flags are
+    the sources' `selected`, the scene's `selectedSpeaker` and the options' `listenerSelected`. Does not notify. */
 class Selection
 {
 public:
@@ -24,21 +24,21 @@ public:
 
     [[nodiscard]] bool Any() const;
 
-    /** A click. A speaker takes precedence over the listener, the listener over sources. A source that is selected keeps
-        the others selected; with toggle it changes alone. Nothing under the pointer selects nothing. */
+    /** A click. Speakers take precedence over the listener, the listener over sources. Clicking a selected source keeps
+        the others selected; with toggle it toggles only that one. Clicking nothing deselects all. */
     void Press (const Hit& hit, bool toggle);
 
     void Clear();
     void ClearSources();
-    // One object and nothing else.
+    // Selects a single object.
     void TakeSource (std::size_t index);
     void TakeSpeaker (std::size_t index);
     void TakeListener();
 
-    /** Every editable source, besides those that are selected. False, and nothing changes, if no source is editable. */
+    /** Adds every editable source to the selection. Returns false and changes nothing if no source is editable. */
     bool TakeAllSources();
-    /** With one source selected the next one takes over, or none if that is not editable; with none, the first. False,
-        and nothing changes, if several are selected or no source is editable. */
+    /** Moves a single source's selection to the next one, or deselects if that is not editable; with none selected,
+        selects the first. Returns false and changes nothing if several are selected or no source is editable. */
     bool TakeNextSource();
     /** As many as both have. */
     void SetSources (const std::vector<bool>& flags);
