@@ -291,7 +291,7 @@ ROWS = [
     ("src/gui/verb/HalcyraComponent.cpp", "stepsOfClicks = history.joinNewest (stepsOfClicks + 1);", "stepsOfClicks = 0;",
      "a double click takes two undos"),
     ("src/gui/verb/HalcyraComponent.cpp", "    model.forgetWaiting();\n", "", "a bang tells what waits twice"),
-    ("src/gui/verb/HalcyraComponent.cpp", "return true;\n        }\n    if (key == closeKey)", "return false;\n        }\n    if (key == closeKey)",
+    ("src/gui/verb/HalcyraComponent.cpp", "(this->*row.act)();\n            return true;", "(this->*row.act)();\n            return false;",
      "the keys of undo reach the host too"),
     ("src/gui/verb/ImpulseResponseComponent.cpp", "repaint (before.getUnion (decayExtent()));", "repaint (before);", "a lost repaint of the picture"),
 

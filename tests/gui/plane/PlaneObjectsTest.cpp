@@ -348,3 +348,17 @@ TEST (PlanePoses, ComeBackWholeAndAreTold)
     EXPECT_EQ (now, wish);
     EXPECT_THAT (heard.Take ("orientation"), ElementsAre ("orientation 29.22 29.79 30.37")); // 0.51 to 0.53 radians
 }
+
+TEST (PlaneSpeakers, SelectedOnesStayWhenTheyMayNoLongerBeEdited)
+{
+    PlaneComponent plane (1, 2, 300);
+    for (const bool circular : { false, true }) {
+        plane.SetCircularConstraint (circular);
+        plane.SetSpeakersEditable (true, true);
+        plane.SelectSpeakerAlone (1);
+        const auto before = plane.GetSpeakerPosition (1);
+        plane.SetSpeakersEditable (false, true);
+        plane.MoveSelection ({ 1, 1, 0 });
+        ExpectNear (plane.GetSpeakerPosition (1), before);
+    }
+}
