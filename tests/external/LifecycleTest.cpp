@@ -1,6 +1,7 @@
 #include "ControlTest.h"
 #include "EveryMessage.h"
 
+#include "gui/verb/HalcyraComponent.h"
 #include "host/bench/Objects.h"
 
 #include <juce_gui_basics/juce_gui_basics.h>
@@ -110,8 +111,11 @@ TEST_P (Lifecycle, TheWindowOpensOnceAndIsHidden)
     box.send ("wclose");
     settle();
     EXPECT_EQ (box.window(), Messages{ "hidden" });
+    const auto& component = *box.record<t_halcyra_control>()->component;
+    EXPECT_FALSE (component.isShowing());
     box.send ("open");
     settle();
+    EXPECT_TRUE (component.isShowing());
     box.free();
     settle();
 }

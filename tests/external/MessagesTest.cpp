@@ -213,12 +213,12 @@ TEST_P (MessagesIn, ListsHoldAsManyValuesAsThereAreObjectsOfTheirKind)
                 const int count = list.valuesEach * (list.isOfSpeakers ? speakers : sources);
                 std::string kept, more;
                 for (int i = 0; i < count + tooMany; ++i)
-                    (i < count ? kept : more) += " " + list.value (i);
+                    (i < count ? kept : more).append (" ").append (list.value (i));
                 const auto before = box.attribute (list.attribute);
                 box.send (list.attribute + kept + more);
                 settle();
                 if (tooMany < 0)
-                    kept = list.valuesEach == 3 ? kept + before.substr (before.rfind (' ')) : " " + before;
+                    kept = list.valuesEach == 3 ? kept.append (before, before.rfind (' ')) : " " + before;
                 EXPECT_EQ (" " + box.attribute (list.attribute), kept)
                     << list.attribute << " of " << count << " + " << tooMany;
                 box.free();

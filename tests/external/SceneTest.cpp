@@ -1,5 +1,6 @@
 #include "ControlTest.h"
 
+#include "external/ViewerAttributes.h"
 #include "gui/plane/PlaneComponent.h"
 #include "support/bench/HookClass.h"
 
@@ -210,5 +211,25 @@ TEST_P (Scene, AttributesHoldWhatWasDoneBeforeAnythingIsTold)
         EXPECT_THAT (box.notifications(), testing::Contains ("attr_modified"));
         EXPECT_FALSE (heard.empty());
         box.free();
+    }
+}
+
+TEST_P (Scene, AGetterFillsNoMoreThanTheMemoryThatItIsGiven)
+{
+    auto box = settled ("@numsources 4 @yaw 1 2 3 4");
+    auto* attribute = object_attr_get ((*box).object, gensym ("yaw"));
+    for (const t_clong room : { 1, 3, 4, 6 }) {
+        bench::Atoms given (8);
+        for (auto& atom : given)
+            atom_setlong (&atom, -7);
+        auto count = room;
+        auto* atoms = given.data();
+        const auto* const memory = atoms;
+        EXPECT_EQ (halcyra_control_per_source_get (box.record<t_halcyra_control>(), attribute, &count, &atoms),
+                   MAX_ERR_NONE);
+        EXPECT_EQ (atoms, memory);
+        EXPECT_EQ (count, std::min (room, 4));
+        EXPECT_EQ (atom_getfloat (&given[static_cast<std::size_t> (count) - 1]), count);
+        EXPECT_EQ (atom_getlong (&given[static_cast<std::size_t> (count)]), -7);
     }
 }

@@ -291,7 +291,7 @@ ROWS = [
     ("src/gui/verb/HalcyraComponent.cpp", "stepsOfClicks = history.joinNewest (stepsOfClicks + 1);", "stepsOfClicks = 0;",
      "a double click takes two undos"),
     ("src/gui/verb/HalcyraComponent.cpp", "    model.forgetWaiting();\n", "", "a bang tells what waits twice"),
-    ("src/gui/verb/HalcyraComponent.cpp", "return true;\n        }\n    if (key == closeKey)", "return false;\n        }\n    if (key == closeKey)",
+    ("src/gui/verb/HalcyraComponent.cpp", "(this->*row.act)();\n            return true;", "(this->*row.act)();\n            return false;",
      "the keys of undo reach the host too"),
     ("src/gui/verb/ImpulseResponseComponent.cpp", "repaint (before.getUnion (decayExtent()));", "repaint (before);", "a lost repaint of the picture"),
 
@@ -351,10 +351,13 @@ ROWS = [
 ]
 
 # Rows that were planted and seen caught: CI runs five of them. Add a row's number once you have seen it caught.
-CAUGHT = [0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 21, 25, 26, 27, 28, 29, 30, 31, 32, 33, 35,
-          63, 64, 65, 66, 67, 68, 69, 70, 71, 72, 83, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112, 113, 114,
-          115, 116, 117, 119, 121, 122, 123, 124, 144, 145, 146, 147, 163, 164, 165, 166, 170, 174, 175, 176, 177,
-          178]
+CAUGHT = [0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28,
+          29, 30, 31, 32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 42, 44, 45, 46, 47, 48, 49, 50, 51, 52, 53, 54, 55,
+          56, 57, 58, 59, 60, 61, 62, 63, 64, 65, 66, 67, 68, 69, 70, 71, 72, 73, 74, 75, 76, 77, 78, 79, 80, 81,
+          82, 83, 84, 86, 87, 88, 89, 90, 91, 92, 93, 94, 95, 96, 97, 98, 99, 100, 101, 102, 103, 104, 105, 106,
+          107, 108, 109, 110, 111, 112, 113, 114, 115, 116, 117, 118, 119, 120, 121, 122, 123, 124, 125, 126, 127,
+          128, 129, 130, 131, 132, 133, 134, 135, 136, 137, 138, 139, 140, 141, 142, 143, 144, 145, 146, 147, 148,
+          149, 150, 151, 152, 153, 154, 155, 158, 159, 160, 163, 164, 165, 166, 170, 174, 175, 176, 177, 178]
 
 # Rows that no test catches, with the reason; CI skips them.
-SURVIVORS = {}
+SURVIVORS = {43: "no attribute of the object changes the number of its values once the object is made"}

@@ -163,6 +163,14 @@ TEST (ReverbModel, SingleTimesStopAtTheirNeighboursAndFiveInOneTurnAreARecall)
     model.set (parameter::earlyStart, 119);
     EXPECT_EQ (model.parameters().earlyEnd, earlyEnd) << "a room size begins anew";
     EXPECT_EQ (model.parameters().earlyStart, earlyEnd);
+    model.end();
+    for (const auto number :
+         { parameter::reverbStart, parameter::clusterEnd, parameter::clusterStart, parameter::earlyEnd })
+        model.set (number, 100);
+    model.setParameter (parameter::earlyEnd, 60, Edit::hand);
+    model.set (parameter::earlyStart, 119);
+    EXPECT_EQ (model.parameters().earlyEnd, 60) << "and so does the hand";
+    EXPECT_EQ (model.parameters().earlyStart, 60);
 }
 
 /** Random edits, as a patcher or a user could make them. */

@@ -1,6 +1,8 @@
 #include "PlaneRecorder.h"
 #include "gui/plane/objects/Positions.h"
 
+#include "gui/plane/ScenePoses.h"
+
 #include <gmock/gmock.h>
 
 using lumo::PlaneComponent;
@@ -330,4 +332,32 @@ TEST (PlaneListeners, HearInTheOrderOfAddingAndMayLeaveDuringACall)
     plane.SetSourceRadius (0, 2, true);
     plane.SetSourceRadius (0, 3, true);
     EXPECT_EQ (log, "abcac");
+}
+
+TEST (PlanePoses, ComeBackWholeAndAreTold)
+{
+    PlaneComponent plane (2, 2, 300);
+    lumo::poses::Poses wish, now;
+    lumo::poses::read (plane, wish);
+    for (std::size_t i = 0; i < wish.size(); ++i)
+        wish[i] = 0.3f + 0.01f * static_cast<float> (i); // no two numbers are alike
+    PlaneRecorder heard (plane);
+    lumo::poses::restore (plane, wish);
+    lumo::poses::read (plane, now);
+    EXPECT_EQ (now, wish);
+    EXPECT_THAT (heard.Take ("orientation"), ElementsAre ("orientation 29.22 29.79 30.37")); // 0.51 to 0.53 radians
+}
+
+TEST (PlaneSpeakers, SelectedOnesStayWhenTheyMayNoLongerBeEdited)
+{
+    PlaneComponent plane (1, 2, 300);
+    for (const bool circular : { false, true }) {
+        plane.SetCircularConstraint (circular);
+        plane.SetSpeakersEditable (true, true);
+        plane.SelectSpeakerAlone (1);
+        const auto before = plane.GetSpeakerPosition (1);
+        plane.SetSpeakersEditable (false, true);
+        plane.MoveSelection ({ 1, 1, 0 });
+        ExpectNear (plane.GetSpeakerPosition (1), before);
+    }
 }
