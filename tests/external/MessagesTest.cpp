@@ -215,11 +215,12 @@ TEST_P (MessagesIn, ListsHoldAsManyValuesAsThereAreObjectsOfTheirKind)
                 for (int i = 0; i < count + tooMany; ++i)
                     (i < count ? kept : more).append (" ").append (list.value (i));
                 const auto before = box.attribute (list.attribute);
-                box.send (list.attribute + kept + more);
+                box.send (std::string (list.attribute).append (kept).append (more));
                 settle();
                 if (tooMany < 0)
-                    kept = list.valuesEach == 3 ? kept.append (before, before.rfind (' ')) : " " + before;
-                EXPECT_EQ (" " + box.attribute (list.attribute), kept)
+                    kept = list.valuesEach == 3 ? kept.append (before, before.rfind (' '))
+                                                : std::string (" ").append (before);
+                EXPECT_EQ (std::string (" ").append (box.attribute (list.attribute)), kept)
                     << list.attribute << " of " << count << " + " << tooMany;
                 box.free();
             }
