@@ -1,10 +1,14 @@
 #include "ControlTest.h"
+#include "EveryMessage.h"
 
 #include "external/ViewerAttributes.h"
 #include "gui/plane/PlaneComponent.h"
+#include "max/AttributeList.h"
 #include "support/bench/HookClass.h"
 
 #include <cmath>
+#include <map>
+#include <set>
 
 CONTROL_TESTS (Scene);
 
@@ -50,6 +54,7 @@ const Reach reaches[] = {
     { "gridcolor 1 0 0 1", 0xFFFF0000, HELD (GetSurface().grid.colour.getARGB()) },
     { "backgroundcolor 0 1 0 1", 0xFF00FF00, HELD (GetSurface().background.colour.getARGB()) },
     { "aperturecolor 0 0 1 1", 0xFF0000FF, HELD (GetScene().sources[1].apertureColour.getARGB()) },
+    { "speaker 3 color 0.2 0.4 0.6 1", 0xFF336699, HELD (GetScene().speakers[2].colour.getARGB()) },
     { "sourcecolor 1 1 1 1 1 0 0 1", 0xFFFF0000, HELD (GetScene().sources[1].Colour().getARGB()) },
     { "listeneryaw 90", pi / 2, HELD (GetListener().yaw) },
     { "listenerpitch 45", pi / 4, HELD (GetListener().pitch) },
@@ -211,6 +216,96 @@ TEST_P (Scene, AttributesHoldWhatWasDoneBeforeAnythingIsTold)
         EXPECT_THAT (box.notifications(), testing::Contains ("attr_modified"));
         EXPECT_FALSE (heard.empty());
         box.free();
+    }
+}
+
+/** Beyond what every message tries: each angle and coordinate alone, and what several attributes follow. */
+constexpr const char* moreMessages[] = {
+    "listener rpy 10 20 30",
+    "listener x++ 1",
+    "listener aed 30 20 2",
+    "source 2 z++ 1",
+    "source 2 aperture 40",
+    "source 2 radius 3",
+    "source 2 orientationmode follow",
+    "source 1 orientationmode listenerconstraint",
+    "source 1 orientationmode translation",
+    "speaker 2 y++ 1",
+    "speaker 2 color 1 0 0 1",
+    "rotate 1 0 30 20",
+    "roomsize 500.",
+    "early end 20",
+    "cluster start 30",
+    "reverb fl 300",
+    "reverb airfreq 900",
+    "room freqs 300 3000",
+    "zoom 2",
+    "zoomlock 1",
+    "viewpoint front",
+    "xoffset 3",
+    "showheadphones 1",
+    "showspeakers 0",
+    "sourcevisible 1 0",
+    "source 1 visible 0",
+    "source 1 editable 0",
+    "speaker 1 editable 1",
+    "windowsize 500 400",
+    "windowmoveable 0",
+    "infinite 1",
+    "air 0",
+    "speakereditable 1",
+};
+
+/** Clients such as an attrui show the present value only if each change notifies them, and none redraws in vain. */
+TEST_P (Scene, TheAttributesThatChangeAreTouched)
+{
+    patch.load (hook_main);
+    auto hook = make ("test.hook");
+    std::vector<const char*> messages (std::begin (everyMessage), std::end (everyMessage));
+    messages.insert (messages.end(), std::begin (moreMessages), std::end (moreMessages));
+    int changes = 0;
+    for (const auto* message : messages) {
+        auto box = settled ("@numsources 2 @numspeakers 3");
+        for (const auto* prepare : { "source 2 orientationmode translation", "listener xyz 1 0 0", "store a",
+                                     "source 1 xyz 3 2 1", "store b" })
+            box.send (prepare);
+        settle();
+        object_attach_byptr (box->object, hook->object);
+        std::set<const void*> touched;
+        onTouch() = [&] (const void* attribute) { touched.insert (attribute); };
+        std::map<std::string, std::string> before;
+        for (auto* name : orvanemax::visibleAttributes (box->object))
+            before[name->s_name] = box.attribute (name->s_name);
+        box.send (message);
+        settle();
+        onTouch() = nullptr;
+        const std::string text (message);
+        const auto selector = text.substr (0, text.find (' '));
+        for (const auto& [name, value] : before) {
+            const bool isTouched = touched.count (object_attr_get (box->object, gensym (name.c_str()))) != 0;
+            const bool isChanged = box.attribute (name) != value;
+            changes += isChanged ? 1 : 0;
+            if (name != selector) { // the host notifies of what a patcher sets
+                EXPECT_EQ (isTouched, isChanged) << message << ": " << name << " was " << value;
+            }
+        }
+        box.free();
+    }
+    EXPECT_GT (changes, 60);
+}
+
+TEST_P (Scene, WhatIsRefusedNotifiesOfNothing)
+{
+    auto box = settled ("@numsources 2 @numspeakers 3");
+    for (const auto* message :
+         { "windowmoveable foo", "windowsize 5", "gridmode foo", "viewpoint foo", "source 9 xyz 0 0 0",
+           "source 1 foo 1", "source 1 orientationmode foo", "speakers xyz 1 2", "listener xyz 1 2", "rotate 1 2",
+           "direct freqs 300", "recall missing", "orientationmode foo foo", "numsources 7", "early foo 3",
+           "area 9 name a" }) {
+        box.notifications();
+        box.send (message);
+        settle();
+        EXPECT_THAT (box.notifications(), testing::Not (testing::Contains ("modified"))) << message;
     }
 }
 

@@ -67,16 +67,10 @@ public:
     }
     [[nodiscard]] qel::String Text()
     {
-        constexpr const char* texts[] = { "1",
-                                          "",
-                                          "Flöte",
-                                          "gjpqy",
-                                          "a name that is much too long for its place by far",
-                                          "ẤẨ",
-                                          "\xe2\x80\xae"
-                                          "jf",
-                                          " ",
-                                          "WWWW" };
+        constexpr const char* texts[] = {
+            "1",  "",         "Flöte", "gjpqy", "a name that is much too long for its place by far",
+            "ẤẨ", "\u202ejf", " ",     "WWWW"
+        };
         return texts[Below (std::size (texts))];
     }
 
@@ -196,6 +190,17 @@ const Step steps[] = {
     [] (PlaneComponent& p, Chance& c) { p.SetZoom (c.Between (0.1f, 3), true); },
     [] (PlaneComponent& p, Chance&) { p.SetTopView (! p.GetSurface().viewTransform.topView); },
     [] (PlaneComponent& p, Chance& c) { p.RequestAutoZoom (c.Of (0.3)); },
+    [] (PlaneComponent& p, Chance& c) { p.SelectSpeakerAlone (c.Below (8)); },
+    [] (PlaneComponent& p, Chance&) { p.SetCircularConstraint (! p.GetSurface().options.circularConstraint); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSpeakersEditable (c.Of (0.7), true); },
+    [] (PlaneComponent& p, Chance& c) {
+        constexpr int menuItems[] = { 2, 3, 4, 9, 10, 12, 13, 14, 15, 16, 17, 18 };
+        p.MenuItemChosen (menuItems[c.Below (std::size (menuItems))]);
+    },
+    [] (PlaneComponent& p, Chance& c) { p.SetSpeakersLevelsVisible (c.Of (0.5)); },
+    [] (PlaneComponent& p, Chance& c) { p.SetSourcesLevelsVisible (c.Of (0.5)); },
+    [] (PlaneComponent& p, Chance& c) { p.SetMarkerProportion (c.Between (0.02f, 0.3f)); },
+    [] (PlaneComponent& p, Chance& c) { p.ShiftView (c.Between (-9, 9), c.Between (-9, 9)); },
     DragSomething,
     DragSomething,
 };

@@ -14,10 +14,12 @@ void run()
 void* hook_new (t_symbol*, t_clong, t_atom*) { return object_alloc (hookClass); }
 void hook_anything (void*, t_symbol*, t_clong, t_atom*) { run(); }
 
-t_max_err hook_notify (void*, t_symbol*, t_symbol* message, void*, void*)
+t_max_err hook_notify (void*, t_symbol*, t_symbol* message, void*, void* data)
 {
     if (message == gensym ("modified"))
         run();
+    if (message == gensym ("attr_modified") && onTouch())
+        onTouch() (data);
     return MAX_ERR_NONE;
 }
 
@@ -26,6 +28,12 @@ t_max_err hook_notify (void*, t_symbol*, t_symbol* message, void*, void*)
 std::function<void()>& onHook()
 {
     static std::function<void()> hook;
+    return hook;
+}
+
+std::function<void (const void*)>& onTouch()
+{
+    static std::function<void (const void*)> hook;
     return hook;
 }
 

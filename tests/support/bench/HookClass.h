@@ -8,3 +8,6 @@ t_clong hook_main (void*);
 
 /** Run by all hooks, during the sender's outlet call or object_notify. Empty by default. */
 std::function<void()>& onHook();
+
+/** Run by all hooks with the attribute whose change is notified. Empty by default. */
+std::function<void (const void* attribute)>& onTouch();
