@@ -88,6 +88,5 @@ using Properties = orvanemax::Rows<Property>;
 [[nodiscard]] const Property& modified() noexcept;
 
 inline constexpr float newSourceColour[4] = { 0.49019608f, 1, 0, 1 }; // red green blue alpha
-inline constexpr float silence = -60;                                 // dB, for a meter without signal
 
 }

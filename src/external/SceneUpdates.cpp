@@ -5,6 +5,7 @@
 #include "external/SceneMirror.h"
 #include "geometry/OrvaneDspLayouts.h"
 #include "gui/plane/PlaneComponent.h"
+#include "gui/scene/Limits.h"
 #include "max/MainThread.h"
 #include "max/ObjectCall.h"
 
@@ -157,12 +158,12 @@ void initialise (t_halcyra_control* x, t_symbol*, short, t_atom*)
     if (objectIsGone())
         return;
     for (t_atom_long i = 0; i < x->numsources; ++i) {
-        x->plane->SetSourceLevel (static_cast<std::size_t> (i), silence);
-        storeLevel (x->sourceslevels, i, silence);
+        x->plane->SetSourceLevel (static_cast<std::size_t> (i), lumo::Plane::leastLevel);
+        storeLevel (x->sourceslevels, i, lumo::Plane::leastLevel);
     }
     for (t_atom_long i = 0; i < x->numspeakers; ++i) {
-        x->plane->SetSpeakerLevel (static_cast<std::size_t> (i), silence);
-        storeLevel (x->speakerslevels, i, silence);
+        x->plane->SetSpeakerLevel (static_cast<std::size_t> (i), lumo::Plane::leastLevel);
+        storeLevel (x->speakerslevels, i, lumo::Plane::leastLevel);
     }
 }
 

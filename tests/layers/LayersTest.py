@@ -24,12 +24,13 @@ class Layers(unittest.TestCase):
         self.add("views", ["model"], ["model"])
         self.add("views/parts", ["model"], [])
         self.add("program", ["views"], [], layer=False)
-        self.write("src/program/Beside.h", "")
+        self.write("src/program/Beside.h")
+        self.write("src/core/ForAnotherSystem.h", "views/A.h")  # which nothing here includes
 
     def add(self, name, links, hands_on, layer=True):
         folder = self.root / "src" / name
-        self.write(f"src/{name}/A.h", "")
-        self.write(f"src/{name}/A.cpp", "")
+        self.write(f"src/{name}/A.h")
+        self.write(f"src/{name}/A.cpp", f"{name}/A.h")
         self.targets[name] = {"folder": str(folder), "HALCYRA_LAYER": [str(folder)] if layer else [], "SOURCES": ["A.cpp"],
                               "LINK_LIBRARIES": links, "INTERFACE_LINK_LIBRARIES": hands_on}
 
@@ -59,9 +60,10 @@ class Layers(unittest.TestCase):
             ("src/views/A.cpp", "juce_core.h", ""),                                  # from a library
         ]:
             with self.subTest(file=file, include=include):
-                self.write(file, include)
+                before = (self.root / file).read_text()
+                (self.root / file).write_text(f'#include "{include}"\n{before}')
                 found = self.checked()
-                self.write(file)
+                (self.root / file).write_text(before)
                 self.assertIn(refused, found)
                 self.assertEqual(bool(found), bool(refused), found)
 

@@ -1,6 +1,7 @@
 #pragma once
 #include "gui/plane/icons/Icons.h"
 #include "gui/plane/painting/Caption.h"
+#include "gui/scene/Limits.h"
 #include "gui/scene/Orientation.h"
 
 namespace lumo::Plane
@@ -45,7 +46,7 @@ public:
     bool coordinatesVisible = true;
     Caption label;
     qel::Point3 position;
-    float level = -60; // dB
+    float level = leastLevel; // dB
     juce::Colour labelColour = juce::Colours::black;
     Orientation::Mode yawMode = Orientation::yawConstraint;
     float radius = 1.0f; // metres

@@ -2,6 +2,7 @@
 #include "geometry/OrvaneDspPoint3.h"
 #include "gui/plane/icons/Icons.h"
 #include "gui/plane/painting/Caption.h"
+#include "gui/scene/Limits.h"
 
 namespace lumo::Plane
 {
@@ -16,7 +17,7 @@ struct Speaker
     qel::Point3 position;
     juce::Point<float> screenPosition;
     Caption name;
-    float level = -60; // dB
+    float level = leastLevel; // dB
     bool editable = true;
     bool visible = true;
     bool nameVisible = true;
