@@ -360,9 +360,9 @@ protected:
         for (HalcyraFilter filter = 0; filter < 4; ++filter) {
             const std::string name = halcyra::filterNames[static_cast<std::size_t> (filter)];
             const auto& held = component.getFilter (filter);
-            std::vector<float> values;
-            for (const auto& row : halcyra::shelfTable)
-                values.push_back (held.*row.value);
+            std::vector<float> values (halcyra::shelfTable.size());
+            std::transform (halcyra::shelfTable.begin(), halcyra::shelfTable.end(), values.begin(),
+                            [&] (const halcyra::ShelfRow& row) { return held.*row.value; });
             EXPECT_EQ (numbersOf (bench::attributeOf (*box, name).value()), values) << name;
             EXPECT_EQ (numbersOf (told[box->name + " " + name]), values) << "told: " << name;
         }

@@ -48,6 +48,7 @@ protected:
     {
         std::vector<float> numbers;
         const auto atoms = bench::attributeOf (*box, attribute).value();
+        numbers.reserve (atoms.size());
         for (const auto& atom : atoms)
             numbers.push_back (static_cast<float> (atom_getfloat (&atom)));
         return numbers;
