@@ -175,6 +175,18 @@ TEST_F (Halcyra, WhatIsNotFiniteNeverEnters)
     EXPECT_THAT (ear.take(), IsEmpty());
 }
 
+TEST_F (Halcyra, WhatIsSetQuietlyNotifiesNobody)
+{
+    component.setRoomSize (5000, 0);
+    component.setDirectFilter ({ 1, 2, 3, 4, 500, 600 }, false);
+    bench::pumpGui();
+    EXPECT_THAT (ear.take(), IsEmpty());
+    EXPECT_EQ (component.getModel().roomSize(), 5000);
+    component.setRoomSize (6000, 1);
+    bench::pumpGui();
+    EXPECT_THAT (ear.take(), testing::Contains ("reverb 15"));
+}
+
 TEST_F (Halcyra, SourcesAndSpeakersComeFromThePlane)
 {
     component.getPlane()->SetSourcePosition (1, { 1, 2, 0 }, true);
