@@ -2,7 +2,7 @@
 
 #include "external/ProductVersion.h"
 #include "gui/plane/PlaneComponent.h"
-#include "gui/plane/objects/Positions.h"
+#include "gui/scene/Positions.h"
 #include "max/Atoms.h"
 #include "max/FileDialogs.h"
 #include "max/OrvanemaxSymbols.h"

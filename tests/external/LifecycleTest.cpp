@@ -140,8 +140,8 @@ TEST_P (Lifecycle, WhatTheHostGaveOutComesBack)
         auto box = settled ("@numsources 2 @numspeakers 2");
         t_atom gain{};
         atom_setfloat (&gain, 2);
-        bench::putEntry ("changes", "gain", { gain });
-        bench::putEntry ("changes", "direct", bench::Atoms (6, gain));
+        putEntry ("changes", "gain", { gain });
+        putEntry ("changes", "direct", bench::Atoms (6, gain));
         for (const auto* message : everyMessage) {
             box.send (message);
             settle();

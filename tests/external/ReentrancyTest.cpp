@@ -134,7 +134,7 @@ void prepareScene (Reentrancy& test, const char* defer)
     t_atom other{};
     atom_setlong (&other, 0);
     for (const auto* attribute : { "tr0", "showsources", "sourceslevels", "zoom", "listeneryaw" })
-        bench::putEntry ("changes", attribute, { other });
+        test.putEntry ("changes", attribute, { other });
     test.settle();
 }
 

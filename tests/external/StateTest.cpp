@@ -133,7 +133,7 @@ TEST_P (SavedState, APartOfAStateLeavesALockThatItDoesNotHold)
         box.send (row.lock);
         settle();
         const auto value = bench::messageOf (bench::wordsOf (row.value));
-        bench::putEntry ("part", value.selector->s_name, value.atoms);
+        putEntry ("part", value.selector->s_name, value.atoms);
         EXPECT_EQ (saying (box, "dictionary part"), Messages()) << row.lock;
         const auto lock = bench::messageOf (bench::wordsOf (row.lock));
         EXPECT_EQ (box.attribute (lock.selector->s_name), bench::textOf (lock.atoms));

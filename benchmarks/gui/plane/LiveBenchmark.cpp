@@ -41,7 +41,7 @@ public:
     void Paint() { plane.getPeer()->performAnyPendingRepaintsNow(); }
     [[nodiscard]] juce::Point<float> Pixels (const qel::Point3& metres) const
     {
-        return plane.GetSurface().viewTransform.ToScreen (metres);
+        return lumo::Plane::OnScreen (plane.GetSurface().viewTransform, metres);
     }
 
     PlaneComponent plane;

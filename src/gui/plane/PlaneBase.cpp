@@ -113,9 +113,9 @@ void PlaneBase::UpdateTransform()
 void PlaneBase::UpdateScreenPositions()
 {
     const auto& view = surface.viewTransform;
-    surface.listener.screenPosition = view.ToScreen (surface.listener.position);
+    surface.listener.screenPosition = OnScreen (view, surface.listener.position);
     for (auto& anchor : surface.anchors.items)
-        anchor.screenPosition = view.ToScreen (anchor.position);
+        anchor.screenPosition = OnScreen (view, anchor.position);
 }
 
 void PlaneBase::SetViewerVisible (bool visible)
@@ -136,19 +136,17 @@ void PlaneBase::SetTopView (bool on)
 void PlaneBase::SetFrontView (bool on) { SetTopView (! on); }
 void PlaneBase::SetViewpoint (const qel::String& name) { SetTopView (name != "front"); }
 
-bool PlaneBase::StoreZoom (float zoom)
+bool PlaneBase::StoreZoom (float factor)
 {
-    auto& view = surface.viewTransform;
-    if (! AreFinite (zoom) || surface.options.zoomLocked || zoom == view.zoom)
+    if (! zoom.Store (factor))
         return false;
-    view.zoom = view.ClampZoom (zoom);
     UpdateTransform();
     return true;
 }
 
-void PlaneBase::SetZoom (float zoom, bool repaintNow)
+void PlaneBase::SetZoom (float factor, bool repaintNow)
 {
-    if (! StoreZoom (zoom))
+    if (! StoreZoom (factor))
         return;
     if (repaintNow)
         repaint();
@@ -292,7 +290,7 @@ void PlaneBase::SetAnchorPosition (std::size_t index, const qel::Point3& positio
         return;
     auto& anchor = surface.anchors.items[index];
     anchor.position = position;
-    anchor.screenPosition = surface.viewTransform.ToScreen (position);
+    anchor.screenPosition = OnScreen (surface.viewTransform, position);
     MarkStaticLayerDirty();
     repaint();
 }

@@ -4,6 +4,7 @@
 #include "gui/plane/PlaneListener.h"
 #include "gui/plane/surface/Surface.h"
 #include "gui/plane/view/StaticCache.h"
+#include "gui/scene/Zoom.h"
 
 namespace lumo
 {
@@ -38,7 +39,7 @@ public:
     void SetFrontView (bool on);
     /** "front" selects the front view, any other text the top view. */
     void SetViewpoint (const qel::String& name);
-    void SetZoom (float zoom, bool repaintNow);
+    void SetZoom (float factor, bool repaintNow);
     void SetZoomLock (bool locked) { surface.options.zoomLocked = locked; }
     void SetRightClickLock (bool locked) { surface.options.rightClickLocked = locked; }
     void SetXOffset (float pixels);
@@ -125,11 +126,11 @@ protected:
     void MarkStaticLayerDirty() noexcept { staticCache.MarkDirty(); }
     /** Call at the start of a frame. */
     void BeginFrame (const juce::Graphics& g);
-    /** Clamps and stores; false if the request equals the present zoom or the zoom is locked. True even if clamping
-        restores the present zoom, because the requester must be notified of it. */
-    bool StoreZoom (float zoom);
+    /** Returns what Zoom::Store does, and updates the view. */
+    bool StoreZoom (float factor);
 
     Plane::Surface surface;
+    Plane::Zoom zoom{ surface.viewTransform, surface.options.zoomLocked };
     Plane::StaticCache staticCache;
 
 private:

@@ -1,12 +1,11 @@
 #include "gui/plane/PlaneComponent.h"
 
 #include "geometry/OrvaneDspLayouts.h"
-#include "gui/plane/objects/Positions.h"
 #include "gui/plane/painting/Extents.h"
 #include "gui/plane/painting/Foreground.h"
 #include "gui/plane/painting/StaticLayer.h"
-#include "gui/plane/view/AutoZoom.h"
 #include "gui/scene/Finite.h"
+#include "gui/scene/Positions.h"
 
 #include <algorithm>
 
@@ -39,14 +38,14 @@ void PlaneComponent::UpdateScreenPositions()
 {
     const auto& view = surface.viewTransform;
     for (std::size_t i = 0; i < scene.sources.size(); ++i)
-        scene.sources[i].screenPosition = view.ToScreen (scene.sources[i].position);
+        scene.sources[i].screenPosition = OnScreen (view, scene.sources[i].position);
     for (auto& speaker : scene.speakers)
-        speaker.screenPosition = view.ToScreen (speaker.position);
+        speaker.screenPosition = OnScreen (view, speaker.position);
     for (auto& area : scene.areas)
         area.UpdateScreen (view);
     PlaneBase::UpdateScreenPositions();
-    ReportAllSourceAreas();
-    ReportListenerAreas();
+    areaMonitor.ReportSources();
+    areaMonitor.ReportListener();
 }
 
 // ---- Painting
@@ -116,9 +115,15 @@ void PlaneComponent::TellFromPaint (Call&& call)
     });
 }
 
+float PlaneComponent::FittingZoom() const
+{
+    const auto* farthest = scene.FarthestSource();
+    return farthest == nullptr ? surface.viewTransform.zoom : zoom.Fitting (farthest->position);
+}
+
 void PlaneComponent::AutoZoomBeforePainting (const juce::Graphics& g)
 {
-    if (! StoreZoom (FittingZoom (scene, surface.viewTransform)))
+    if (! StoreZoom (FittingZoom()))
         return;
     if (! g.getClipBounds().contains (getLocalBounds()))
         repaint();
@@ -198,7 +203,7 @@ void PlaneComponent::RequestAutoZoom (bool on)
 
 void PlaneComponent::AutoZoom (bool repaintNow)
 {
-    SetZoom (FittingZoom (scene, surface.viewTransform), false);
+    SetZoom (FittingZoom(), false);
     if (repaintNow)
         repaint();
 }

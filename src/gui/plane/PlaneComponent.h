@@ -2,6 +2,7 @@
 #include "geometry/OrvaneDspCoordinatesSnapshot.h"
 #include "gui/plane/PlaneBase.h"
 #include "gui/plane/interaction/Pointer.h"
+#include "gui/plane/objects/AreaMonitor.h"
 #include "gui/plane/objects/Selection.h"
 #include "gui/plane/view/ChangedParts.h"
 
@@ -212,11 +213,10 @@ private:
 
     template <typename Change>
     void ChangeArea (std::size_t index, Change&& change);
-    void ReportSourceAreas (std::size_t index);
-    void ReportAllSourceAreas();
-    void ReportSpeakerAreas (std::size_t index);
-    void ReportListenerAreas();
+    [[nodiscard]] Plane::AreaMonitor::Reports AreaReports();
 
+    /** The present zoom for a scene without sources. */
+    [[nodiscard]] float FittingZoom() const;
     void AutoZoomBeforePainting (const juce::Graphics& g);
     void UpdateGeometryBeforePainting();
     void DrawLayers (juce::Graphics& g);
@@ -252,6 +252,7 @@ private:
 
     Plane::Scene scene;
     Plane::Selection selection{ scene, surface.options.listenerSelected };
+    Plane::AreaMonitor areaMonitor{ scene, surface.listener, surface.options.areasMonitoring, AreaReports() };
     Plane::Pointer pointer;
     qel::CoordinatesSnapshotStore snapshots;
     bool listenerEnabled = true;

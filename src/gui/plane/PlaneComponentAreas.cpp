@@ -30,7 +30,7 @@ void PlaneComponent::SetAreaPoints (std::size_t index, const qel::Point3Array& p
     if (index >= scene.areas.size() || ! std::all_of (points.begin(), points.end(), qel::isFinite))
         return;
     ChangeArea (index, [&] (Area& area) { area.SetPoints (points, surface.viewTransform); });
-    ReportAllSourceAreas();
+    areaMonitor.ReportSources();
 }
 
 void PlaneComponent::SetAreaLabel (std::size_t index, const qel::String& label)
@@ -58,45 +58,23 @@ void PlaneComponent::ClearAllAreas()
 
 void PlaneComponent::SetAreasVisible (bool visible) { SetOption (surface.options.areasVisible, visible); }
 
-// ---- Monitoring
+AreaMonitor::Reports PlaneComponent::AreaReports()
+{
+    return { [this] (const auto& holding) {
+                Notify ([&] (PlaneListener& l) { l.ListenerAreasChanged (holding, *this); });
+            },
+             [this] (auto index, const auto& holding) {
+                 Notify ([&] (PlaneListener& l) { l.SpeakerAreasChanged (index, holding, *this); });
+             },
+             [this] (auto index, const auto& holding) {
+                 Notify ([&] (PlaneListener& l) { l.SourceAreasChanged (index, holding, *this); });
+             } };
+}
 
 void PlaneComponent::SetAreasMonitoring (bool on)
 {
     SetOption (surface.options.areasMonitoring, on);
-    ReportListenerAreas();
-    for (std::size_t i = 0; i < scene.speakers.size(); ++i)
-        ReportSpeakerAreas (i);
-    ReportAllSourceAreas();
-}
-
-void PlaneComponent::ReportAllSourceAreas()
-{
-    for (std::size_t i = 0; i < scene.sources.size(); ++i)
-        ReportSourceAreas (i);
-}
-
-void PlaneComponent::ReportSourceAreas (std::size_t index)
-{
-    if (! surface.options.areasMonitoring)
-        return;
-    const auto holding = scene.AreasHolding (scene.sources[index].position);
-    Notify ([&] (PlaneListener& l) { l.SourceAreasChanged (index, holding, *this); });
-}
-
-void PlaneComponent::ReportSpeakerAreas (std::size_t index)
-{
-    if (! surface.options.areasMonitoring)
-        return;
-    const auto holding = scene.AreasHolding (scene.speakers[index].position);
-    Notify ([&] (PlaneListener& l) { l.SpeakerAreasChanged (index, holding, *this); });
-}
-
-void PlaneComponent::ReportListenerAreas()
-{
-    if (! surface.options.areasMonitoring)
-        return;
-    const auto holding = scene.AreasHolding (surface.listener.position);
-    Notify ([&] (PlaneListener& l) { l.ListenerAreasChanged (holding, *this); });
+    areaMonitor.ReportAll();
 }
 
 }

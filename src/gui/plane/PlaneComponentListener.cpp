@@ -26,9 +26,9 @@ void PlaneComponent::SetListenerPosition (const qel::Point3& position, bool noti
         return;
     ChangeListener ([&] (Plane::Listener& listener) {
         listener.position = position;
-        listener.screenPosition = surface.viewTransform.ToScreen (position);
+        listener.screenPosition = OnScreen (surface.viewTransform, position);
     });
-    ReportListenerAreas();
+    areaMonitor.ReportListener();
     if (notify)
         Notify ([&, position] (PlaneListener& l) { l.ListenerPositionChanged (position, *this); });
 }

@@ -70,9 +70,9 @@ void PlaneComponent::SetSourcePosition (std::size_t index, const qel::Point3& po
 void PlaneComponent::FinishSourceMove (std::size_t index, juce::Rectangle<int> before, bool notify)
 {
     auto& source = scene.sources[index];
-    source.screenPosition = surface.viewTransform.ToScreen (source.position);
+    source.screenPosition = OnScreen (surface.viewTransform, source.position);
     const auto position = source.position;
-    ReportSourceAreas (index);
+    areaMonitor.ReportSource (index);
     UpdateSourceYaw (index, true);
     if (notify)
         Notify ([&] (PlaneListener& l) { l.SourcePositionChanged (index, position); });
@@ -212,10 +212,10 @@ void PlaneComponent::RestoreSource (std::size_t index, const SourcePose& pose)
     source->yaw = pose.yaw;
     source->yawOffset = pose.yawOffset;
     source->aperture = pose.aperture;
-    source->screenPosition = surface.viewTransform.ToScreen (source->position);
+    source->screenPosition = OnScreen (surface.viewTransform, source->position);
     const float yaw = source->YawDegrees(), aperture = source->ApertureDegrees();
     if (moves) {
-        ReportSourceAreas (index);
+        areaMonitor.ReportSource (index);
         Notify ([&] (PlaneListener& l) { l.SourcePositionChanged (index, pose.position); });
     }
     if (turns)

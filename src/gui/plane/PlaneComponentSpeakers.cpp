@@ -1,10 +1,10 @@
 #include "gui/plane/Colours.h"
 #include "gui/plane/PlaneComponent.h"
 #include "gui/plane/Text.h"
-#include "gui/plane/objects/Positions.h"
 #include "gui/plane/painting/Extents.h"
 #include "gui/scene/Finite.h"
 #include "gui/scene/Limits.h"
+#include "gui/scene/Positions.h"
 
 namespace lumo
 {
@@ -82,13 +82,13 @@ bool PlaneComponent::StoreSpeakerPosition (std::size_t index, const qel::Point3&
     const auto before = PartOfSpeaker (index);
     const bool moves = ! (speaker->position == position);
     speaker->position = position;
-    speaker->screenPosition = surface.viewTransform.ToScreen (position);
+    speaker->screenPosition = OnScreen (surface.viewTransform, position);
     if (moves && ! ShowsSpeakerGeometry()) {
         const auto after = PartOfSpeaker (index);
         MarkStaticParts (before, after);
         RepaintMove (before, after);
     }
-    ReportSpeakerAreas (index);
+    areaMonitor.ReportSpeaker (index);
     return true;
 }
 

@@ -317,7 +317,7 @@ TEST (PlaneHits, AgreeWithWhatIsDrawn)
         const auto& surface = plane.GetSurface();
         for (std::size_t i = 0; i < 8; ++i) {
             const auto& source = scene.sources[i];
-            const auto middle = surface.viewTransform.ToScreen (source.position);
+            const auto middle = lumo::Plane::OnScreen (surface.viewTransform, source.position);
             const int hit = lumo::Plane::SourceUnder (middle, surface, scene);
             if (source.visible)
                 EXPECT_GE (hit, static_cast<int> (i)) << "round " << round;

@@ -1,5 +1,5 @@
 #include "PlaneRecorder.h"
-#include "gui/plane/objects/Positions.h"
+#include "gui/scene/Positions.h"
 
 #include "gui/plane/ScenePoses.h"
 
@@ -289,6 +289,34 @@ TEST (PlaneAreas, ReportWhoStandsInThem)
     EXPECT_THAT (heard.Take(), ElementsAre ("sourceareas 0 00", "source 0 3.00 3.00 0.00"));
     plane.ClearAllAreas();
     EXPECT_THAT (heard.Take(), SizeIs (2)) << "the source once for each area";
+}
+
+TEST (PlaneAreaMonitor, ReportsTheListenerTheSpeakersAndTheSourcesWhileItIsOn)
+{
+    lumo::Plane::Scene scene;
+    scene.areas.resize (2);
+    scene.areas[1].SetPoints ({ { -1, -1, 0 }, { 1, -1, 0 }, { 1, 1, 0 }, { -1, 1, 0 } }, {});
+    for (const int number : { 1, 2 })
+        scene.sources.push_back (lumo::Plane::Source (number));
+    scene.sources[0].position = { 5, 0, 0 };
+    scene.speakers.push_back (lumo::Plane::Speaker (1));
+    lumo::Plane::Listener listener;
+    bool on = false;
+    std::vector<std::string> reported;
+    const auto report = [&] (const std::string& who, const std::vector<bool>& holding) {
+        reported.push_back (who + (holding[0] ? " 1" : " 0") + (holding[1] ? "1" : "0"));
+    };
+    const lumo::Plane::AreaMonitor monitor (
+        scene, listener, on,
+        { [&] (auto& holding) { report ("listener", holding); },
+          [&] (auto index, auto& holding) { report ("speaker " + std::to_string (index), holding); },
+          [&] (auto index, auto& holding) { report ("source " + std::to_string (index), holding); } });
+    monitor.ReportAll();
+    EXPECT_THAT (reported, IsEmpty());
+    on = true;
+    listener.position = { 0, 3, 0 };
+    monitor.ReportAll();
+    EXPECT_THAT (reported, ElementsAre ("listener 00", "speaker 0 01", "source 0 00", "source 1 01"));
 }
 
 TEST (PlaneSnapshots, MoveTheSourcesThatBothHaveAndNotify)

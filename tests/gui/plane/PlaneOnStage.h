@@ -13,7 +13,7 @@ protected:
 
     [[nodiscard]] juce::Point<int> At (const qel::Point3& metres) const
     {
-        return plane.GetSurface().viewTransform.ToScreen (metres).toInt();
+        return lumo::Plane::OnScreen (plane.GetSurface().viewTransform, metres).toInt();
     }
     [[nodiscard]] juce::Point<int> Source (std::size_t i) const { return At (plane.GetSourcePosition (i)); }
     [[nodiscard]] std::string Selected() const

@@ -224,7 +224,7 @@ TEST (PlanePainting, AFanOpensTowardsTheMiddleTurnedClockwiseByItsYaw)
             plane.SetSourcePosition (0, position, false);
             plane.SetSourceYaw (0, degrees, false);
             const auto at = plane.GetScene().sources[0].screenPosition;
-            const auto middle = plane.GetSurface().viewTransform.ToScreen ({});
+            const auto middle = lumo::Plane::OnScreen (plane.GetSurface().viewTransform, {});
             const auto picture = Picture (plane);
             for (const float turned : { 0.0f, 90.0f, 180.0f, -90.0f }) { // near the edge of the fan
                 const auto ahead = (middle - at) * (54 / at.getDistanceFrom (middle));

@@ -141,8 +141,9 @@ juce::MouseEvent EventAt (PlaneComponent& plane, juce::Point<float> at)
 
 void DragSomething (PlaneComponent& plane, Chance& chance)
 {
-    const auto from = plane.GetSurface().viewTransform.ToScreen (
-        plane.GetNumSources() > 0 && chance.Of (0.6) ? plane.GetSourcePosition (0) : chance.Point());
+    const auto from = lumo::Plane::OnScreen (plane.GetSurface().viewTransform,
+                                             plane.GetNumSources() > 0 && chance.Of (0.6) ? plane.GetSourcePosition (0)
+                                                                                          : chance.Point());
     plane.mouseDown (EventAt (plane, from));
     for (auto steps = chance.Below (3); steps > 0; --steps)
         plane.mouseDrag (
@@ -397,7 +398,7 @@ TEST (PlaneRepaint, ADragPaintsWhatItDrags)
     sparse.plane.SetListenerEditable (true);
     ScaledScreen screen (sparse.plane, 1);
     for (const auto from : { qel::Point3{ 0.5f, 0.5f, 0 }, qel::Point3{ -0.5f, 0.5f, 0 }, qel::Point3{} }) {
-        const auto at = sparse.plane.GetSurface().viewTransform.ToScreen (from);
+        const auto at = lumo::Plane::OnScreen (sparse.plane.GetSurface().viewTransform, from);
         sparse.plane.mouseDown (EventAt (sparse.plane, at));
         screen.Frame();
         for (int step = 1; step < 4; ++step) {
@@ -441,7 +442,7 @@ TEST (PlaneRepaint, ADragGoesOnWhenTheWindowComesToAScreenOfAnotherScale)
     SparsePlane sparse;
     auto& plane = sparse.plane;
     ScaledScreen screen (plane, 1);
-    const auto at = plane.GetSurface().viewTransform.ToScreen (plane.GetSourcePosition (0));
+    const auto at = lumo::Plane::OnScreen (plane.GetSurface().viewTransform, plane.GetSourcePosition (0));
     plane.mouseDown (EventAt (plane, at));
     screen.Frame();
     int step = 0;
@@ -452,6 +453,6 @@ TEST (PlaneRepaint, ADragGoesOnWhenTheWindowComesToAScreenOfAnotherScale)
         EXPECT_LT (AreaOf (screen.Frame()), 400 * 400 / 8) << scale;
         ASSERT_NO_FATAL_FAILURE (ExpectAWholeRepaintShowsTheSame (plane, screen, std::to_string (scale)));
     }
-    const auto end = plane.GetSurface().viewTransform.ToScreen (plane.GetSourcePosition (0));
+    const auto end = lumo::Plane::OnScreen (plane.GetSurface().viewTransform, plane.GetSourcePosition (0));
     EXPECT_LT (end.getDistanceFrom (at + juce::Point<float> (2, 3.3f) * step), 0.01f);
 }

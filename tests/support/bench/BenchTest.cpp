@@ -49,11 +49,22 @@ BenchTest::BenchTest (bench::DeferMedium deferMedium) : patch (deferMedium)
 BenchTest::~BenchTest()
 {
     patch.setListener ({}); // events during the patch's destruction would arrive after the list is gone
+    for (const auto& name : dictionaries) {
+        auto* dictionary = dictobj_findregistered_retain (gensym (name.c_str()));
+        dictobj_release (dictionary);
+        object_free (dictionary);
+    }
 }
 
 TestBox BenchTest::make (const std::string& text)
 {
     return { *this, patch.make ("b" + std::to_string (++boxes), text) };
+}
+
+void BenchTest::putEntry (const std::string& dictionary, const std::string& key, const bench::Atoms& atoms)
+{
+    dictionaries.insert (dictionary);
+    bench::putEntry (dictionary, key, atoms);
 }
 
 std::vector<Event> BenchTest::takeIf (const std::function<bool (const Event&)>& wanted)

@@ -3,6 +3,7 @@
 #include "host/bench/Inspect.h"
 #include <gmock/gmock.h>
 #include <mutex>
+#include <set>
 
 using Messages = std::vector<std::string>;
 
@@ -79,6 +80,9 @@ public:
 
     void settle() { patch.settle(); }
 
+    /** As bench::putEntry(), but the dictionary ends with the test: names are the process's. */
+    void putEntry (const std::string& dictionary, const std::string& key, const bench::Atoms& atoms);
+
     /** Rows of the Max console, of all boxes and of none: "error TEXT". */
     Messages console();
 
@@ -97,6 +101,7 @@ private:
     std::mutex mutex;
     std::vector<bench::Event> events;
     int boxes = 0;
+    std::set<std::string> dictionaries;
 };
 
 /** The same tests with deferred calls queued and run at once:

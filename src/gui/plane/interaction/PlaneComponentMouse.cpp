@@ -2,7 +2,7 @@
 #include "gui/plane/PlaneComponent.h"
 #include "gui/plane/interaction/HitTest.h"
 #include "gui/plane/interaction/PlaneMenu.h"
-#include "gui/plane/objects/Positions.h"
+#include "gui/scene/Positions.h"
 #include "gui/scene/Steps.h"
 
 #include <algorithm>
@@ -33,7 +33,7 @@ void PlaneComponent::mouseDown (const juce::MouseEvent& event)
         return;
 
     pointer.lassoOrigin = event.position;
-    pointer.last = surface.viewTransform.ToWorld (event.position);
+    pointer.last = surface.viewTransform.ToWorld ({ event.position.x, event.position.y });
     Notify ([] (PlaneListener& l) { l.PointerButtonChanged (true); });
     Notify ([this] (PlaneListener& l) { l.PointerMoved (pointer.last); });
 
@@ -170,7 +170,7 @@ void PlaneComponent::mouseDrag (const juce::MouseEvent& event)
     if (surface.lasso.active)
         return DragLasso (event.position);
     if (event.mods.isLeftButtonDown()) {
-        const auto point = surface.viewTransform.ToWorld (event.position);
+        const auto point = surface.viewTransform.ToWorld ({ event.position.x, event.position.y });
         if (surface.options.circularConstraint)
             TurnDragged (pointer.last, point);
         else

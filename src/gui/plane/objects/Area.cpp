@@ -30,8 +30,8 @@ void Area::SetPoints (const qel::Point3Array& corners, const ViewTransform& view
 
 void Area::UpdateScreen (const ViewTransform& view)
 {
-    screenPath = Outline (points, [&] (const qel::Point3& p) { return view.ToScreen (p); });
-    labelPosition = view.ToScreen (qel::barycentre (points));
+    screenPath = Outline (points, [&] (const qel::Point3& p) { return OnScreen (view, p); });
+    labelPosition = OnScreen (view, qel::barycentre (points));
 }
 
 bool Area::Contains (const qel::Point3& point) const { return worldPath.contains (point.x, point.y, 1.0f); }

@@ -1,5 +1,5 @@
 #pragma once
-#include "gui/plane/view/ViewTransform.h"
+#include "gui/plane/view/OnScreen.h"
 
 namespace lumo::Plane
 {

@@ -1,9 +1,24 @@
 #include "gui/plane/objects/Scene.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace lumo::Plane
 {
+
+const Source* Scene::FarthestSource() const
+{
+    const Source* farthest = sources.empty() ? nullptr : &sources[0];
+    float reach = -1.0f;
+    for (const auto& source : sources) {
+        const float own = std::max (std::abs (source.position.x), std::abs (source.position.y));
+        if (source.visible && own >= reach) {
+            farthest = &source;
+            reach = own;
+        }
+    }
+    return farthest;
+}
 
 bool Scene::AnySourceSelected() const
 {

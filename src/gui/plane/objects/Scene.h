@@ -1,7 +1,8 @@
 #pragma once
 #include "gui/plane/objects/Area.h"
 #include "gui/plane/objects/Source.h"
-#include "gui/plane/objects/SpeakerGeometry.h"
+#include "gui/plane/objects/Speaker.h"
+#include "gui/scene/SpeakerGeometry.h"
 
 #include <vector>
 
@@ -20,6 +21,9 @@ struct Scene
     SpeakerGeometry speakerGeometry;
     int selectedSpeaker = none;
 
+    /** The farthest visible source by x and y, even in the front view; the last of equals. The first source if none is
+        visible, null if there is none. */
+    [[nodiscard]] const Source* FarthestSource() const;
     [[nodiscard]] bool AnySourceSelected() const;
     [[nodiscard]] bool AnySourceEditable() const;
     [[nodiscard]] bool AllSourcesEditable() const;

@@ -11,7 +11,7 @@ namespace
 {
 
 /** Includes a margin for the line width. */
-juce::Rectangle<float> VisibleArea (const ViewTransform& view) { return view.Bounds().toFloat().expanded (2); }
+juce::Rectangle<float> VisibleArea (const ViewTransform& view) { return BoundsOf (view).toFloat().expanded (2); }
 
 /** The clip's part of it. Lines are still clipped to the visible area, so that separately painted parts match. */
 juce::Rectangle<float> WantedArea (const juce::Graphics& g) { return g.getClipBounds().toFloat().expanded (2); }
@@ -79,7 +79,7 @@ void DrawSquares (juce::Graphics& g, juce::Point<double> o, const Surface& surfa
 
 void DrawGrid (juce::Graphics& g, const Surface& surface)
 {
-    const auto origin = surface.viewTransform.ToScreen ({}).toInt();
+    const auto origin = OnScreen (surface.viewTransform, {}).toInt();
     if (surface.grid.mode == Grid::circular)
         DrawCircles (g, origin.toFloat(), surface);
     else if (surface.grid.mode == Grid::square)
@@ -93,7 +93,7 @@ void DrawAngularDivisions (juce::Graphics& g, const Surface& surface)
     if (! grid.angularDivisionsVisible || grid.numAngularDivisions == 0)
         return;
     g.setColour (grid.colour.withAlpha (0.5f));
-    const auto origin = view.ToScreen ({}).toDouble();
+    const auto origin = OnScreen (view, {}).toDouble();
     const double metres = std::max (1u, grid.numLines); // independent of the spacing
     const double reach = metres * static_cast<double> (view.pixelsPerMetre);
     const float division = 360.0f / static_cast<float> (grid.numAngularDivisions);

@@ -42,7 +42,7 @@ void DrawSpeakerProjection (juce::Graphics& g, const Surface& surface, const Sce
     for (std::size_t i = 0; i < std::min (points.size(), scene.speakers.size()); ++i) {
         const auto& speaker = scene.speakers[i];
         const float size = SizeOf (speaker, view);
-        const auto at = view.ToScreen (points[i]);
+        const auto at = OnScreen (view, points[i]);
         if (! speaker.visible || ! IsWanted (g, at, 6 * size))
             continue;
         DrawIcon (g, { Icon::Kind::speaker, juce::Colours::grey }, at, size, surface);
@@ -71,9 +71,9 @@ void DrawHull (juce::Graphics& g, const Surface& surface, const Scene& scene)
     if (! surface.options.hullVisible || ! surface.viewTransform.topView || hull.size() < 3)
         return;
     juce::Path path;
-    path.startNewSubPath (surface.viewTransform.ToScreen (hull[0]));
+    path.startNewSubPath (OnScreen (surface.viewTransform, hull[0]));
     for (std::size_t i = 1; i < hull.size(); ++i)
-        path.lineTo (surface.viewTransform.ToScreen (hull[i]));
+        path.lineTo (OnScreen (surface.viewTransform, hull[i]));
     path.closeSubPath();
     StrokeInBlack (g, path);
 }
@@ -83,8 +83,8 @@ void DrawSpeakersRadius (juce::Graphics& g, const Surface& surface, const Scene&
     if (! surface.options.speakersRadiusVisible)
         return;
     const auto& view = surface.viewTransform;
-    const auto origin = view.ToScreen ({});
-    const float diameter = origin.getDistanceFrom (view.ToScreen ({ 2 * scene.speakerGeometry.Radius(), 0, 0 }));
+    const auto origin = OnScreen (view, {});
+    const float diameter = origin.getDistanceFrom (OnScreen (view, { 2 * scene.speakerGeometry.Radius(), 0, 0 }));
     g.setColour (juce::Colours::black);
     g.drawEllipse (SquareAt (origin, diameter), 1.0f);
 }

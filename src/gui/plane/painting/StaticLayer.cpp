@@ -37,7 +37,7 @@ void DrawBackgroundImage (juce::Graphics& g, const Surface& surface)
     const auto placement = PlacementOf (picture, surface.viewTransform);
     if (placement.isSingularity())
         return;
-    const auto shown = surface.viewTransform.Bounds().toFloat().transformedBy (placement.inverted()).expanded (2);
+    const auto shown = BoundsOf (surface.viewTransform).toFloat().transformedBy (placement.inverted()).expanded (2);
     const auto whole = picture.image.getBounds();
     const auto part = shown.getIntersection (whole.toFloat()).getSmallestIntegerContainer().getIntersection (whole);
     if (part.isEmpty())
@@ -51,7 +51,7 @@ void DrawBackgroundImage (juce::Graphics& g, const Surface& surface)
 void DrawOriginAndAxes (juce::Graphics& g, const Surface& surface)
 {
     const auto& axis = surface.axis;
-    const auto origin = surface.viewTransform.ToScreen ({});
+    const auto origin = OnScreen (surface.viewTransform, {});
     if (axis.originVisible) {
         const auto disc = SquareAt (origin, static_cast<float> (surface.viewTransform.originSize));
         g.setColour (axis.colour.withAlpha (0.5f));
@@ -94,7 +94,7 @@ void DrawLegend (juce::Graphics& g, const Surface& surface)
     g.drawArrow ({ middle, right }, 2.0f, 5.0f, 5.0f);
     g.drawArrow ({ middle, left }, 2.0f, 5.0f, 5.0f);
 
-    const float metres = view.ToWorld (right).x - view.ToWorld (left).x;
+    const float metres = view.ToWorld ({ right.x, right.y }).x - view.ToWorld ({ left.x, left.y }).x;
     const auto text = MetresText (metres, 2) + " m";
     const auto font = lumo::Component::MakeFont (16.0f);
     const auto side = 6.0f * static_cast<float> (view.markerSize);
@@ -149,8 +149,8 @@ void DrawShoebox (juce::Graphics& g, const Surface& surface)
     const auto& view = surface.viewTransform;
     if (! shoebox.visible || ! view.topView || shoebox.corners.size() != 4)
         return;
-    const auto first = view.ToScreen (shoebox.corners[0]);
-    const auto extent = view.ToScreen (shoebox.corners[2]) - first;
+    const auto first = OnScreen (view, shoebox.corners[0]);
+    const auto extent = OnScreen (view, shoebox.corners[2]) - first;
     g.setColour (juce::Colours::black);
     g.drawRect (juce::Rectangle<float> (first.x, first.y, std::abs (extent.x), std::abs (extent.y)), 1.0f);
 }
@@ -161,7 +161,7 @@ void DrawBackground (juce::Graphics& g, const Surface& surface)
 {
     g.fillAll (surface.background.colour);
     g.setColour (juce::Colour (0xFF494949));
-    g.drawRect (surface.viewTransform.Bounds(), 1);
+    g.drawRect (BoundsOf (surface.viewTransform), 1);
 }
 
 void DrawStaticLayer (juce::Graphics& g, const Surface& surface, const Scene& scene)

@@ -7,7 +7,7 @@
 #include "gui/plane/surface/BackgroundImage.h"
 #include "gui/plane/surface/Grid.h"
 #include "gui/plane/surface/Marks.h"
-#include "gui/plane/view/ViewTransform.h"
+#include "gui/plane/view/OnScreen.h"
 
 #include <optional>
 

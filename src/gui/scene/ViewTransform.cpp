@@ -1,4 +1,4 @@
-#include "gui/plane/view/ViewTransform.h"
+#include "gui/scene/ViewTransform.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +14,9 @@ constexpr float leastScale = 0.01f;
 
 // The rasteriser uses 32-bit numbers in 256ths of a pixel.
 constexpr float farAway = 4.0e6f;
+
+/** Halves go to the even number. */
+int Rounded (float value) noexcept { return static_cast<int> (std::lrint (value)); }
 
 float WithinReach (float pixels) noexcept { return std::clamp (pixels, -farAway, farAway); }
 
@@ -35,13 +38,13 @@ void ViewTransform::Update (int newWidth, int newHeight) noexcept
     markerSize = PixelSize (markerProportion);
 }
 
-juce::Point<float> ViewTransform::ToScreen (const qel::Point3& metres) const noexcept
+ScreenPoint ViewTransform::ToScreen (const qel::Point3& metres) const noexcept
 {
     const float up = topView ? yOffset + pixelsPerMetre * metres.y : zOffset + pixelsPerMetre * metres.z;
     return { WithinReach (halfWidth + xOffset + pixelsPerMetre * metres.x), WithinReach (halfHeight - up) };
 }
 
-qel::Point3 ViewTransform::ToWorld (juce::Point<float> pixels) const noexcept
+qel::Point3 ViewTransform::ToWorld (ScreenPoint pixels) const noexcept
 {
     const float x = (pixels.x - halfWidth - xOffset) / pixelsPerMetre;
     const float up = -((pixels.y - halfHeight + (topView ? yOffset : zOffset)) / pixelsPerMetre);
@@ -50,11 +53,11 @@ qel::Point3 ViewTransform::ToWorld (juce::Point<float> pixels) const noexcept
 
 int ViewTransform::PixelSize (float proportion) const noexcept
 {
-    const float size = static_cast<float> (juce::roundToInt (static_cast<float> (width) * proportion)) * zoom;
+    const float size = static_cast<float> (Rounded (static_cast<float> (width) * proportion)) * zoom;
     return static_cast<int> (std::clamp (size, 10.0f, 1000.0f));
 }
 
-int ViewTransform::Margin() const noexcept { return juce::roundToInt (static_cast<float> (width) * markerProportion); }
+int ViewTransform::Margin() const noexcept { return Rounded (static_cast<float> (width) * markerProportion); }
 
 float ViewTransform::GridScale() const noexcept
 {

@@ -1,6 +1,8 @@
 #pragma once
 #include "geometry/OrvaneDspTriangulation.h"
-#include "gui/plane/objects/Speaker.h"
+#include "gui/scene/Positions.h"
+
+#include <utility>
 
 namespace lumo::Plane
 {
@@ -11,14 +13,35 @@ class SpeakerGeometry
 {
 public:
     /** Call when a speaker moves or their number changes. */
-    void SpeakersMoved() noexcept;
+    void SpeakersMoved() noexcept { hullDirty = triangulationDirty = projectionDirty = true; }
 
-    void UpdateHull (const qel::Vector<Speaker>& speakers);
-    void UpdateTriangulation (const qel::Vector<Speaker>& speakers);
+    template <typename Speakers>
+    void UpdateHull (const Speakers& speakers)
+    {
+        if (std::exchange (hullDirty, false))
+            ComputeHull (PositionsOf (speakers));
+    }
+    template <typename Speakers>
+    void UpdateTriangulation (const Speakers& speakers)
+    {
+        if (std::exchange (triangulationDirty, false))
+            triangulation.compute (PositionsOf (speakers));
+    }
     /** Returns whether it was recomputed. */
-    bool UpdateProjection (const qel::Vector<Speaker>& speakers);
+    template <typename Speakers>
+    bool UpdateProjection (const Speakers& speakers)
+    {
+        if (! std::exchange (projectionDirty, false))
+            return false;
+        ComputeProjection (PositionsOf (speakers));
+        return true;
+    }
     /** The radius is the largest distance of a speaker from the origin. */
-    void UpdateRadius (const qel::Vector<Speaker>& speakers);
+    template <typename Speakers>
+    void UpdateRadius (const Speakers& speakers)
+    {
+        radius = qel::maximumRadius (PositionsOf (speakers));
+    }
 
     /** The corners of the convex hull; fewer than three if it has no area. */
     [[nodiscard]] const qel::Point3Array& Hull() const noexcept { return hull; }
@@ -32,6 +55,9 @@ public:
     [[nodiscard]] float Radius() const noexcept { return radius; }
 
 private:
+    void ComputeHull (const qel::Point3Array& positions);
+    void ComputeProjection (const qel::Point3Array& positions);
+
     bool hullDirty = true;
     bool triangulationDirty = true;
     bool projectionDirty = true;

@@ -1,10 +1,14 @@
 #pragma once
 #include "geometry/OrvaneDspPoint3.h"
 
-#include <juce_graphics/juce_graphics.h>
-
 namespace lumo::Plane
 {
+
+/** A place on the component in pixels, right and down of its corner. */
+struct ScreenPoint
+{
+    float x, y;
+};
 
 /** Maps metres of the scene to component pixels by one of two orthographic projections. The scale depends on the width
     alone. Arithmetic only; shared by painting, hit testing and dragging. */
@@ -19,14 +23,12 @@ public:
     void Update (int width, int height) noexcept;
 
     /** Finite, and within some millions of pixels, the rasteriser's range. */
-    [[nodiscard]] juce::Point<float> ToScreen (const qel::Point3& metres) const noexcept;
+    [[nodiscard]] ScreenPoint ToScreen (const qel::Point3& metres) const noexcept;
     /** The coordinate hidden by the view is 0. */
-    [[nodiscard]] qel::Point3 ToWorld (juce::Point<float> pixels) const noexcept;
+    [[nodiscard]] qel::Point3 ToWorld (ScreenPoint pixels) const noexcept;
 
     /** Side of an object that takes a proportion of the width: 10 to 1000 pixels. Also the hit radius. */
     [[nodiscard]] int PixelSize (float proportion) const noexcept;
-    /** The component's area in pixels. */
-    [[nodiscard]] juce::Rectangle<int> Bounds() const noexcept { return { width, height }; }
     /** Pixels per metre for what is drawn about the origin, without the margin; rounded as the grid is. */
     [[nodiscard]] float GridScale() const noexcept;
     /** The margin in pixels: a proportion of the width, rounded to even. */

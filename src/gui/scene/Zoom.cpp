@@ -1,6 +1,7 @@
-#include "gui/plane/view/AutoZoom.h"
+#include "gui/scene/Zoom.h"
 
-#include <algorithm>
+#include "gui/scene/Finite.h"
+
 #include <cmath>
 
 namespace lumo::Plane
@@ -10,21 +11,6 @@ namespace
 {
 
 constexpr float step = 0.01f;
-
-/** By x and y, even in the front view; the last of equals, or the first source if none is visible. */
-const Source& FarthestSource (const qel::Vector<Source>& sources)
-{
-    const Source* farthest = &sources[0];
-    float reach = -1.0f;
-    for (const auto& source : sources) {
-        const float own = std::max (std::abs (source.position.x), std::abs (source.position.y));
-        if (source.visible && own >= reach) {
-            farthest = &source;
-            reach = own;
-        }
-    }
-    return *farthest;
-}
 
 /** A view for trying zooms. */
 class Trial
@@ -71,11 +57,17 @@ void Shrink (Trial& trial)
 
 }
 
-float FittingZoom (const Scene& scene, const ViewTransform& view)
+bool Zoom::Store (float factor)
 {
-    if (scene.sources.empty())
-        return view.zoom;
-    Trial trial (view, FarthestSource (scene.sources).position);
+    if (! AreFinite (factor) || locked || factor == view.zoom)
+        return false;
+    view.zoom = view.ClampZoom (factor);
+    return true;
+}
+
+float Zoom::Fitting (const qel::Point3& point) const
+{
+    Trial trial (view, point);
     if (trial.OnScreen())
         Grow (trial);
     else
