@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <vector>
 
 namespace halcyra
 {
@@ -19,24 +20,8 @@ namespace
 
 using namespace orvanemax;
 
-constexpr double lowest (HalcyraReverbParameter number) { return parameterRow (number)->range.lowest; }
-constexpr double highest (HalcyraReverbParameter number) { return parameterRow (number)->range.highest; }
-constexpr const char* defaultOf (HalcyraReverbParameter number) { return parameterRow (number)->defaultText; }
-
-/** A parameter's attribute whose limits differ from the parameter's. */
-constexpr AttributeRow unfiltered (AttributeField field, HalcyraReverbParameter parameter, const char* label)
-{
-    return number (field, defaultOf (parameter), label);
-}
-
-/** A parameter's attribute, with the parameter's limits. */
-constexpr AttributeRow reverbNumber (AttributeField field, HalcyraReverbParameter parameter, const char* label)
-{
-    return unfiltered (field, parameter, label).within (lowest (parameter), highest (parameter));
-}
-
 // clang-format off
-constexpr ControlAttribute table[] = {
+constexpr ControlAttribute sizesAndFilters[] = {
     { integer (HALCYRA_FIELD (numsources), "6", "number of sources").within (1, 64).ordered (1).notReset(), nullptr },
     { integer (HALCYRA_FIELD (numspeakers), "6", "number of speakers").within (1, 64).ordered (2).notReset(), nullptr },
     { integer (HALCYRA_FIELD (numinternals), "8", "number of internal channels for FDN").within (2, 16).notReset(), nullptr },
@@ -44,31 +29,27 @@ constexpr ControlAttribute table[] = {
     { number (HALCYRA_FIELD (room), filterDefaultText.data(), "room filter").array (6).ordered (4), "filters" },
     { number (HALCYRA_FIELD (early), filterDefaultText.data(), "early filter").array (6).ordered (5), "filters" },
     { number (HALCYRA_FIELD (cluster), filterDefaultText.data(), "cluster filter").array (6).ordered (6), "filters" },
-    { reverbNumber (HALCYRA_FIELD (gain), parameter::gain, "late reverberation gain (dB)").ordered (20), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (tr0), parameter::tr0, "decay time (s)").ordered (21), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (trl), parameter::trl, "relative decay time at low freq").ordered (22), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (trm), parameter::trm, "relative decay time at med freq").ordered (23), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (trh), parameter::trh, "relative decay time at high freq").ordered (24), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (fl), parameter::fl, "low/med crossover frequency"), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (fh), parameter::fh, "med/high crossover frequency"), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (early_start), parameter::earlyStart, "early start").ordered (7), "reverb" },
-    { unfiltered (HALCYRA_FIELD (early_end), parameter::earlyEnd, "early end").within (0, highest (parameter::earlyEnd)).ordered (8), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (early_distr), parameter::earlyDistr, "early distr").ordered (9), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (early_shape), parameter::earlyShape, "early shape").ordered (10), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (early_width), parameter::earlyWidth, "early width").ordered (11), "reverb" },
-    { unfiltered (HALCYRA_FIELD (cluster_start), parameter::clusterStart, "cluster start").atMost (highest (parameter::clusterStart)).ordered (12), "reverb" },
-    { unfiltered (HALCYRA_FIELD (cluster_end), parameter::clusterEnd, "cluster end").atMost (highest (parameter::clusterEnd)).ordered (13), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (cluster_distr), parameter::clusterDistr, "cluster distr").ordered (14), "reverb" },
-    { unfiltered (HALCYRA_FIELD (reverb_start), parameter::reverbStart, "reverb start").clipped (lowest (parameter::reverbStart), highest (parameter::reverbStart)).ordered (15), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (modaldensity), parameter::modalDensity, "reverb modal density").ordered (16), "reverb" },
-    { onOff (HALCYRA_FIELD (roomairabsorption), defaultOf (parameter::air), "room air absorption").ordered (17), "reverb" },
-    { onOff (HALCYRA_FIELD (infinite), defaultOf (parameter::infinite), "infinite reverb").ordered (18), "reverb" },
-    { reverbNumber (HALCYRA_FIELD (roomairrolloff), parameter::airFrequency, "room air absorption rolloff").ordered (19), "reverb" },
+};
+
+constexpr ControlAttribute windowOptions[] = {
     { onOff (HALCYRA_FIELD (windowmoveable), "1", "window moveable"), "window options" },
     { number (HALCYRA_FIELD (windowtopleft), "50 800", "window top left corner").array (2).in ("px"), "window options" },
     { symbolic (HALCYRA_FIELD (windowtitle), "Halcyra", "window title").ordered (25).notReset(), "window options" },
 };
 // clang-format on
+
+/** The reverb parameters' rows stand between these two. */
+const auto& allRows()
+{
+    static const auto rows = [] {
+        std::vector<ControlAttribute> all (std::begin (sizesAndFilters), std::end (sizesAndFilters));
+        for (const auto& mirror : reverbMirrors)
+            all.push_back ({ mirror.attribute, "reverb" });
+        all.insert (all.end(), std::begin (windowOptions), std::end (windowOptions));
+        return all;
+    }();
+    return rows;
+}
 
 /** A size of the object: set at creation, afterwards only compared. */
 struct SizeRow
@@ -87,7 +68,7 @@ constexpr SizeRow sizes[] = {
 
 const AttributeRow& rowOf (SymbolField name)
 {
-    return std::find_if (std::begin (table), std::end (table),
+    return std::find_if (allRows().begin(), allRows().end(),
                          [&] (const ControlAttribute& a) { return gensym (a.row.name) == symbol (name); })
         ->row;
 }
@@ -149,21 +130,12 @@ bool isWindowOption (t_symbol* name) noexcept
     return name == symbols().windowtitle || name == symbols().windowtopleft || name == symbols().windowmoveable;
 }
 
-bool isReverbValue (t_symbol* name) noexcept
-{
-    const auto isNamed = [name] (SymbolField field) { return symbol (field) == name; };
-    return std::any_of (reverbMirrors.begin(), reverbMirrors.end(),
-                        [&] (const ReverbMirror& row) { return isNamed (row.attribute); }) ||
-           std::any_of (filterMirrors.begin(), filterMirrors.end(),
-                        [&] (const FilterMirror& row) { return isNamed (row.selector); });
-}
-
 void setAttribute (t_halcyra_control* x, t_symbol* name, t_clong argc, t_atom* argv)
 {
     for (const auto& size : sizes)
         if (symbol (size.name) == name)
             return setSize (x, size, Atoms (argc, argv));
-    if (isReverbValue (name))
+    if (parameterNamed (name) != nullptr || filterNamed (name) != nullptr)
         return halcyra_control_defer_msg (x, name, argc, argv);
     if (! isWindowOption (name))
         return tellError (x, std::string ("unknown attribute ") + name->s_name);
@@ -175,7 +147,7 @@ void setAttribute (t_halcyra_control* x, t_symbol* name, t_clong argc, t_atom* a
 
 }
 
-orvanemax::Rows<ControlAttribute> controlAttributes() noexcept { return table; }
+orvanemax::Rows<ControlAttribute> controlAttributes() { return { allRows().data(), allRows().size() }; }
 
 void fillControlDefaults (t_halcyra_control* x)
 {

@@ -14,7 +14,7 @@ struct ControlAttribute
 };
 
 /** All rows, in order of registration. */
-[[nodiscard]] orvanemax::Rows<ControlAttribute> controlAttributes() noexcept;
+[[nodiscard]] orvanemax::Rows<ControlAttribute> controlAttributes();
 
 /** Initialises what must be readable before the first default is set: the sizes and the title. */
 void fillControlDefaults (t_halcyra_control* x);

@@ -21,23 +21,6 @@ namespace
 using DeferredHandler = orvanemax::HostFunction;
 using orvanemax::hostFunction;
 
-const ReverbMirror* mirrorOf (t_symbol* selector) noexcept
-{
-    const auto row = std::find_if (reverbMirrors.begin(), reverbMirrors.end(), [=] (const ReverbMirror& mirror) {
-        return orvanemax::symbol (mirror.attribute) == selector;
-    });
-    return row == reverbMirrors.end() ? nullptr : &*row;
-}
-
-/** The number of filters for an unknown selector. */
-HalcyraFilter filterNumber (t_symbol* selector) noexcept
-{
-    const auto row = std::find_if (filterMirrors.begin(), filterMirrors.end(), [=] (const FilterMirror& mirror) {
-        return orvanemax::symbol (mirror.selector) == selector;
-    });
-    return static_cast<HalcyraFilter> (row - filterMirrors.begin());
-}
-
 /** A symbol counts as 0; NaN and infinity are rejected. */
 bool isOneValue (Atoms atoms) noexcept
 {
@@ -47,7 +30,7 @@ bool isOneValue (Atoms atoms) noexcept
 void setNumber (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv)
 {
     const Atoms atoms (argc, argv);
-    const auto& mirror = *mirrorOf (selector);
+    const auto& mirror = *parameterNamed (selector);
     if (! isOneValue (atoms))
         return invalidMessage (x, mirror.complaint, atoms);
     x->component->setReverbParameter (mirror.number, atoms.number (0));
@@ -56,7 +39,7 @@ void setNumber (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* ar
 void setSwitch (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv)
 {
     const Atoms atoms (argc, argv);
-    const auto& mirror = *mirrorOf (selector);
+    const auto& mirror = *parameterNamed (selector);
     if (! atoms.fit ("l"))
         return invalidMessage (x, mirror.complaint, atoms);
     x->component->setReverbParameter (mirror.number, atoms.integer (0) != 0 ? 1.0f : 0.0f);
@@ -73,8 +56,8 @@ void setRoomSize (t_halcyra_control* x, t_symbol*, short argc, t_atom* argv)
 /** Silently ignores an invalid filter: messages were validated before, attributes are not. */
 void setFilter (t_halcyra_control* x, t_symbol* selector, short argc, t_atom* argv)
 {
-    const auto number = filterNumber (selector);
-    const auto& mirror = filterMirrors[static_cast<std::size_t> (number)];
+    const auto& mirror = *filterNamed (selector);
+    const auto number = static_cast<HalcyraFilter> (&mirror - filterMirrors.data());
     auto filter = x->component->getFilter (number); // fields that the message does not set keep their value
     parseFilter (filter, Atoms (argc, argv));
     x->component->setFilter (number, filter, true);
@@ -102,9 +85,9 @@ const DeferredMessage otherMessages[] = {
 /** Empty for an unknown selector. */
 DeferredHandler handlerOf (t_symbol* selector) noexcept
 {
-    if (const auto* mirror = mirrorOf (selector))
+    if (const auto* mirror = parameterNamed (selector))
         return mirror->flag != nullptr ? hostFunction<setSwitch>() : hostFunction<setNumber>();
-    if (filterNumber (selector) < static_cast<HalcyraFilter> (filterMirrors.size()))
+    if (filterNamed (selector) != nullptr)
         return hostFunction<setFilter>();
     const auto* row =
         std::find_if (std::begin (otherMessages), std::end (otherMessages), [=] (const DeferredMessage& message) {

@@ -139,7 +139,7 @@ void MaxHalcyraListener::sendParameter (HalcyraReverbParameter parameter)
     std::array<t_atom, 2> atoms{};
     atom_setsym (&atoms[0], words.key);
     if (mirrorParameter (x, mirror, atoms[1]))
-        touchAttribute (x, orvanemax::symbol (mirror.attribute));
+        touchAttribute (x, words.attribute);
     sendOut (x, words.selector, 2, atoms.data());
 }
 

@@ -21,7 +21,7 @@ bool forwardKeyed (t_halcyra_control* x, t_symbol* group, Atoms atoms)
     for (const auto& mirror : reverbMirrors) {
         const auto& words = reverbWords (mirror.number);
         if (words.selector == group && words.key == key) {
-            halcyra_control_defer_msg (x, orvanemax::symbol (mirror.attribute), 1, &atoms[1]);
+            halcyra_control_defer_msg (x, words.attribute, 1, &atoms[1]);
             return true;
         }
     }

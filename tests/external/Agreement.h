@@ -70,8 +70,7 @@ protected:
             const auto* key = atom_getsym (&event.atoms.front())->s_name;
             for (const auto& row : halcyra::parameterTable)
                 if (event.text == row.selector && std::string_view (row.key) == key) {
-                    const auto& mirror = halcyra::reverbMirrors[static_cast<std::size_t> (row.number)];
-                    EXPECT_EQ (stored (orvanemax::symbol (mirror.attribute)->s_name).front(),
+                    EXPECT_EQ (stored (halcyra::reverbWords (row.number).attribute->s_name).front(),
                                numberOf (event.atoms.back()))
                         << "when told: " << bench::lineOf (event);
                 }
@@ -86,8 +85,7 @@ protected:
         const auto& model = component.getModel();
         for (const auto& row : halcyra::parameterTable) {
             const auto value = model.value (row.number);
-            const auto& mirror = halcyra::reverbMirrors[static_cast<std::size_t> (row.number)];
-            const auto* attribute = orvanemax::symbol (mirror.attribute)->s_name;
+            const auto* attribute = halcyra::reverbWords (row.number).attribute->s_name;
             EXPECT_EQ (row.range.stepped (value), value) << attribute << " stands between steps";
             EXPECT_EQ (numbersOf (bench::attributeOf (*box, attribute).value()), std::vector<float>{ value })
                 << attribute;

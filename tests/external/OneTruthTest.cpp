@@ -109,8 +109,7 @@ protected:
         case 5:
             if (dice.oneIn (4)) {
                 const auto& mirror = dice.in (halcyra::reverbMirrors);
-                const std::string name =
-                    dice.oneIn (4) ? dice.in (halcyra::filterNames) : orvanemax::symbol (mirror.attribute)->s_name;
+                const std::string name = dice.oneIn (4) ? dice.in (halcyra::filterNames) : mirror.attribute.name;
                 note (name + " with bad numbers");
                 return walker->send (name, badNumbers (dice));
             }

@@ -93,10 +93,9 @@ inline constexpr const char* switches[] = { "zoomlock",
 inline std::string reverbMessage (Dice& dice)
 {
     const auto& row = dice.in (halcyra::parameterTable);
-    const auto& words = halcyra::reverbMirrors[static_cast<std::size_t> (row.number)];
     const bool isGrouped = dice.oneIn (2);
     const auto selector = isGrouped ? std::string (row.selector) + " " + row.key
-                                    : std::string (orvanemax::symbol (words.attribute)->s_name);
+                                    : std::string (halcyra::reverbWords (row.number).attribute->s_name);
     const auto value =
         row.isSwitch() ? std::to_string (dice.below (2)) : numberAbout (dice, row.range.lowest, row.range.highest);
     return selector + " " + value;
