@@ -22,7 +22,7 @@ TEST (HalcyraParameters, EachRowStandsAtItsNumberAndHasWordsOfItsOwn)
         EXPECT_TRUE (words.insert (std::string (row.selector) + " " + row.key).second) << row.key;
     }
     EXPECT_EQ (halcyra::parameterRow (-1), nullptr);
-    EXPECT_EQ (halcyra::parameterRow (20), nullptr);
+    EXPECT_EQ (halcyra::parameterRow (parameter::count), nullptr);
 }
 
 TEST (HalcyraParameters, DefaultsLieWithinTheRangesAndMostDoubleClicksLeadToThem)

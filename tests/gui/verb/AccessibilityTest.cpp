@@ -75,8 +75,8 @@ protected:
 
 TEST_F (Accessibility, EveryControlHasANameARoleAndAValue)
 {
-    // The tabs; sliders and the picture, switches, Reset; columns; the objects of the scene.
-    constexpr int controlsOfPage[] = { 3 + 19 + 1 + 2 + 1, 3 + 4 * 7, 3 + 2 + 2 + 1 };
+    // The tabs; the parameters, the room size, the picture, Reset; columns; the objects of the scene.
+    constexpr int controlsOfPage[] = { 3 + halcyra::parameter::count + 3, 3 + 4 * 7, 3 + 2 + 2 + 1 };
     for (int page = 0; page < 3; ++page) {
         (void)onPage (page);
         EXPECT_THAT (spoken::gapsBelow (*component.getAccessibilityHandler()), IsEmpty()) << "page " << page;

@@ -77,7 +77,7 @@ TEST_F (Halcyra, HoldsTheDefaultsOnceItsMessagesHaveRun)
     for (int filter = 0; filter < 4; ++filter)
         EXPECT_EQ (component.getFilter (filter), HLShelfParameters{});
     EXPECT_EQ (component.reverbParameter (-1), 0);
-    EXPECT_EQ (component.reverbParameter (20), 0);
+    EXPECT_EQ (component.reverbParameter (parameter::count), 0);
 }
 
 TEST_F (Halcyra, ASettingActsAtOnceAndIsToldWhenTheTurnEnds)
@@ -143,7 +143,7 @@ TEST_F (Halcyra, TellsEverythingInItsOrder)
 {
     component.sendAllParameters();
     std::vector<std::string> expected{ "source 0", "source 1", "filter 0", "filter 1", "filter 2", "filter 3" };
-    for (int number = 0; number < 20; ++number)
+    for (int number = 0; number < parameter::count; ++number)
         expected.push_back ("reverb " + std::to_string (number));
     expected.insert (expected.end(), { "speakers", "options" });
     EXPECT_EQ (ear.take(), expected);
