@@ -149,6 +149,7 @@ TEST_P (Lifecycle, WhatTheHostGaveOutComesBack)
         bench::presetOf (*box);
         bench::setState (*box, bench::stateOf (*box).value());
         box.free();
+        freeDictionaries();
         settle();
         transcript();
         return std::pair (bench::numberOfBlocks(), bench::numberOfObjects());

@@ -67,7 +67,8 @@ TEST_P (Registration, AttributesAreListedByNameAndByTheirOrder)
     const auto byOrder = names (orvanemax::SortMode::byOrder);
     ASSERT_EQ (byOrder.size(), byName.size());
     for (std::size_t i = 0; i < ordered.size(); ++i)
-        EXPECT_EQ (byOrder[i], ordered[i]->name);
+        EXPECT_TRUE (byOrder[i] == ordered[i]->name && ordered[i]->order == static_cast<int> (i) + 1)
+            << byOrder[i] << " is number " << ordered[i]->order;
 }
 
 TEST_P (Registration, PropertiesAreTheOnesThatUsersKnow)

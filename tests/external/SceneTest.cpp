@@ -2,6 +2,7 @@
 #include "EveryMessage.h"
 
 #include "external/ViewerAttributes.h"
+#include "external/ViewerMessages.h"
 #include "gui/plane/PlaneComponent.h"
 #include "max/AttributeList.h"
 #include "support/bench/HookClass.h"
@@ -217,6 +218,63 @@ TEST_P (Scene, AttributesHoldWhatWasDoneBeforeAnythingIsTold)
         EXPECT_FALSE (heard.empty());
         box.free();
     }
+}
+
+/** A queued update reaches the plane later; what it asks for is readable at once. */
+TEST_P (Scene, AWaitingUpdateIsReadAtOnce)
+{
+    const struct
+    {
+        const char *message, *attribute;
+    } rows[] = { { "source 1 xyz 1 2 3", "sourcespositions" },   { "listener xyz 1 2 3", "listenerposition" },
+                 { "speaker 1 xyz 1 2 3", "speakerspositions" }, { "listener yaw 200", "listeneryaw" },
+                 { "listener pitch 40", "listenerpitch" },       { "listener roll 50", "listenerroll" },
+                 { "listener rpy 10 20 30", "listeneryaw" },     { "listener rpy 10 20 30", "listenerpitch" },
+                 { "listener rpy 10 20 30", "listenerroll" } };
+    for (const auto& row : rows)
+        for (const auto* defer : { "defer 0", "defer 1" }) {
+            auto box = settled ("@numsources 2 @numspeakers 2");
+            box.send (defer);
+            settle();
+            const auto before = box.attribute (row.attribute);
+            box.send (row.message);
+            const auto atOnce = box.attribute (row.attribute);
+            EXPECT_NE (atOnce, before) << row.message;
+            settle();
+            EXPECT_EQ (box.attribute (row.attribute), atOnce) << row.message;
+            box.free();
+        }
+}
+
+/** The host's word `false` as selector: an update that the outlet does not send. */
+TEST_P (Scene, AnUpdateCalledFalseIsNotSent)
+{
+    using Entry = void (*) (void*, t_symbol*, t_clong, t_atom*);
+    const struct
+    {
+        const char* message;
+        Entry entry;
+        const char* attribute;
+    } rows[] = { { "source 1 xyz 1 2 3", halcyra::changeSource, "sourcespositions" },
+                 { "speaker 1 xyz 1 2 3", halcyra::changeSpeaker, "speakerspositions" },
+                 { "speakers xyz 1 2 3 4 5 6", halcyra::changeSpeakers, "speakerspositions" } };
+    for (const auto& row : rows)
+        for (const auto* defer : { "defer 0", "defer 1" }) {
+            Messages held;
+            for (const auto* selector : { "", "false" }) {
+                auto box = settled ("@numsources 2 @numspeakers 2");
+                box.send (defer);
+                settle();
+                auto message = bench::messageOf (bench::wordsOf (row.message));
+                auto* name = *selector == 0 ? message.selector : gensym (selector);
+                row.entry (box->object, name, static_cast<t_clong> (message.atoms.size()), message.atoms.data());
+                settle();
+                EXPECT_EQ (box.leftOutlet().empty(), *selector != 0) << row.message << ' ' << selector;
+                held.push_back (box.attribute (row.attribute));
+                box.free();
+            }
+            EXPECT_EQ (held.front(), held.back()) << row.message;
+        }
 }
 
 /** Beyond what every message tries: each angle and coordinate alone, and what several attributes follow. */

@@ -1,6 +1,7 @@
 #include "support/bench/BenchTest.h"
 #include "host/bench/Words.h"
 #include <algorithm>
+#include <utility>
 
 using bench::Event;
 
@@ -49,11 +50,7 @@ BenchTest::BenchTest (bench::DeferMedium deferMedium) : patch (deferMedium)
 BenchTest::~BenchTest()
 {
     patch.setListener ({}); // events during the patch's destruction would arrive after the list is gone
-    for (const auto& name : dictionaries) {
-        auto* dictionary = dictobj_findregistered_retain (gensym (name.c_str()));
-        dictobj_release (dictionary);
-        object_free (dictionary);
-    }
+    freeDictionaries();
 }
 
 TestBox BenchTest::make (const std::string& text)
@@ -65,6 +62,15 @@ void BenchTest::putEntry (const std::string& dictionary, const std::string& key,
 {
     dictionaries.insert (dictionary);
     bench::putEntry (dictionary, key, atoms);
+}
+
+void BenchTest::freeDictionaries()
+{
+    for (const auto& name : std::exchange (dictionaries, {})) {
+        auto* dictionary = dictobj_findregistered_retain (gensym (name.c_str()));
+        dictobj_release (dictionary);
+        object_free (dictionary);
+    }
 }
 
 std::vector<Event> BenchTest::takeIf (const std::function<bool (const Event&)>& wanted)

@@ -82,6 +82,8 @@ public:
 
     /** As bench::putEntry(), but the dictionary ends with the test: names are the process's. */
     void putEntry (const std::string& dictionary, const std::string& key, const bench::Atoms& atoms);
+    /** Ends them now. */
+    void freeDictionaries();
 
     /** Rows of the Max console, of all boxes and of none: "error TEXT". */
     Messages console();
