@@ -41,3 +41,41 @@ TEST_P (Allocation, AMessageThatGetsNoMemoryHarmsNothingAndTheNextOneWorks)
     std::printf ("%d allocations failed\n", failures);
     EXPECT_GT (failures, 170);
 }
+
+TEST_P (Allocation, ACreationThatGetsNoMemoryIsReportedAndTheNextOneWorks)
+{
+    const auto create = [this] {
+        auto box = make ("halcyra~.control @numsources 2 @numspeakers 2");
+        settle();
+        return box;
+    };
+    create().free();
+    int refused = 0, failures = 0;
+    constexpr int mostAllocations = 20000;
+    for (int number = 0; number < mostAllocations; ++number) {
+        console();
+        failAllocation (number);
+        auto box = create();
+        const bool hasFailed = allocationHasFailed();
+        failAllocation (-1);
+        if (! hasFailed)
+            break;
+        ++failures;
+        const auto said = console();
+        EXPECT_THAT (said, testing::Not (testing::IsEmpty())) << number;
+        if (! box) {
+            ++refused;
+            EXPECT_THAT (said, testing::Contains (testing::HasSubstr ("couldnt create object"))) << number;
+        } else
+            box.free();
+        auto next = create();
+        ASSERT_TRUE (next) << number;
+        next.send ("gain 3");
+        settle();
+        EXPECT_THAT (next.leftOutlet(), testing::Contains ("reverb gain 3.")) << number;
+        next.free();
+        transcript();
+    }
+    std::printf ("%d allocations failed, %d objects were refused\n", failures, refused);
+    EXPECT_GT (refused, 10);
+}
