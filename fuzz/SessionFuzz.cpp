@@ -115,7 +115,7 @@ private:
             Session::*steps[])() = { &Session::sendGood,  &Session::sendGood, &Session::sendGood, &Session::sendAny,
                                      &Session::sendAny,   &Session::settle,   &Session::settle,   &Session::point,
                                      &Session::point,     &Session::point,    &Session::turnPage, &Session::press,
-                                     &Session::attribute, &Session::state,    &Session::rare,     &Session::paint };
+                                     &Session::attribute, &Session::paint,    &Session::rare,     &Session::paint };
         (this->*input.oneOf (steps))();
     }
 
@@ -211,7 +211,7 @@ private:
 
     void rare()
     {
-        switch (input.choice (8)) {
+        switch (input.choice (9)) {
         case 0:
             return make();
         case 1:
@@ -226,6 +226,8 @@ private:
             return bench::putEntry ("saved", input.oneOf (ControlFuzz::attributes()), input.atoms (6));
         case 6:
             return connect();
+        case 7:
+            return state(); // as long as many other steps together
         default:
             return fuzz.patch.release();
         }

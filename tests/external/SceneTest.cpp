@@ -52,11 +52,11 @@ const Reach reaches[] = {
     { "numangulardivisions 12", 12, HELD (GetSurface().grid.numAngularDivisions) },
     { "dashedgrid 1", 1, HELD (GetSurface().grid.dashed) },
     { "showangulardivisions 0", 0, HELD (GetSurface().grid.angularDivisionsVisible) },
-    { "gridcolor 1 0 0 1", 0xFFFF0000, HELD (GetSurface().grid.colour.getARGB()) },
-    { "backgroundcolor 0 1 0 1", 0xFF00FF00, HELD (GetSurface().background.colour.getARGB()) },
-    { "aperturecolor 0 0 1 1", 0xFF0000FF, HELD (GetScene().sources[1].apertureColour.getARGB()) },
-    { "speaker 3 color 0.2 0.4 0.6 1", 0xFF336699, HELD (GetScene().speakers[2].colour.getARGB()) },
-    { "sourcecolor 1 1 1 1 1 0 0 1", 0xFFFF0000, HELD (GetScene().sources[1].Colour().getARGB()) },
+    { "gridcolor 0.2 0.4 0.6 0.8", 0xCC336699, HELD (GetSurface().grid.colour.getARGB()) },
+    { "backgroundcolor 0.2 0.4 0.6 0.8", 0xCC336699, HELD (GetSurface().background.colour.getARGB()) },
+    { "aperturecolor 0.2 0.4 0.6 0.8", 0xCC336699, HELD (GetScene().sources[1].apertureColour.getARGB()) },
+    { "speaker 3 color 0.2 0.4 0.6 0.8", 0xCC336699, HELD (GetScene().speakers[2].colour.getARGB()) },
+    { "sourcecolor 1 1 1 1 0.2 0.4 0.6 0.8", 0xCC336699, HELD (GetScene().sources[1].Colour().getARGB()) },
     { "listeneryaw 90", pi / 2, HELD (GetListener().yaw) },
     { "listenerpitch 45", pi / 4, HELD (GetListener().pitch) },
     { "listenerroll 30", pi / 6, HELD (GetListener().roll) },
@@ -97,6 +97,18 @@ const Reach reaches[] = {
 
 #undef HELD
 
+}
+
+TEST_P (Scene, AnAreaTakesItsMessages)
+{
+    auto box = settled ("@numareas 2");
+    for (const auto* message :
+         { "areas 2 xyz 0 0 0 1 0 0 1 1 0", "areas 2 name 7", "areas 2 color 0.2 0.4 0.6 0.8", "areas 2 visible 0" })
+        EXPECT_EQ (saying (box, message), Messages()) << message;
+    const auto& areas = box.record<t_halcyra_control>()->plane->GetScene().areas;
+    EXPECT_EQ (areas[1].colour.getARGB(), 0xCC336699);
+    EXPECT_TRUE (areas[1].points.size() == 3 && areas[1].label == "7" && ! areas[1].visible);
+    EXPECT_TRUE (areas[0].points.empty() && areas[0].visible);
 }
 
 TEST_P (Scene, HoldsWhatAnAttributeSaysAndElseWhatItHeld)

@@ -49,6 +49,16 @@ class WrittenFiles(unittest.TestCase):
         self.assertEqual(len(exported["direct"]), 6)
         self.assertEqual(sorted(exported), sorted(line[2] for line in self.heard("attr")))
 
+    def test_export_has_a_line_for_each_attribute(self):
+        lines = self.path("all.json").read_text().split("\n")
+        self.assertEqual((lines[0], lines[-2:]), ("{", ["}", ""]))
+        entries = lines[1:-2]
+        self.assertTrue(all(line.startswith('    "') for line in entries))
+        self.assertEqual([line.endswith(", ") for line in entries], [True] * (len(entries) - 1) + [False])
+        for line in ('    "numsources" : 2, ', '    "windowtopleft" : [ 50.000000, 800.000000  ], ',
+                     '    "name" : [ "1", "2" ], '):
+            self.assertIn(line, entries)
+
     def test_snapshots_and_page_are_well_formed(self):
         for name in ("scenes.xml", "halcyra~.control.maxref.xml"):
             subprocess.run(["xmllint", "--noout", self.path(name)], check=True)
