@@ -46,8 +46,8 @@ private:
     Vector<Listener*> list;
 };
 
-/** Listeners, not owned, each once, null ignored; called in the order of adding. One that is called may remove itself
-    or others, or add some; none is called twice in one walk. One thread. */
+/** Listeners, not owned, called in the order in which they were added; null and duplicates are ignored. During a call a
+    listener may add and remove any, itself included; none is called twice. One thread. */
 template <typename Listener>
 class ListenersInOrder
 {

@@ -25,8 +25,8 @@ private:
     File temporary;
 };
 
-/** The safe way to write a file: `write` gets a FileWriter for a file beside it, which takes its place once `write` has
-    returned true and all of it is on the disk. Otherwise returns false, and the old file is unchanged. Throws what
+/** Writes a file safely: `write` receives a FileWriter for a temporary file, which replaces the target once `write` has
+    returned true and all data is on the disk. Otherwise returns false and leaves the old file unchanged. Throws what
     FileWriter and `write` throw. */
 template <typename Write>
 [[nodiscard]] bool replaceFile (const File& file, Write&& write)
