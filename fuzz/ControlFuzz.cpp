@@ -9,6 +9,9 @@
 
 #include <unistd.h>
 
+/** Short stack traces of allocations: unwinding them takes a fifth of the time. The corpus player has whole ones. */
+extern "C" const char* __asan_default_options() { return "malloc_context_size=2"; }
+
 namespace
 {
 
