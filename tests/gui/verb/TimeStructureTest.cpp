@@ -93,6 +93,12 @@ struct Ends
 {
     HalcyraReverbParameter number;
     float low, high;
+
+    friend std::ostream& operator<< (std::ostream& out, const Ends& ends)
+    {
+        const auto& row = *halcyra::parameterRow (ends.number);
+        return out << row.selector << '_' << row.key;
+    }
 };
 
 class Sliders : public TimeStructure, public testing::WithParamInterface<Ends>
