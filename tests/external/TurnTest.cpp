@@ -118,6 +118,20 @@ TEST_P (Turn, EndsAsItsMessagesOneByOneWould)
     expectSame (waiting, waiting);
 }
 
+TEST_P (Turn, ABangTellsOnceWhatWaits)
+{
+    auto box = prepared();
+    for (const auto* message : { "gain 3", "roomsize 3000.", "bang" })
+        box.send (message);
+    settle();
+    auto heard = box.leftOutlet();
+    if (GetParam() == bench::DeferMedium::now)
+        return; // each message is a turn of its own
+    std::sort (heard.begin(), heard.end());
+    EXPECT_EQ (std::adjacent_find (heard.begin(), heard.end()), heard.end());
+    EXPECT_THAT (heard, testing::Contains ("reverb gain 3."));
+}
+
 TEST_P (Turn, APartialMessageBehindTheHandLeavesTheRestAsTheHandSetIt)
 {
     auto box = prepared();

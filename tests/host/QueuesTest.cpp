@@ -190,6 +190,15 @@ TEST (BenchThreads, InternOneSymbolForAllAndKeepEveryRowOfTheWindow)
     EXPECT_EQ (patch.takeEvents().size(), 800u);
 }
 
+TEST (BenchLoading, ReportsAnExternalThatRefuses)
+{
+    bench::Bench patch;
+    patch.load ([] (void*) -> t_clong { return 7; });
+    const auto events = patch.takeEvents();
+    ASSERT_EQ (events.size(), 1u);
+    EXPECT_EQ (bench::lineOf (events.front()), "- error error 7 loading external");
+}
+
 TEST (BenchThreads, MoveTheSchedulersClockByWaitingAlone)
 {
     bench::Bench patch;

@@ -391,6 +391,18 @@ TEST (PlaneRepaint, GatedMovesLeaveItToTheCaller)
     EXPECT_LE (FarthestLevels (shown, screen.Picture()), 2);
 }
 
+TEST (PlaneRepaint, APlaneOfAnotherSizeShowsWhatANewOneOfThatSizeDoes)
+{
+    const auto picture = [] (int before, int after) {
+        PlaneComponent plane (2, 3, before);
+        plane.createComponentSnapshot (plane.getLocalBounds());
+        plane.setSize (after, after);
+        return plane.createComponentSnapshot (plane.getLocalBounds());
+    };
+    for (const int before : { 200, 500 })
+        EXPECT_LE (FarthestLevels (picture (before, 300), picture (300, 300)), 2) << before;
+}
+
 /** Dragging in a window repaints only the dragged object. */
 TEST (PlaneRepaint, ADragPaintsWhatItDrags)
 {
