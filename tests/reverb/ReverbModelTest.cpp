@@ -173,12 +173,12 @@ TEST (ReverbModel, SingleTimesStopAtTheirNeighboursAndFiveInOneTurnAreARecall)
     EXPECT_EQ (model.parameters().earlyStart, 60);
 }
 
-/** Random edits, as a patcher or a user could make them. */
-void wander (ReverbModel& model, std::mt19937& random, int steps)
+/** Random edits, as a patcher or a user could make them: messages, and every third one of another kind. */
+void wander (ReverbModel& model, std::mt19937& random, int steps, Edit third = Edit::hand)
 {
     std::uniform_real_distribution<float> part (-0.1f, 1.1f);
     for (int i = 0; i < steps; ++i) {
-        const auto edit = random() % 3 == 0 ? Edit::hand : Edit::message;
+        const auto edit = random() % 3 == 0 ? third : Edit::message;
         switch (random() % 12) {
         case 0:
             model.setRoomSize (15000 * part (random), edit);
@@ -196,7 +196,8 @@ void wander (ReverbModel& model, std::mt19937& random, int steps)
         default: {
             const auto& row = halcyra::parameterTable[random() % halcyra::parameterTable.size()];
             const auto lowest = static_cast<float> (row.range.lowest), highest = static_cast<float> (row.range.highest);
-            model.setParameter (row.number, lowest + (highest - lowest) * part (random), edit);
+            const float at = row.isSwitch() ? static_cast<float> (random() % 2) : part (random);
+            model.setParameter (row.number, lowest + (highest - lowest) * at, edit);
         }
         }
     }
@@ -268,15 +269,26 @@ TEST (ReverbModel, ResetTellsFiltersAlwaysThenSwitchesAndNumbersThatDiffer)
 
 TEST (ReverbModel, TheHandThatHoldsAControlWinsOverMessages)
 {
+    std::mt19937 random (5);
+    for (int number = 0; number < cell::count; ++number) {
+        Model model;
+        wander (model, random, 50);
+        const float ofTheHand = model.value (number);
+        model.hold (number);
+        for (int i = 0; i < 1000; ++i) {
+            wander (model, random, 1, Edit::quiet);
+            ASSERT_EQ (model.value (number), ofTheHand) << number;
+        }
+        model.release();
+        for (int i = 0; i < 1000 && model.value (number) == ofTheHand; ++i)
+            wander (model, random, 1, Edit::quiet);
+        EXPECT_NE (model.value (number), ofTheHand) << number;
+    }
+}
+
+TEST (ReverbModel, WhatTheHandDoesNotHoldFollowsMessagesAsFarAsItFits)
+{
     Model model;
-    model.hold (parameter::gain);
-    model.setParameter (parameter::gain, 12, Edit::hand);
-    model.set (parameter::gain, -5);
-    model.reset (Edit::message);
-    EXPECT_EQ (model.parameters().gain, 12);
-    model.release();
-    model.set (parameter::gain, -5);
-    EXPECT_EQ (model.parameters().gain, -5);
     model.hold (cell::ofFilter (1, 2));
     model.setFilter (1, { 1, 2, 3, 4, 500, 600 }, Edit::message);
     EXPECT_EQ (model.filter (1), (HLShelfParameters{ 1, 2, 0, 4, 500, 600 })) << "the other fields follow";
