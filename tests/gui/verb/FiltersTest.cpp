@@ -1,4 +1,5 @@
 #include "gui/verb/HalcyraFiltersTabComponent.h"
+#include "support/ImageDifference.h"
 #include "support/Stage.h"
 
 #include <gmock/gmock.h>
@@ -212,6 +213,45 @@ TEST_F (Filters, TheHandlesShowOnlyUnderThePointer)
     EXPECT_EQ (stage.picture().getPixelAt (corner.x + 115, corner.y + 20), before);
 }
 
+TEST_F (Filters, ASelectedGainSaysItsValueAtItsHandleAndACrossoverNone)
+{
+    const struct
+    {
+        double hz;
+        float HLShelfParameters::*field; // null for a crossover
+    } handles[] = { { lowCentre, &HLShelfParameters::Gl },
+                    { midCentre, &HLShelfParameters::Gm },
+                    { highCentre, &HLShelfParameters::Gh },
+                    { 250, nullptr },
+                    { 4000, nullptr } };
+    for (const auto& row : handles) {
+        const auto spot = handle (row.hz, row.field != nullptr ? 0 : 29);
+        stage.click (spot);
+        ASSERT_NE (curve.getSelectedHandle(), -1);
+        const auto selected = stage.picture();
+        stage.click (handle (midCentre, -25));
+        ASSERT_EQ (curve.getSelectedHandle(), -1);
+        const auto silent = stage.picture();
+        if (row.field == nullptr) {
+            EXPECT_TRUE (Difference (selected, silent).isEmpty()) << row.hz;
+            continue;
+        }
+        const auto isWrittenAt = [&] (juce::Point<int> at) {
+            auto written = silent.createCopy();
+            juce::Graphics g (written);
+            g.setFont (juce::Font (halcyra::HLShelfGrid::fontHeight));
+            g.drawText (juce::String (filter().*row.field, 1) + " dB",
+                        juce::Rectangle<int> (40, 40).withPosition (at.translated (-20, -20)),
+                        juce::Justification::centred, false);
+            return Difference (selected, written).isEmpty();
+        };
+        // The handle's place is rounded down.
+        EXPECT_TRUE (isWrittenAt (spot) || isWrittenAt (spot.translated (-1, 0)) ||
+                     isWrittenAt (spot.translated (0, -1)) || isWrittenAt (spot.translated (-1, -1)))
+            << row.hz;
+    }
+}
+
 TEST_F (Filters, TheCurveIsFilledUpToItsGain)
 {
     stage.move ({ 2, 2 });
@@ -220,8 +260,32 @@ TEST_F (Filters, TheCurveIsFilledUpToItsGain)
     const auto under = stage.at (curve, { 60, 80 }), above = stage.at (curve, { 60, 40 });
     const auto fill = picture.getPixelAt (under.x, under.y);
     EXPECT_GT (fill.getBlue(), fill.getRed() + 40);
+    int unfilled = 0;
+    for (int x = 0; x < curve.getWidth(); ++x) {
+        const auto foot = stage.at (curve, { x, curve.getHeight() - 2 });
+        const auto colour = picture.getPixelAt (foot.x, foot.y);
+        unfilled += colour.getBlue() > colour.getRed() + 40 ? 0 : 1;
+    }
+    EXPECT_EQ (unfilled, 0) << "from edge to edge";
     const auto free = picture.getPixelAt (above.x, above.y);
     EXPECT_NEAR (free.getBlue(), free.getRed(), 2);
+}
+
+TEST (HLShelfGrid, FrequenciesOfOneTwoAndFiveHaveTexts)
+{
+    halcyra::HLShelfGrid grid;
+    grid.setSize (3000, 150); // wide enough that no text reaches another line
+    const auto picture = grid.createComponentSnapshot (grid.getLocalBounds());
+    const halcyra::HLShelfScale s{ 3000, 150 };
+    std::vector<int> withText;
+    for (int decade = 10; decade <= 10000; decade *= 10)
+        for (int hz = decade; hz < 10 * decade && hz < 20000; hz += decade) {
+            const auto line = static_cast<int> (s.x (hz));
+            const juce::Rectangle<int> above (line - 3, 51, 7, 9), place (line - 3, 65, 7, 9); // between lines of gains
+            if (! Difference (picture.getClippedImage (above), picture.getClippedImage (place)).isEmpty())
+                withText.push_back (hz);
+        }
+    EXPECT_THAT (withText, ElementsAre (50, 100, 200, 500, 1000, 2000, 5000, 10000));
 }
 
 TEST (HLShelfGrid, TheTextsOfNeighbouringFrequenciesKeepApart)

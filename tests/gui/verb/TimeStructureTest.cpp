@@ -292,6 +292,21 @@ TEST_F (TimeStructure, ASettingRepaintsItsValueAndLeavesTheRestOfThePage)
     EXPECT_FALSE (differ ({ 608, 215, 300, 180 }));
 }
 
+TEST_F (TimeStructure, TheDisplayDrawsTheDecayAndTheStages)
+{
+    std::vector<int> drawn;
+    for (const auto& row : halcyra::parameterTable) {
+        const auto before = stage.picture();
+        set (row.number, static_cast<float> (row.range.lowest + 0.3 * (row.range.highest - row.range.lowest)));
+        if (differIn (halcyra::displayBox.rectangle(), before, stage.picture()))
+            drawn.push_back (row.number);
+    }
+    EXPECT_THAT (drawn, ElementsAre (+parameter::tr0, +parameter::trl, +parameter::trm, +parameter::trh,
+                                     +parameter::earlyStart, +parameter::earlyEnd, +parameter::earlyDistr,
+                                     +parameter::earlyShape, +parameter::clusterStart, +parameter::clusterEnd,
+                                     +parameter::clusterDistr, +parameter::reverbStart));
+}
+
 TEST_F (TimeStructure, PartsOfThePageShowWhatAWholeRepaintWouldShow)
 {
     for (const auto& place : halcyra::timeStructurePlaces)
