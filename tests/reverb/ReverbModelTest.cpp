@@ -17,6 +17,10 @@ using halcyra::ReverbModel;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/** What stops at its neighbours: starts and ends. */
+constexpr HalcyraReverbParameter stageTimes[] = { parameter::earlyStart, parameter::earlyEnd, parameter::clusterStart,
+                                                  parameter::clusterEnd, parameter::reverbStart };
+
 using State = std::array<float, cell::count>;
 
 State stateOf (const ReverbModel& model)
@@ -27,12 +31,12 @@ State stateOf (const ReverbModel& model)
     return state;
 }
 
-/** A model whose turns the test ends, and its notifications: "7" for a parameter, "filter 0". */
+/** A model whose turns the test ends, if it asks for that, and its notifications: "7" for a parameter, "filter 0". */
 struct Model : ReverbModel, private ReverbModel::Listener
 {
     explicit Model (int internals = 8) : ReverbModel (internals)
     {
-        wakeTurnEnd = [this] { ++wakes; };
+        wakeTurnEnd = [this] { endIsDue = ++wakes > 0; };
         addListener (this);
     }
     ~Model() override { removeListener (this); }
@@ -46,12 +50,14 @@ struct Model : ReverbModel, private ReverbModel::Listener
     void filterTold (HalcyraFilter number) override { told.push_back ("filter " + std::to_string (number)); }
     std::vector<std::string> end()
     {
-        endTurn();
+        if (std::exchange (endIsDue, false))
+            endTurn();
         return std::exchange (told, {});
     }
     void set (HalcyraReverbParameter number, float value) { setParameter (number, value, Edit::message); }
 
     int wakes = 0;
+    bool endIsDue = false;
     std::vector<std::string> told;
     std::function<void (HalcyraReverbParameter)> onTold;
 };
@@ -171,6 +177,23 @@ TEST (ReverbModel, SingleTimesStopAtTheirNeighboursAndFiveInOneTurnAreARecall)
     model.set (parameter::earlyStart, 119);
     EXPECT_EQ (model.parameters().earlyEnd, 60) << "and so does the hand";
     EXPECT_EQ (model.parameters().earlyStart, 60);
+}
+
+TEST (ReverbModel, WishesThatChangeNothingEndWithTheirTurnToo)
+{
+    for (const int last : stageTimes) {
+        Model model;
+        model.set (parameter::clusterEnd, 300);
+        model.end();
+        for (const int number : stageTimes)
+            if (number != last)
+                model.set (number, model.value (number));
+        model.end();
+        auto expected = stateOf (model);
+        model.set (last, last == parameter::earlyStart ? 119.0f : 1.0f);
+        expected[static_cast<std::size_t> (last)] = model.value (last);
+        EXPECT_EQ (stateOf (model), expected) << "a single time moves no other: " << last;
+    }
 }
 
 /** Random edits, as a patcher or a user could make them: messages, and every third one of another kind. */
@@ -303,14 +326,14 @@ TEST (ReverbModel, WhatTheHandDoesNotHoldFollowsMessagesAsFarAsItFits)
     model.end();
     model.hold (parameter::earlyEnd);
     const float heldEnd = model.parameters().earlyEnd;
-    for (const int number : { 7, 8, 12, 13, 15 })
+    for (const int number : stageTimes)
         model.set (number, 5);
     EXPECT_EQ (model.parameters().earlyEnd, heldEnd);
     EXPECT_GE (model.parameters().clusterEnd, heldEnd) << "the limits hold all the same";
     model.end();
     model.hold (parameter::earlyStart);
     const float held = model.parameters().earlyStart;
-    for (const int number : { 7, 8, 12, 13, 15 })
+    for (const int number : stageTimes)
         model.set (number, 2);
     EXPECT_EQ (model.parameters().earlyStart, held) << "a recall fits around it too";
     EXPECT_EQ (model.parameters().earlyEnd, held);
