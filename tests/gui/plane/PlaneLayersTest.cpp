@@ -133,6 +133,25 @@ const LayerRow layerRows[] = {
       { 68, 68, 30, 30 },
       { 69, 69 },
       0xFFFFFFFF },
+    { "a speaker's meter, over its edge",
+      [] (PlaneComponent& p) {
+          p.SetNumSpeakers (1, false);
+          p.SetSpeakerPosition (0, { 0.5f, 0, 0 }, false);
+          p.SetSpeakerProportion (0, 0.1f);
+      },
+      [] (PlaneComponent& p) { p.SetSpeakersLevelsVisible (true); },
+      { 229, 135, 6, 30 },
+      {},
+      0 },
+    { "a source's meter, beside it",
+      [] (PlaneComponent& p) {
+          p.SetSourcePosition (0, { 0.5f, 0, 0 }, false);
+          p.SetSourceProportion (0, 0.1f);
+      },
+      [] (PlaneComponent& p) { p.SetSourcesLevelsVisible (true); },
+      { 234, 135, 5, 30 },
+      {},
+      0 },
     { "a fan all around, a little farther than its source", // 1.07 times 60 pixels, and its line
       [] (PlaneComponent& p) {
           p.SetSourcePosition (0, { 0.5f, 0, 0 }, false);
