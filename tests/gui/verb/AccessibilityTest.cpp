@@ -349,6 +349,11 @@ TEST_F (Keyboard, ShowsWhereItIsOnlyWhenItIsInUse)
     const auto& slider = *juce::Component::getCurrentlyFocusedComponent();
     const auto around = component.getLocalArea (&slider, slider.getLocalBounds()).expanded (3);
     EXPECT_TRUE (differ (around));
+    component.grabKeyboardFocus(); // neither by the mouse nor by tab
+    bench::pumpGui();
+    EXPECT_FALSE (differ (around));
+    tabTo ("Early width");
+    EXPECT_TRUE (differ (around));
     stage.click ({ 300, 100 }); // the picture
     EXPECT_FALSE (differ (component.getLocalBounds().withTrimmedTop (200)));
 }
