@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace
 {
 
@@ -204,6 +206,7 @@ TEST_F (Accessibility, MakesNothingForObjectsUntilAScreenReaderAsksAndFollowsThe
 TEST_F (Accessibility, AKeyMovesASliderByTheStepThatIsSpoken)
 {
     int sliders = 0;
+    std::set<juce::String> messages;
     for (int page = 0; page < 2; ++page) {
         (void)onPage (page);
         spoken::walk (*component.getAccessibilityHandler(), [&] (juce::AccessibilityHandler& handler) {
@@ -211,6 +214,7 @@ TEST_F (Accessibility, AKeyMovesASliderByTheStepThatIsSpoken)
             if (slider == nullptr)
                 return;
             ++sliders;
+            messages.insert (handler.getHelp());
             auto& value = *handler.getValueInterface();
             const auto range = value.getRange();
             value.setValue (range.getMinimumValue());
@@ -223,6 +227,7 @@ TEST_F (Accessibility, AKeyMovesASliderByTheStepThatIsSpoken)
         });
     }
     EXPECT_EQ (sliders, 19 + 4 * 6);
+    EXPECT_EQ (messages.size(), 19u + 4 * 6) << "each tells its own";
 }
 
 TEST_F (Accessibility, EditsAsTheHandDoesOneStepAtATime)
@@ -347,7 +352,7 @@ TEST_F (Keyboard, ShowsWhereItIsOnlyWhenItIsInUse)
     };
     tabTo ("Early width");
     const auto& slider = *juce::Component::getCurrentlyFocusedComponent();
-    const auto around = component.getLocalArea (&slider, slider.getLocalBounds()).expanded (3);
+    auto around = component.getLocalArea (&slider, slider.getLocalBounds()).expanded (3);
     EXPECT_TRUE (differ (around));
     component.grabKeyboardFocus(); // neither by the mouse nor by tab
     bench::pumpGui();
@@ -356,6 +361,9 @@ TEST_F (Keyboard, ShowsWhereItIsOnlyWhenItIsInUse)
     EXPECT_TRUE (differ (around));
     stage.click ({ 300, 100 }); // the picture
     EXPECT_FALSE (differ (component.getLocalBounds().withTrimmedTop (200)));
+    tabTo ("Early width");
+    stage.click (stage.at (slider));
+    EXPECT_FALSE (differ (around.removeFromTop (2))) << "a press on the control itself ends it too";
 }
 
 }

@@ -107,6 +107,20 @@ TEST_F (Filters, AClickOnAHandleMovesItToThePointer)
     EXPECT_EQ (curve.getSelectedHandle(), -1) << "and ends when the pointer leaves";
 }
 
+TEST_F (Filters, AHandleStopsWhereThePointerLeavesTheCurve)
+{
+    for (const auto& beyond :
+         { stage.at (curve, { -9, 30 }), stage.at (curve, { 90, -9 }), stage.at (curve, { 90, 159 }) }) {
+        curve.reset();
+        stage.press (handle (midCentre, 0));
+        stage.drag (handle (midCentre, 10));
+        const auto inside = filter();
+        stage.drag (beyond);
+        EXPECT_EQ (filter(), inside);
+        stage.release (beyond);
+    }
+}
+
 TEST_F (Filters, TheGlobalGainMovesTheHandlesOfTheBands)
 {
     curve.setGlobalGain (-10);
@@ -255,9 +269,10 @@ TEST_F (Filters, ASelectedGainSaysItsValueAtItsHandleAndACrossoverNone)
 TEST_F (Filters, TheCurveIsFilledUpToItsGain)
 {
     stage.move ({ 2, 2 });
+    static_cast<void> (stage.picture()); // of the curve before
     curve.setGlobalGain (10);
     const auto picture = stage.picture();
-    const auto under = stage.at (curve, { 60, 80 }), above = stage.at (curve, { 60, 40 });
+    const auto under = stage.at (curve, { 60, 60 }), above = stage.at (curve, { 60, 40 });
     const auto fill = picture.getPixelAt (under.x, under.y);
     EXPECT_GT (fill.getBlue(), fill.getRed() + 40);
     int unfilled = 0;
@@ -277,15 +292,28 @@ TEST (HLShelfGrid, FrequenciesOfOneTwoAndFiveHaveTexts)
     grid.setSize (3000, 150); // wide enough that no text reaches another line
     const auto picture = grid.createComponentSnapshot (grid.getLocalBounds());
     const halcyra::HLShelfScale s{ 3000, 150 };
-    std::vector<int> withText;
-    for (int decade = 10; decade <= 10000; decade *= 10)
-        for (int hz = decade; hz < 10 * decade && hz < 20000; hz += decade) {
-            const auto line = static_cast<int> (s.x (hz));
-            const juce::Rectangle<int> above (line - 3, 51, 7, 9), place (line - 3, 65, 7, 9); // between lines of gains
-            if (! Difference (picture.getClippedImage (above), picture.getClippedImage (place)).isEmpty())
-                withText.push_back (hz);
+    const struct
+    {
+        double hz;
+        const char* text;
+    } rows[] = { { 50, "50" },     { 100, "100" }, { 200, "200" }, { 500, "500" },
+                 { 1000, "1000" }, { 2000, "2k" }, { 5000, "5k" }, { 10000, "10k" } };
+    // Two strips between lines of gains: without and with texts of frequencies.
+    auto expected = picture.getClippedImage ({ 0, 51, 3000, 10 }).createCopy(),
+         found = picture.getClippedImage ({ 0, 64, 3000, 10 }).createCopy();
+    juce::Graphics g (expected), onFound (found);
+    g.setFont (halcyra::HLShelfGrid::frequencyFont());
+    for (const auto& row : rows) {
+        const auto x = static_cast<int> (s.x (row.hz));
+        g.setColour (juce::Colour (0xFF808080).withAlpha (0.6f));
+        g.drawFittedText (row.text, { x - 20, -1, 40, 12 }, juce::Justification::centred, 1);
+        for (auto* cover : { &g, &onFound }) { // lines of decades lie over their texts
+            cover->setColour (juce::Colours::black);
+            cover->fillRect (x - 1, 0, 3, 10);
+            cover->fillRect (0, 0, 25, 10); // the texts of gains
         }
-    EXPECT_THAT (withText, ElementsAre (50, 100, 200, 500, 1000, 2000, 5000, 10000));
+    }
+    EXPECT_TRUE (Difference (expected, found).isEmpty()) << Difference (expected, found).toString();
 }
 
 TEST (HLShelfGrid, TheTextsOfNeighbouringFrequenciesKeepApart)

@@ -250,6 +250,32 @@ TEST (EditorPages, AScreenOfAnotherScaleShowsThemAsIfTheyHadBegunThere)
     }
 }
 
+TEST (ImpulseResponsePicture, AnotherSizeShowsWhatADisplayOfThatSizeWould)
+{
+    lumo::ImpulseResponseComponent resized (8), fresh (8);
+    resized.setVisible (true);
+    fresh.setVisible (true);
+    resized.setSize (904, 144);
+    static_cast<void> (resized.createComponentSnapshot (resized.getLocalBounds()));
+    resized.setSize (500, 100);
+    fresh.setSize (500, 100);
+    EXPECT_EQ (levelsApart (resized.createComponentSnapshot (resized.getLocalBounds()),
+                            fresh.createComponentSnapshot (fresh.getLocalBounds())),
+               0);
+}
+
+TEST_F (ImpulseResponse, ADecayIsNoLongerInSecondsThanItsStartInMs)
+{
+    display.setReverbStart (1);
+    display.setTrl (0.3f);
+    display.setTr0 (1);
+    const auto one = stage.picture();
+    display.setTr0 (2);
+    EXPECT_EQ (levelsApart (one, stage.picture()), 0);
+    display.setTr0 (0.5f);
+    EXPECT_GT (levelsApart (one, stage.picture()), 20);
+}
+
 TEST (ImpulseResponsePicture, ADecayRepaintsNoMoreThanWhereDecaysLie)
 {
     lumo::ImpulseResponseComponent display (8);

@@ -294,17 +294,36 @@ TEST_F (TimeStructure, ASettingRepaintsItsValueAndLeavesTheRestOfThePage)
 
 TEST_F (TimeStructure, TheDisplayDrawsTheDecayAndTheStages)
 {
-    std::vector<int> drawn;
-    for (const auto& row : halcyra::parameterTable) {
+    using Display = lumo::ImpulseResponseComponent;
+    const struct
+    {
+        HalcyraReverbParameter number;
+        float wish;
+        void (Display::*show) (float);
+    } rows[] = { { parameter::reverbStart, 150, &Display::setReverbStart },
+                 { parameter::tr0, 0.5f, &Display::setTr0 },
+                 { parameter::trl, 0.8f, &Display::setTrl },
+                 { parameter::trm, 0.6f, &Display::setTrm },
+                 { parameter::trh, 0.3f, &Display::setTrh },
+                 { parameter::earlyEnd, 60, &Display::setEarlyEnd },
+                 { parameter::earlyStart, 30, &Display::setEarlyStart },
+                 { parameter::earlyDistr, 0.3f, &Display::setEarlyDistr },
+                 { parameter::earlyShape, 0.2f, &Display::setEarlyShape },
+                 { parameter::clusterEnd, 250, &Display::setClusterEnd },
+                 { parameter::clusterStart, 100, &Display::setClusterStart },
+                 { parameter::clusterDistr, 0.7f, &Display::setClusterDistr } };
+    Display alone (8);
+    alone.setSize (halcyra::displayBox.width, halcyra::displayBox.height);
+    alone.setVisible (true);
+    for (const auto& row : rows) {
         const auto before = stage.picture();
-        set (row.number, static_cast<float> (row.range.lowest + 0.3 * (row.range.highest - row.range.lowest)));
-        if (differIn (halcyra::displayBox.rectangle(), before, stage.picture()))
-            drawn.push_back (row.number);
+        set (row.number, row.wish);
+        (alone.*row.show) (value (row.number));
+        EXPECT_TRUE (differIn (halcyra::displayBox.rectangle(), before, stage.picture())) << row.number;
     }
-    EXPECT_THAT (drawn, ElementsAre (+parameter::tr0, +parameter::trl, +parameter::trm, +parameter::trh,
-                                     +parameter::earlyStart, +parameter::earlyEnd, +parameter::earlyDistr,
-                                     +parameter::earlyShape, +parameter::clusterStart, +parameter::clusterEnd,
-                                     +parameter::clusterDistr, +parameter::reverbStart));
+    const auto shown = stage.picture().getClippedImage (halcyra::displayBox.rectangle());
+    const auto wrong = Difference (shown, alone.createComponentSnapshot (alone.getLocalBounds()));
+    EXPECT_TRUE (wrong.isEmpty()) << wrong.toString();
 }
 
 TEST_F (TimeStructure, PartsOfThePageShowWhatAWholeRepaintWouldShow)
