@@ -1,5 +1,7 @@
 #include "reverb/Delgen.h"
 
+#include "math/OrvaneDspRandom.h"
+
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -111,6 +113,16 @@ TEST (Delgen, DrawsTheSameDelaysAgainAboveSixteen)
     std::adjacent_difference (delays.begin(), delays.end(), std::back_inserter (steps));
     const auto [least, most] = std::minmax_element (steps.begin() + 1, steps.end());
     EXPECT_GT (*most, 2 * *least) << "steps are drawn, not even";
+
+    Delays drawn{ 0 };
+    qel::srand (0);
+    while (drawn.size() < 40)
+        drawn.push_back (drawn.back() + static_cast<float> (qel::rand()));
+    const float last = drawn.back(), mean = std::accumulate (drawn.begin(), drawn.end(), 0.0f) / (40 * last);
+    for (float& delay : drawn)
+        delay = 20 + 40 * delay / last;
+    first.setMinMax (20, 60, mean);
+    expectNear (delaysOf (first), drawn, "at the distribution of their mean");
 }
 
 TEST (Delgen, LimitsWhatItIsGiven)

@@ -21,13 +21,16 @@ TEST (EarlyGains, OneTapHasTheMagnitudeOne)
         EXPECT_EQ (gains (1, shape)[0], -1) << shape;
 }
 
-TEST (EarlyGains, TheMeanMagnitudeIsOneForEveryShape)
+TEST (EarlyGains, TheMeanMagnitudeIsOneForEveryShapeAndItsOppositeIsTheMirrorImage)
 {
     for (float shape = 0; shape <= 1; shape += 0.05f) {
         const auto g = gains (8, shape);
         const float sum =
             std::accumulate (g.begin(), g.end(), 0.0f, [] (float s, float v) { return s + std::abs (v); });
         EXPECT_NEAR (sum, 8, 1e-4f) << shape;
+        const auto mirrored = gains (8, 1 - shape);
+        for (std::size_t i = 0; i < g.size(); ++i)
+            EXPECT_NEAR (std::abs (g[i]), std::abs (mirrored[g.size() - 1 - i]), 1e-3f) << shape;
     }
 }
 
@@ -71,7 +74,7 @@ TEST (EarlyGains, AQuarterIsALinearRamp)
 TEST (EarlyGains, ManyTapsVaryByFivePercentAndFadeInsideANarrowSpread)
 {
     for (const auto& [spread, inner] :
-         { std::pair{ 5.0f, 0.1f }, { 40.0f, 0.55f }, { 60.0f, 1.0f }, { 500.0f, 1.0f } }) {
+         { std::pair{ 5.0f, 0.1f }, { 25.0f, 0.2125f }, { 40.0f, 0.55f }, { 60.0f, 1.0f }, { 500.0f, 1.0f } }) {
         const auto g = gains (16, 0.5f, spread); // a period of 4: the second and third of each fade
         for (std::size_t i = 0; i < g.size(); ++i) {
             const float expected = i % 4 == 1 || i % 4 == 2 ? inner : 1.0f;

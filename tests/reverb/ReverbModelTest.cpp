@@ -17,6 +17,10 @@ using halcyra::ReverbModel;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/** What stops at its neighbours: starts and ends. */
+constexpr HalcyraReverbParameter stageTimes[] = { parameter::earlyStart, parameter::earlyEnd, parameter::clusterStart,
+                                                  parameter::clusterEnd, parameter::reverbStart };
+
 using State = std::array<float, cell::count>;
 
 State stateOf (const ReverbModel& model)
@@ -27,12 +31,12 @@ State stateOf (const ReverbModel& model)
     return state;
 }
 
-/** A model whose turns the test ends, and its notifications: "7" for a parameter, "filter 0". */
+/** A model whose turns the test ends, if it asks for that, and its notifications: "7" for a parameter, "filter 0". */
 struct Model : ReverbModel, private ReverbModel::Listener
 {
     explicit Model (int internals = 8) : ReverbModel (internals)
     {
-        wakeTurnEnd = [this] { ++wakes; };
+        wakeTurnEnd = [this] { endIsDue = ++wakes > 0; };
         addListener (this);
     }
     ~Model() override { removeListener (this); }
@@ -46,12 +50,14 @@ struct Model : ReverbModel, private ReverbModel::Listener
     void filterTold (HalcyraFilter number) override { told.push_back ("filter " + std::to_string (number)); }
     std::vector<std::string> end()
     {
-        endTurn();
+        if (std::exchange (endIsDue, false))
+            endTurn();
         return std::exchange (told, {});
     }
     void set (HalcyraReverbParameter number, float value) { setParameter (number, value, Edit::message); }
 
     int wakes = 0;
+    bool endIsDue = false;
     std::vector<std::string> told;
     std::function<void (HalcyraReverbParameter)> onTold;
 };
@@ -173,12 +179,29 @@ TEST (ReverbModel, SingleTimesStopAtTheirNeighboursAndFiveInOneTurnAreARecall)
     EXPECT_EQ (model.parameters().earlyStart, 60);
 }
 
-/** Random edits, as a patcher or a user could make them. */
-void wander (ReverbModel& model, std::mt19937& random, int steps)
+TEST (ReverbModel, WishesThatChangeNothingEndWithTheirTurnToo)
+{
+    for (const int last : stageTimes) {
+        Model model;
+        model.set (parameter::clusterEnd, 300);
+        model.end();
+        for (const int number : stageTimes)
+            if (number != last)
+                model.set (number, model.value (number));
+        model.end();
+        auto expected = stateOf (model);
+        model.set (last, last == parameter::earlyStart ? 119.0f : 1.0f);
+        expected[static_cast<std::size_t> (last)] = model.value (last);
+        EXPECT_EQ (stateOf (model), expected) << "a single time moves no other: " << last;
+    }
+}
+
+/** Random edits, as a patcher or a user could make them: messages, and every third one of another kind. */
+void wander (ReverbModel& model, std::mt19937& random, int steps, Edit third = Edit::hand)
 {
     std::uniform_real_distribution<float> part (-0.1f, 1.1f);
     for (int i = 0; i < steps; ++i) {
-        const auto edit = random() % 3 == 0 ? Edit::hand : Edit::message;
+        const auto edit = random() % 3 == 0 ? third : Edit::message;
         switch (random() % 12) {
         case 0:
             model.setRoomSize (15000 * part (random), edit);
@@ -196,7 +219,8 @@ void wander (ReverbModel& model, std::mt19937& random, int steps)
         default: {
             const auto& row = halcyra::parameterTable[random() % halcyra::parameterTable.size()];
             const auto lowest = static_cast<float> (row.range.lowest), highest = static_cast<float> (row.range.highest);
-            model.setParameter (row.number, lowest + (highest - lowest) * part (random), edit);
+            const float at = row.isSwitch() ? static_cast<float> (random() % 2) : part (random);
+            model.setParameter (row.number, lowest + (highest - lowest) * at, edit);
         }
         }
     }
@@ -268,15 +292,26 @@ TEST (ReverbModel, ResetTellsFiltersAlwaysThenSwitchesAndNumbersThatDiffer)
 
 TEST (ReverbModel, TheHandThatHoldsAControlWinsOverMessages)
 {
+    std::mt19937 random (5);
+    for (int number = 0; number < cell::count; ++number) {
+        Model model;
+        wander (model, random, 50);
+        const float ofTheHand = model.value (number);
+        model.hold (number);
+        for (int i = 0; i < 1000; ++i) {
+            wander (model, random, 1, Edit::quiet);
+            ASSERT_EQ (model.value (number), ofTheHand) << number;
+        }
+        model.release();
+        for (int i = 0; i < 1000 && model.value (number) == ofTheHand; ++i)
+            wander (model, random, 1, Edit::quiet);
+        EXPECT_NE (model.value (number), ofTheHand) << number;
+    }
+}
+
+TEST (ReverbModel, WhatTheHandDoesNotHoldFollowsMessagesAsFarAsItFits)
+{
     Model model;
-    model.hold (parameter::gain);
-    model.setParameter (parameter::gain, 12, Edit::hand);
-    model.set (parameter::gain, -5);
-    model.reset (Edit::message);
-    EXPECT_EQ (model.parameters().gain, 12);
-    model.release();
-    model.set (parameter::gain, -5);
-    EXPECT_EQ (model.parameters().gain, -5);
     model.hold (cell::ofFilter (1, 2));
     model.setFilter (1, { 1, 2, 3, 4, 500, 600 }, Edit::message);
     EXPECT_EQ (model.filter (1), (HLShelfParameters{ 1, 2, 0, 4, 500, 600 })) << "the other fields follow";
@@ -291,14 +326,14 @@ TEST (ReverbModel, TheHandThatHoldsAControlWinsOverMessages)
     model.end();
     model.hold (parameter::earlyEnd);
     const float heldEnd = model.parameters().earlyEnd;
-    for (const int number : { 7, 8, 12, 13, 15 })
+    for (const int number : stageTimes)
         model.set (number, 5);
     EXPECT_EQ (model.parameters().earlyEnd, heldEnd);
     EXPECT_GE (model.parameters().clusterEnd, heldEnd) << "the limits hold all the same";
     model.end();
     model.hold (parameter::earlyStart);
     const float held = model.parameters().earlyStart;
-    for (const int number : { 7, 8, 12, 13, 15 })
+    for (const int number : stageTimes)
         model.set (number, 2);
     EXPECT_EQ (model.parameters().earlyStart, held) << "a recall fits around it too";
     EXPECT_EQ (model.parameters().earlyEnd, held);

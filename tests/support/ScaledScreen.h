@@ -47,20 +47,34 @@ public:
             ofShown.add (area - shown.getPosition());
         }
         if (! onScreen.isEmpty()) {
-            juce::LowLevelGraphicsSoftwareRenderer renderer (image, {}, onScreen);
+            Renderer renderer (image, {}, onScreen);
             renderer.addTransform (juce::AffineTransform::scale (scale));
             juce::Graphics g (renderer);
             window.paintEntireComponent (g, true);
+            pixelsOfImages = renderer.pixelsOfImages;
         }
         return ofShown;
     }
 
     [[nodiscard]] const juce::Image& Picture() const { return image; }
+    /** How many pixels of images the last frame passed to the renderer. */
+    [[nodiscard]] int PixelsOfImages() const { return pixelsOfImages; }
 
 private:
     struct Window : juce::Component
     {
         void paint (juce::Graphics& g) override { g.fillAll (juce::Colours::black); }
+    };
+
+    struct Renderer : juce::LowLevelGraphicsSoftwareRenderer
+    {
+        using LowLevelGraphicsSoftwareRenderer::LowLevelGraphicsSoftwareRenderer;
+        void drawImage (const juce::Image& drawn, const juce::AffineTransform& transform) override
+        {
+            pixelsOfImages += drawn.getWidth() * drawn.getHeight();
+            LowLevelGraphicsSoftwareRenderer::drawImage (drawn, transform);
+        }
+        int pixelsOfImages = 0;
     };
 
     struct Hearing : juce::CachedComponentImage
@@ -80,6 +94,7 @@ private:
     juce::Component& shown;
     float scale = 1;
     juce::RectangleList<int> dirty;
+    int pixelsOfImages = 0;
     Window window;
     juce::Image image;
 };

@@ -58,6 +58,12 @@ void Stage::doubleClick (juce::Point<int> position, juce::ModifierKeys keys)
     bench::pumpGui();
 }
 
+void Stage::clickAgain (juce::Point<int> position)
+{
+    ASSERT_TRUE (input.clickAgain (position.toFloat()));
+    bench::pumpGui();
+}
+
 void Stage::wheel (juce::Point<int> position, float delta, juce::ModifierKeys keys)
 {
     ASSERT_TRUE (input.wheel (position.toFloat(), delta, keys));

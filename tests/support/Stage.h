@@ -25,6 +25,8 @@ public:
     void click (juce::Point<int> position, juce::ModifierKeys keys = {});
     void rightClick (juce::Point<int> position);
     void doubleClick (juce::Point<int> position, juce::ModifierKeys keys = {});
+    /** Makes a double click of itself and the click before, if they are a few pixels apart. */
+    void clickAgain (juce::Point<int> position);
     void wheel (juce::Point<int> position, float delta, juce::ModifierKeys keys = {});
 
     /** Presses at one point, moves to the other in a few steps and releases there. */

@@ -62,9 +62,14 @@ bool PeerInput::click (juce::Point<float> position, juce::ModifierKeys keys)
 
 bool PeerInput::doubleClick (juce::Point<float> position, juce::ModifierKeys keys)
 {
-    if (! click (position, keys))
-        return false;
+    return click (position, keys) && clickAgain (position, keys);
+}
+
+bool PeerInput::clickAgain (juce::Point<float> position, juce::ModifierKeys keys)
+{
     passTime (100);
+    if (! deliver (position, keys.withoutMouseButtons()))
+        return false;
     heldButton = buttonOf (keys);
     return drag (position, keys) && release (position, keys);
 }

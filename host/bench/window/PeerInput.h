@@ -26,6 +26,9 @@ public:
     bool click (juce::Point<float> position, juce::ModifierKeys keys = {});
     bool doubleClick (juce::Point<float> position, juce::ModifierKeys keys = {});
 
+    /** Clicks so soon after the last click that both form a double click if they are a few pixels apart. */
+    bool clickAgain (juce::Point<float> position, juce::ModifierKeys keys = {});
+
     /** A wheel notch is about 0.2; positive away from the user. A pressed button stays pressed. */
     bool wheel (juce::Point<float> position, float delta, juce::ModifierKeys keys = {});
 

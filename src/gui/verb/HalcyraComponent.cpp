@@ -245,6 +245,7 @@ void HalcyraComponent::redo()
 
 void HalcyraComponent::apply (const Step* step, float Value::*side)
 {
+    stepsOfClicks = 0; // the next click continues nothing that was undone
     if (step == nullptr)
         return;
     std::vector<halcyra::ReverbModel::Wish> wishes;

@@ -133,6 +133,35 @@ const LayerRow layerRows[] = {
       { 68, 68, 30, 30 },
       { 69, 69 },
       0xFFFFFFFF },
+    { "a speaker's meter, over its edge",
+      [] (PlaneComponent& p) {
+          p.SetNumSpeakers (1, false);
+          p.SetSpeakerPosition (0, { 0.5f, 0, 0 }, false);
+          p.SetSpeakerProportion (0, 0.1f);
+      },
+      [] (PlaneComponent& p) { p.SetSpeakersLevelsVisible (true); },
+      { 229, 135, 6, 30 },
+      {},
+      0 },
+    { "a source's meter, beside it",
+      [] (PlaneComponent& p) {
+          p.SetSourcePosition (0, { 0.5f, 0, 0 }, false);
+          p.SetSourceProportion (0, 0.1f);
+      },
+      [] (PlaneComponent& p) { p.SetSourcesLevelsVisible (true); },
+      { 234, 135, 5, 30 },
+      {},
+      0 },
+    { "a fan all around, a little farther than its source", // 1.07 times 60 pixels, and its line
+      [] (PlaneComponent& p) {
+          p.SetSourcePosition (0, { 0.5f, 0, 0 }, false);
+          p.SetSourceProportion (0, 0.2f);
+          p.SetSourceAperture (0, 180, false);
+      },
+      [] (PlaneComponent& p) { p.SetApertureVisible (true); },
+      { 152, 85, 130, 130 },
+      {},
+      0 },
     { "a projected speaker",
       [] (PlaneComponent& p) {
           p.SetSpeakerProportion (0, 0.1f);
@@ -180,6 +209,57 @@ TEST (PlaneLayers, StandWhereTheirMetresAre)
         if (row.colour != 0) {
             EXPECT_EQ (with.getPixelAt (row.probe.x, row.probe.y), juce::Colour (row.colour)) << row.name;
         }
+    }
+}
+
+TEST (PlaneLayers, AGridHasItsNumberOfLinesOnEverySide)
+{
+    constexpr int beside = 3; // the axes cover their own pixels
+    for (const char* mode : { "circular", "square" })
+        for (const int number : { 1, 2, 5 }) {
+            PlaneComponent plane (0, 0, 300);
+            Bare (plane).SetGridMode (mode);
+            plane.SetGridSpacing (0.2f);
+            plane.SetGridNumLines (0);
+            const auto without = Picture (plane);
+            plane.SetGridNumLines (static_cast<std::uint32_t> (number));
+            const auto with = Picture (plane);
+            const auto crossed = [&] (int right, int down) {
+                int lines = 0;
+                bool isOnLine = false;
+                for (juce::Point<int> at (150 + beside, 150 + beside); with.getBounds().contains (at);
+                     at += { right, down }) {
+                    const bool wasOnLine =
+                        std::exchange (isOnLine, with.getPixelAt (at.x, at.y) != without.getPixelAt (at.x, at.y));
+                    lines += isOnLine && ! wasOnLine;
+                }
+                return lines;
+            };
+            EXPECT_EQ (crossed (1, 0), number) << mode;
+            EXPECT_EQ (crossed (-1, 0), number) << mode;
+            EXPECT_EQ (crossed (0, 1), number) << mode;
+            EXPECT_EQ (crossed (0, -1), number) << mode;
+        }
+}
+
+TEST (PlaneLayers, TheSidesAreNamedInEachView)
+{
+    using juce::Justification;
+    for (const bool topView : { true, false }) {
+        PlaneComponent plane (0, 0, 300);
+        Bare (plane).SetTopView (topView);
+        const auto named = Picture (plane);
+        plane.processOscMessage (qel::OSCMessage ("/axis/label/visible").add (false));
+        auto expected = Picture (plane);
+        juce::Graphics g (expected);
+        g.setColour (plane.GetSurface().axis.colour);
+        g.setFont (lumo::Component::MakeFont (14));
+        const juce::Rectangle<int> area (2, 2, 298, 298);
+        g.drawText (topView ? "front" : "top", area, Justification::centredTop);
+        g.drawText (topView ? "back" : "down", area, Justification::centredBottom);
+        g.drawText ("left", area, Justification::centredLeft);
+        g.drawText ("right", area, Justification::centredRight);
+        EXPECT_TRUE (Difference (named, expected).isEmpty()) << topView << Difference (named, expected).toString();
     }
 }
 

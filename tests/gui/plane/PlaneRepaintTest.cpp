@@ -192,6 +192,7 @@ const Step steps[] = {
     [] (PlaneComponent& p, Chance&) { p.SetTopView (! p.GetSurface().viewTransform.topView); },
     [] (PlaneComponent& p, Chance& c) { p.RequestAutoZoom (c.Of (0.3)); },
     [] (PlaneComponent& p, Chance& c) { p.SelectSpeakerAlone (c.Below (8)); },
+    [] (PlaneComponent& p, Chance& c) { p.SelectSourceAlone (c.Below (12)); },
     [] (PlaneComponent& p, Chance&) { p.SetCircularConstraint (! p.GetSurface().options.circularConstraint); },
     [] (PlaneComponent& p, Chance& c) { p.SetSpeakersEditable (c.Of (0.7), true); },
     [] (PlaneComponent& p, Chance& c) {
@@ -358,6 +359,17 @@ TEST (PlaneRepaint, AsksForWhatChangedAndForNoMore)
             EXPECT_GT (FarthestLevels (before, screen.Picture()), 20) << row.name;
             EXPECT_LT (painted, 400 * 400 / 10) << row.name;
         }
+}
+
+TEST (PlaneRepaint, WhatChangedFarApartIsDrawnOnceEach)
+{
+    SparsePlane sparse;
+    ScaledScreen screen (sparse.plane, 1);
+    for (const auto& row : smallChanges)
+        row.change (sparse.plane);
+    const int painted = AreaOf (screen.Frame());
+    EXPECT_GT (painted, 0);
+    EXPECT_LT (screen.PixelsOfImages(), 2 * painted) << "the layer, and icons on it";
 }
 
 TEST (PlaneRepaint, ManyMovesBetweenTwoFramesAskForTheWholeOnce)

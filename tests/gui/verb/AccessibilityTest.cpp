@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace
 {
 
@@ -114,24 +116,53 @@ TEST_F (Accessibility, TellsWhereObjectsAreAndWhichAreSelected)
     auto& plane = *component.getPlane();
     plane.SetSourcePosition (0, { 1, -2, 0.5f }, true);
     plane.SetSourceLabel (1, qel::String ("violin"), true);
-    plane.SetSpeakerVisible (1, false, true);
     const auto scene = onPage (2);
     EXPECT_THAT (scene, Contains ("item Source 1: x 1.00 m, y -2.00 m, z 0.50 m"));
     EXPECT_THAT (scene, Contains (HasSubstr ("item Source 2, violin: ")));
-    EXPECT_THAT (scene, Contains (HasSubstr ("item Listener: ")));
-    EXPECT_THAT (scene, Contains (HasSubstr ("item Speaker 1: ")));
-    EXPECT_THAT (scene, Not (Contains (HasSubstr ("Speaker 2"))));
 
-    auto* source = named ("Source 1");
-    ASSERT_NE (source, nullptr);
-    EXPECT_FALSE (source->getCurrentState().isSelected());
-    EXPECT_TRUE (source->getActions().invoke (juce::AccessibilityActionType::press));
-    EXPECT_TRUE (source->getCurrentState().isSelected());
-    EXPECT_TRUE (plane.IsSourceSelected (0));
-    plane.SetSourceEditable (1, false, true);
-    ASSERT_NE (named ("Source 2, violin"), nullptr);
-    named ("Source 2, violin")->getActions().invoke (juce::AccessibilityActionType::press);
-    EXPECT_TRUE (plane.IsSourceSelected (0)) << "the hand takes nothing that it may not edit";
+    plane.SetSpeakersEditable (true, true);
+    plane.SetListenerEditable (true);
+    const auto selected = [this] {
+        std::vector<std::string> names;
+        spoken::walk (*component.getAccessibilityHandler(), [&] (const juce::AccessibilityHandler& handler) {
+            if (handler.getCurrentState().isSelected())
+                names.push_back (handler.getTitle().toStdString());
+        });
+        return names;
+    };
+    const struct
+    {
+        const char* name;
+        void (*hide) (lumo::PlaneComponent&);
+        void (*lock) (lumo::PlaneComponent&);
+    } objects[] = {
+        { "Source 1", [] (auto& p) { p.SetSourceVisible (0, false, true); },
+          [] (auto& p) { p.SetSourceEditable (0, false, true); } },
+        { "Source 2, violin", [] (auto& p) { p.SetSourceVisible (1, false, true); },
+          [] (auto& p) { p.SetSourceEditable (1, false, true); } },
+        { "Speaker 1", [] (auto& p) { p.SetSpeakerVisible (0, false, true); },
+          [] (auto& p) { p.SetSpeakerEditable (0, false, true); } },
+        { "Speaker 2", [] (auto& p) { p.SetSpeakersVisible (false); },
+          [] (auto& p) { p.SetSpeakersEditable (false, true); } },
+        { "Listener", [] (auto& p) { p.SetListenerVisible (false); }, [] (auto& p) { p.SetListenerEditable (false); } },
+    };
+    for (const auto& object : objects) {
+        ASSERT_NE (named (object.name), nullptr) << object.name;
+        EXPECT_TRUE (named (object.name)->getActions().invoke (juce::AccessibilityActionType::press));
+        EXPECT_THAT (selected(), testing::ElementsAre (object.name));
+    }
+    plane.SelectSourceAlone (0);
+    for (const auto& object : objects) {
+        if (&object == objects)
+            continue;
+        object.lock (plane);
+        named (object.name)->getActions().invoke (juce::AccessibilityActionType::press);
+        EXPECT_THAT (selected(), testing::ElementsAre ("Source 1")) << "the hand may not take " << object.name;
+    }
+    for (const auto& object : objects) {
+        object.hide (plane);
+        EXPECT_EQ (named (object.name), nullptr) << object.name << " is hidden";
+    }
 }
 
 TEST_F (Accessibility, FramesTheIconOfAnObjectWhereItStandsNow)
@@ -170,6 +201,33 @@ TEST_F (Accessibility, MakesNothingForObjectsUntilAScreenReaderAsksAndFollowsThe
     EXPECT_TRUE (named ("Source 2")->hasFocus (false));
     plane.SetNumSources (3, true);
     EXPECT_NE (named ("Source 3"), nullptr);
+}
+
+TEST_F (Accessibility, AKeyMovesASliderByTheStepThatIsSpoken)
+{
+    int sliders = 0;
+    std::set<juce::String> messages;
+    for (int page = 0; page < 2; ++page) {
+        (void)onPage (page);
+        spoken::walk (*component.getAccessibilityHandler(), [&] (juce::AccessibilityHandler& handler) {
+            auto* const slider = dynamic_cast<juce::Slider*> (&handler.getComponent());
+            if (slider == nullptr)
+                return;
+            ++sliders;
+            messages.insert (handler.getHelp());
+            auto& value = *handler.getValueInterface();
+            const auto range = value.getRange();
+            value.setValue (range.getMinimumValue());
+            const double lowest = value.getCurrentValue(); // a neighbour may stop it
+            slider->keyPressed (juce::KeyPress (juce::KeyPress::rightKey));
+            EXPECT_NEAR (value.getCurrentValue() - lowest, range.getInterval(), 1e-4) << handler.getTitle();
+            for (const int others : { juce::ModifierKeys::ctrlModifier, juce::ModifierKeys::altModifier })
+                EXPECT_FALSE (slider->keyPressed (juce::KeyPress (juce::KeyPress::rightKey, others, 0)));
+            EXPECT_NEAR (value.getCurrentValue() - lowest, range.getInterval(), 1e-4) << handler.getTitle();
+        });
+    }
+    EXPECT_EQ (sliders, 19 + 4 * 6);
+    EXPECT_EQ (messages.size(), 19u + 4 * 6) << "each tells its own";
 }
 
 TEST_F (Accessibility, EditsAsTheHandDoesOneStepAtATime)
@@ -219,20 +277,37 @@ protected:
 
 TEST_F (Keyboard, KeysAndTheWheelOnOneControlAreStepsOfTheirOwn)
 {
-    tabTo ("Early width");
-    const auto spot = stage.at (*juce::Component::getCurrentlyFocusedComponent());
-    stage.wheel (spot, 0.2f);
-    const float wheeled = component.getEarlyWidth();
-    stage.key ("cursor right");
-    const float keyed = component.getEarlyWidth();
-    stage.wheel (spot, 0.2f);
-    ASSERT_NE (component.getEarlyWidth(), keyed);
-    component.undo();
-    EXPECT_FLOAT_EQ (component.getEarlyWidth(), keyed);
-    component.undo();
-    EXPECT_FLOAT_EQ (component.getEarlyWidth(), wheeled);
-    component.undo();
-    EXPECT_FLOAT_EQ (component.getEarlyWidth(), 30);
+    const struct
+    {
+        int page;
+        const char *control, *key;
+        std::function<float()> value;
+        juce::ModifierKeys modifiers{};
+    } rows[] = {
+        { 0, "Early width", "cursor right", [this] { return component.getEarlyWidth(); } },
+        { 1, "Room filter, middle gain", "cursor up", [this] { return component.getRoomFilter().Gm; } },
+        { 2, "Scene", "alt + page up", [this] { return component.getSourcePosition (0).z; },
+          juce::ModifierKeys (juce::ModifierKeys::shiftModifier) },
+    };
+    component.getPlane()->SelectSourceAlone (0);
+    for (const auto& row : rows) {
+        tabs().setCurrentTabIndex (row.page);
+        tabTo (row.control);
+        const auto spot = stage.at (*juce::Component::getCurrentlyFocusedComponent());
+        std::vector<float> values{ row.value() };
+        for (const bool isKey : { false, true, false, true, true }) {
+            if (isKey)
+                stage.key (row.key);
+            else
+                stage.wheel (spot, 0.2f, row.modifiers);
+            ASSERT_NE (row.value(), values.back()) << row.control;
+            values.push_back (row.value());
+        }
+        while (values.pop_back(), ! values.empty()) {
+            component.undo();
+            EXPECT_FLOAT_EQ (row.value(), values.back()) << row.control;
+        }
+    }
 }
 
 TEST_F (Keyboard, ReturnAndSpacePressNothingAfterAClickOnAPictureOrASlider)
@@ -277,10 +352,18 @@ TEST_F (Keyboard, ShowsWhereItIsOnlyWhenItIsInUse)
     };
     tabTo ("Early width");
     const auto& slider = *juce::Component::getCurrentlyFocusedComponent();
-    const auto around = component.getLocalArea (&slider, slider.getLocalBounds()).expanded (3);
+    auto around = component.getLocalArea (&slider, slider.getLocalBounds()).expanded (3);
+    EXPECT_TRUE (differ (around));
+    component.grabKeyboardFocus(); // neither by the mouse nor by tab
+    bench::pumpGui();
+    EXPECT_FALSE (differ (around));
+    tabTo ("Early width");
     EXPECT_TRUE (differ (around));
     stage.click ({ 300, 100 }); // the picture
     EXPECT_FALSE (differ (component.getLocalBounds().withTrimmedTop (200)));
+    tabTo ("Early width");
+    stage.click (stage.at (slider));
+    EXPECT_FALSE (differ (around.removeFromTop (2))) << "a press on the control itself ends it too";
 }
 
 }

@@ -63,6 +63,14 @@ TEST (EditHistory, WhatComesBackToWhereItBeganIsNoStepAndADoubleClickIsOne)
     EXPECT_EQ (step->front().before, 5);
     EXPECT_EQ (step->front().after, 0);
     EXPECT_EQ (history.undo(), nullptr);
+    EXPECT_EQ (history.redo(), step);
+    for (const float value : { 8.0f, 9.0f }) {
+        history.record (press, 1, 0, value);
+        history.close();
+    }
+    (void)history.undo();
+    EXPECT_EQ (history.joinNewest (2), 2) << "what is undone joins nothing";
+    EXPECT_NE (history.redo(), nullptr);
 }
 
 TEST (EditHistory, KeepsAHundredStepsAndANewOneEndsWhatWasUndone)

@@ -1,4 +1,5 @@
 #include "gui/verb/HalcyraFiltersTabComponent.h"
+#include "support/ImageDifference.h"
 #include "support/Stage.h"
 
 #include <gmock/gmock.h>
@@ -104,6 +105,20 @@ TEST_F (Filters, AClickOnAHandleMovesItToThePointer)
     EXPECT_EQ (curve.getSelectedHandle(), 1) << "the selection outlives the press";
     stage.move ({ 2, 2 });
     EXPECT_EQ (curve.getSelectedHandle(), -1) << "and ends when the pointer leaves";
+}
+
+TEST_F (Filters, AHandleStopsWhereThePointerLeavesTheCurve)
+{
+    for (const auto& beyond :
+         { stage.at (curve, { -9, 30 }), stage.at (curve, { 90, -9 }), stage.at (curve, { 90, 159 }) }) {
+        curve.reset();
+        stage.press (handle (midCentre, 0));
+        stage.drag (handle (midCentre, 10));
+        const auto inside = filter();
+        stage.drag (beyond);
+        EXPECT_EQ (filter(), inside);
+        stage.release (beyond);
+    }
 }
 
 TEST_F (Filters, TheGlobalGainMovesTheHandlesOfTheBands)
@@ -212,16 +227,93 @@ TEST_F (Filters, TheHandlesShowOnlyUnderThePointer)
     EXPECT_EQ (stage.picture().getPixelAt (corner.x + 115, corner.y + 20), before);
 }
 
+TEST_F (Filters, ASelectedGainSaysItsValueAtItsHandleAndACrossoverNone)
+{
+    const struct
+    {
+        double hz;
+        float HLShelfParameters::*field; // null for a crossover
+    } handles[] = { { lowCentre, &HLShelfParameters::Gl },
+                    { midCentre, &HLShelfParameters::Gm },
+                    { highCentre, &HLShelfParameters::Gh },
+                    { 250, nullptr },
+                    { 4000, nullptr } };
+    for (const auto& row : handles) {
+        const auto spot = handle (row.hz, row.field != nullptr ? 0 : 29);
+        stage.click (spot);
+        ASSERT_NE (curve.getSelectedHandle(), -1);
+        const auto selected = stage.picture();
+        stage.click (handle (midCentre, -25));
+        ASSERT_EQ (curve.getSelectedHandle(), -1);
+        const auto silent = stage.picture();
+        if (row.field == nullptr) {
+            EXPECT_TRUE (Difference (selected, silent).isEmpty()) << row.hz;
+            continue;
+        }
+        const auto isWrittenAt = [&] (juce::Point<int> at) {
+            auto written = silent.createCopy();
+            juce::Graphics g (written);
+            g.setFont (juce::Font (halcyra::HLShelfGrid::fontHeight));
+            g.drawText (juce::String (filter().*row.field, 1) + " dB",
+                        juce::Rectangle<int> (40, 40).withPosition (at.translated (-20, -20)),
+                        juce::Justification::centred, false);
+            return Difference (selected, written).isEmpty();
+        };
+        // The handle's place is rounded down.
+        EXPECT_TRUE (isWrittenAt (spot) || isWrittenAt (spot.translated (-1, 0)) ||
+                     isWrittenAt (spot.translated (0, -1)) || isWrittenAt (spot.translated (-1, -1)))
+            << row.hz;
+    }
+}
+
 TEST_F (Filters, TheCurveIsFilledUpToItsGain)
 {
     stage.move ({ 2, 2 });
+    static_cast<void> (stage.picture()); // of the curve before
     curve.setGlobalGain (10);
     const auto picture = stage.picture();
-    const auto under = stage.at (curve, { 60, 80 }), above = stage.at (curve, { 60, 40 });
+    const auto under = stage.at (curve, { 60, 60 }), above = stage.at (curve, { 60, 40 });
     const auto fill = picture.getPixelAt (under.x, under.y);
     EXPECT_GT (fill.getBlue(), fill.getRed() + 40);
+    int unfilled = 0;
+    for (int x = 0; x < curve.getWidth(); ++x) {
+        const auto foot = stage.at (curve, { x, curve.getHeight() - 2 });
+        const auto colour = picture.getPixelAt (foot.x, foot.y);
+        unfilled += colour.getBlue() > colour.getRed() + 40 ? 0 : 1;
+    }
+    EXPECT_EQ (unfilled, 0) << "from edge to edge";
     const auto free = picture.getPixelAt (above.x, above.y);
     EXPECT_NEAR (free.getBlue(), free.getRed(), 2);
+}
+
+TEST (HLShelfGrid, FrequenciesOfOneTwoAndFiveHaveTexts)
+{
+    halcyra::HLShelfGrid grid;
+    grid.setSize (3000, 150); // wide enough that no text reaches another line
+    const auto picture = grid.createComponentSnapshot (grid.getLocalBounds());
+    const halcyra::HLShelfScale s{ 3000, 150 };
+    const struct
+    {
+        double hz;
+        const char* text;
+    } rows[] = { { 50, "50" },     { 100, "100" }, { 200, "200" }, { 500, "500" },
+                 { 1000, "1000" }, { 2000, "2k" }, { 5000, "5k" }, { 10000, "10k" } };
+    // Two strips between lines of gains: without and with texts of frequencies.
+    auto expected = picture.getClippedImage ({ 0, 51, 3000, 10 }).createCopy(),
+         found = picture.getClippedImage ({ 0, 64, 3000, 10 }).createCopy();
+    juce::Graphics g (expected), onFound (found);
+    g.setFont (halcyra::HLShelfGrid::frequencyFont());
+    for (const auto& row : rows) {
+        const auto x = static_cast<int> (s.x (row.hz));
+        g.setColour (juce::Colour (0xFF808080).withAlpha (0.6f));
+        g.drawFittedText (row.text, { x - 20, -1, 40, 12 }, juce::Justification::centred, 1);
+        for (auto* cover : { &g, &onFound }) { // lines of decades lie over their texts
+            cover->setColour (juce::Colours::black);
+            cover->fillRect (x - 1, 0, 3, 10);
+            cover->fillRect (0, 0, 25, 10); // the texts of gains
+        }
+    }
+    EXPECT_TRUE (Difference (expected, found).isEmpty()) << Difference (expected, found).toString();
 }
 
 TEST (HLShelfGrid, TheTextsOfNeighbouringFrequenciesKeepApart)

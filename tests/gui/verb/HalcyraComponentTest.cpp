@@ -288,19 +288,66 @@ juce::Component* below (juce::Component& root, const std::function<bool (juce::C
     return nullptr;
 }
 
-TEST (HalcyraComponent, PollsThePointerForTipsOnlyWhileItIsOverATip)
+TEST_F (Halcyra, EveryFrameHasFourSidesAndATitle)
+{
+    Stage stage (component);
+    auto* tabs = dynamic_cast<juce::TabbedComponent*> (component.getChildComponent (0));
+    int frames = 0;
+    for (int page = 0; page < 2; ++page) {
+        tabs->setCurrentTabIndex (page);
+        below (*tabs->getCurrentContentComponent(), [&] (juce::Component& child) {
+            auto* const frame = dynamic_cast<juce::GroupComponent*> (&child);
+            if (frame == nullptr)
+                return false;
+            ++frames;
+            const auto whole = stage.picture();
+            const auto title = frame->getText();
+            frame->setText ({});
+            EXPECT_FALSE (Difference (whole, stage.picture()).isEmpty()) << title;
+            frame->setText (title);
+            frame->setVisible (false);
+            const auto area = component.getLocalArea (frame, frame->getLocalBounds());
+            EXPECT_TRUE (Difference (whole, stage.picture()).contains (area.reduced (10))) << title;
+            frame->setVisible (true);
+            return false;
+        });
+    }
+    EXPECT_EQ (frames, 4 + 4 * 3);
+}
+
+TEST (HalcyraComponent, ATipGoesWithThePointerWhichIsPolledOnlyOverOne)
 {
     const juce::SharedResourcePointer<widgets::TooltipWindow> tooltip;
     const auto& timer = juce::timerOf (*tooltip);
+    juce::Component window;
+    window.setSize (1000, 440);
     HalcyraComponent component (0, 0, 1);
-    Stage stage (component);
+    window.addAndMakeVisible (component);
+    juce::TextButton foreign ("foreign", "has a tip of its own");
+    foreign.setBounds (940, 0, 60, 60);
+    window.addAndMakeVisible (foreign);
+    Stage stage (window);
     const auto* const toggle = below (component, [] (auto& child) { return child.getName() == "infinite"; });
     ASSERT_NE (toggle, nullptr);
     EXPECT_FALSE (timer.isTimerRunning());
     stage.move (stage.at (*toggle));
     EXPECT_TRUE (timer.isTimerRunning());
-    stage.move ({ 5, 435 });
-    EXPECT_FALSE (timer.isTimerRunning());
+    stage.move (stage.at (foreign));
+    EXPECT_FALSE (timer.isTimerRunning()) << "hears only of our components";
+
+    window.addChildComponent (*tooltip); // as a window of its own it would need a display
+    const auto showAt = [&] (juce::Point<int> pointer) {
+        stage.move (pointer);
+        tooltip->displayTip (window.localPointToGlobal (pointer), "tip");
+        EXPECT_TRUE (tooltip->isVisible());
+    };
+    const juce::Point<int> ground (5, 435);
+    showAt (stage.at (*toggle));
+    stage.move (ground);
+    EXPECT_FALSE (tooltip->isVisible()) << "the pointer has left its component";
+    showAt (ground);
+    stage.move (stage.at (*tooltip));
+    EXPECT_FALSE (tooltip->isVisible()) << "the pointer has come into it";
 }
 
 }

@@ -1,4 +1,5 @@
-#include "gui/verb/ImpulseResponseComponent.h"
+#include "gui/verb/HalcyraFiltersTabComponent.h"
+#include "gui/verb/HalcyraTimeStructureTabComponent.h"
 #include "support/ScaledScreen.h"
 #include "support/Stage.h"
 
@@ -70,6 +71,44 @@ TEST_F (ImpulseResponse, DrawsTapsAtTheirTimesAndTheDecayBehindThem)
     EXPECT_EQ (at (290, 130), grey);
     EXPECT_NE (at (310, 130), grey) << "the decay";
     EXPECT_EQ (at (122.5f, 60), grey) << "a gain of one reaches half the height";
+}
+
+TEST_F (ImpulseResponse, EachBandDecaysAlongItsCurve)
+{
+    using Set = void (lumo::ImpulseResponseComponent::*) (float);
+    struct Band
+    {
+        Set set;
+        juce::Point<float> control, end; // of a curve from 203, 58 to the bottom
+    };
+    using Display = lumo::ImpulseResponseComponent;
+    const Band bands[] = { { &Display::setTrl, { 270, 105 }, { 396, 107 } },
+                           { &Display::setTrm, { 245, 105 }, { 337, 107 } },
+                           { &Display::setTrh, { 240, 105 }, { 287, 107 } } };
+    constexpr float ratio = 0.2f, start = 100; // of a second, in ms
+    display.setReverbStart (start);
+    display.setTr0 (1);
+    for (const auto& band : bands)
+        (display.*band.set) (0);
+    const auto without = stage.picture();
+    const ImpulseResponseScale scale{ 904, 144, display.getZoom() };
+    for (const auto& band : bands) {
+        (display.*band.set) (ratio);
+        const auto with = stage.picture();
+        (display.*band.set) (0);
+        juce::Path path;
+        path.startNewSubPath (203, 58);
+        path.quadraticTo (band.control, band.end);
+        path.lineTo (203, 107);
+        path.closeSubPath();
+        path.scaleToFit (scale.x (start), 72, scale.x (1000 * ratio), 72, false);
+        int wrong = 0;
+        for (int y = 0; y < 144; ++y)
+            for (int x = 0; x < 904; ++x)
+                wrong += (with.getPixelAt (x, y) != without.getPixelAt (x, y)) !=
+                         path.contains (static_cast<float> (x) + 0.5f, static_cast<float> (y) + 0.5f);
+        EXPECT_LT (wrong, scale.x (1000 * ratio)) << "no more than the edge, " << &band - bands;
+    }
 }
 
 TEST_F (ImpulseResponse, TheShapeTiltsTheEarlyTaps)
@@ -188,6 +227,53 @@ TEST (ImpulseResponsePicture, PartsShowWhatAWholeRepaintWouldShow)
             ASSERT_LE (levelsApart (parts, screen.Picture()), 2) << turn << ", " << round;
         }
     }
+}
+
+/** Whatever is kept in the resolution of a screen. */
+TEST (EditorPages, AScreenOfAnotherScaleShowsThemAsIfTheyHadBegunThere)
+{
+    halcyra::ReverbModel model (8);
+    using Page = std::unique_ptr<juce::Component>;
+    const std::function<Page()> pages[] = {
+        [&] { return std::make_unique<HalcyraTimeStructureTabComponent> ("times", model); },
+        [&] { return std::make_unique<HalcyraFiltersTabComponent> ("filters", model); },
+    };
+    for (const auto& make : pages) {
+        const auto page = make();
+        ScaledScreen screen (*page, 1);
+        for (const float scale : { 1.5f, 1.25f, 2.0f, 1.0f }) {
+            screen.MoveToScale (scale);
+            const auto fresh = make();
+            const ScaledScreen other (*fresh, scale);
+            EXPECT_LE (levelsApart (screen.Picture(), other.Picture()), 2) << page->getName() << " at " << scale;
+        }
+    }
+}
+
+TEST (ImpulseResponsePicture, AnotherSizeShowsWhatADisplayOfThatSizeWould)
+{
+    lumo::ImpulseResponseComponent resized (8), fresh (8);
+    resized.setVisible (true);
+    fresh.setVisible (true);
+    resized.setSize (904, 144);
+    static_cast<void> (resized.createComponentSnapshot (resized.getLocalBounds()));
+    resized.setSize (500, 100);
+    fresh.setSize (500, 100);
+    EXPECT_EQ (levelsApart (resized.createComponentSnapshot (resized.getLocalBounds()),
+                            fresh.createComponentSnapshot (fresh.getLocalBounds())),
+               0);
+}
+
+TEST_F (ImpulseResponse, ADecayIsNoLongerInSecondsThanItsStartInMs)
+{
+    display.setReverbStart (1);
+    display.setTrl (0.3f);
+    display.setTr0 (1);
+    const auto one = stage.picture();
+    display.setTr0 (2);
+    EXPECT_EQ (levelsApart (one, stage.picture()), 0);
+    display.setTr0 (0.5f);
+    EXPECT_GT (levelsApart (one, stage.picture()), 20);
 }
 
 TEST (ImpulseResponsePicture, ADecayRepaintsNoMoreThanWhereDecaysLie)

@@ -298,6 +298,40 @@ TEST_F (TimeStructure, ASettingRepaintsItsValueAndLeavesTheRestOfThePage)
     EXPECT_FALSE (differ ({ 608, 215, 300, 180 }));
 }
 
+TEST_F (TimeStructure, TheDisplayDrawsTheDecayAndTheStages)
+{
+    using Display = lumo::ImpulseResponseComponent;
+    const struct
+    {
+        HalcyraReverbParameter number;
+        float wish;
+        void (Display::*show) (float);
+    } rows[] = { { parameter::reverbStart, 150, &Display::setReverbStart },
+                 { parameter::tr0, 0.5f, &Display::setTr0 },
+                 { parameter::trl, 0.8f, &Display::setTrl },
+                 { parameter::trm, 0.6f, &Display::setTrm },
+                 { parameter::trh, 0.3f, &Display::setTrh },
+                 { parameter::earlyEnd, 60, &Display::setEarlyEnd },
+                 { parameter::earlyStart, 30, &Display::setEarlyStart },
+                 { parameter::earlyDistr, 0.3f, &Display::setEarlyDistr },
+                 { parameter::earlyShape, 0.2f, &Display::setEarlyShape },
+                 { parameter::clusterEnd, 250, &Display::setClusterEnd },
+                 { parameter::clusterStart, 100, &Display::setClusterStart },
+                 { parameter::clusterDistr, 0.7f, &Display::setClusterDistr } };
+    Display alone (8);
+    alone.setSize (halcyra::displayBox.width, halcyra::displayBox.height);
+    alone.setVisible (true);
+    for (const auto& row : rows) {
+        const auto before = stage.picture();
+        set (row.number, row.wish);
+        (alone.*row.show) (value (row.number));
+        EXPECT_TRUE (differIn (halcyra::displayBox.rectangle(), before, stage.picture())) << row.number;
+    }
+    const auto shown = stage.picture().getClippedImage (halcyra::displayBox.rectangle());
+    const auto wrong = Difference (shown, alone.createComponentSnapshot (alone.getLocalBounds()));
+    EXPECT_TRUE (wrong.isEmpty()) << wrong.toString();
+}
+
 TEST_F (TimeStructure, PartsOfThePageShowWhatAWholeRepaintWouldShow)
 {
     for (const auto& place : halcyra::timeStructurePlaces)

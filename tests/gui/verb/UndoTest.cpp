@@ -57,7 +57,8 @@ protected:
 
     int jitter (int most) { return static_cast<int> (random() % static_cast<unsigned> (2 * most + 1)) - most; }
 
-    juce::Point<int> control (int page)
+    /** What a page shows of sliders, buttons and curves. */
+    std::vector<const juce::Component*> controlsOn (int page)
     {
         std::vector<const juce::Component*> controls;
         const std::function<void (const juce::Component&)> collect = [&] (const juce::Component& parent) {
@@ -71,6 +72,23 @@ protected:
             }
         };
         collect (*tabs().getTabContentComponent (page));
+        return controls;
+    }
+
+    std::vector<const juce::Component*> slidersOn (int page)
+    {
+        auto sliders = controlsOn (page);
+        sliders.erase (std::remove_if (sliders.begin(), sliders.end(),
+                                       [] (const juce::Component* control) {
+                                           return dynamic_cast<const juce::Slider*> (control) == nullptr;
+                                       }),
+                       sliders.end());
+        return sliders;
+    }
+
+    juce::Point<int> control (int page)
+    {
+        const auto controls = controlsOn (page);
         const auto& chosen = *controls[random() % controls.size()];
         return stage.at (chosen) + juce::Point<int> (jitter (chosen.getWidth() / 2), jitter (chosen.getHeight() / 3));
     }
@@ -145,12 +163,72 @@ TEST_F (Undo, ADoubleClickIsOneStepAndARunOfTheWheelToo)
     EXPECT_EQ (stateOf (component), clicked);
     component.undo();
     EXPECT_EQ (stateOf (component), start);
+}
 
-    stage.wheel (gain, 0.1f);
-    const auto turned = stateOf (component);
-    stage.doubleClick (gain.translated (30, 0));
-    component.undo();
-    EXPECT_EQ (stateOf (component), turned) << "a run before a double click is no part of it";
+TEST_F (Undo, ARunOfTheWheelIsNoPartOfADoubleClickAfterIt)
+{
+    int doubleClicks = 0;
+    for (int page = 0; page < 2; ++page) {
+        turnTo (page);
+        const auto sliders = slidersOn (page);
+        for (const auto* slider : sliders) {
+            const auto& wheeled = *(slider == sliders[0] ? sliders[1] : sliders[0]);
+            const auto spot = stage.at (*slider, slider->getLocalBounds().getRelativePoint (0.3f, 0.3f));
+            stage.click (spot); // so that the first click of the two changes nothing
+            stage.wheel (stage.at (wheeled), ++doubleClicks % 2 == 0 ? 0.1f : -0.1f);
+            const auto turned = stateOf (component);
+            stage.doubleClick (spot);
+            ASSERT_NE (stateOf (component), turned) << slider->getTitle();
+            component.undo();
+            EXPECT_EQ (stateOf (component), turned) << slider->getTitle();
+        }
+    }
+    EXPECT_EQ (doubleClicks, 19 + 4 * 6);
+}
+
+TEST_F (Undo, TwoClicksOnNeighboursAreTwoStepsHoweverQuick)
+{
+    int neighbours = 0;
+    for (int page = 0; page < 2; ++page) {
+        turnTo (page);
+        for (const auto* first : slidersOn (page))
+            for (const auto* second : slidersOn (page)) {
+                const auto pixelsOf = [&] (const juce::Component* slider) {
+                    return component.getLocalArea (slider, slider->getLocalBounds())
+                        .withTrimmedRight (1)
+                        .withTrimmedBottom (1);
+                };
+                const auto box = pixelsOf (first), other = pixelsOf (second);
+                const auto from = box.getConstrainedPoint (other.getCentre());
+                const auto to = other.getConstrainedPoint (from);
+                if (first == second || from.getDistanceFrom (to) > 7)
+                    continue;
+                stage.click (other.getCentre());
+                stage.click (from);
+                const auto clicked = stateOf (component);
+                stage.clickAgain (to);
+                if (stateOf (component) == clicked)
+                    continue;
+                ++neighbours;
+                component.undo();
+                EXPECT_EQ (stateOf (component), clicked) << first->getTitle() << ", " << second->getTitle();
+            }
+    }
+    EXPECT_GT (neighbours, 20);
+}
+
+TEST_F (Undo, AClickAfterAnUndoJoinsNoOlderStep)
+{
+    const juce::Point<int> spot (180, 241);
+    stage.click (spot.translated (-40, 0));
+    const auto older = stateOf (component);
+    stage.click (spot);
+    stage.key ("ctrl + z");
+    EXPECT_EQ (stateOf (component), older);
+    stage.clickAgain (spot.translated (3, 0));
+    ASSERT_NE (stateOf (component), older);
+    stage.key ("ctrl + z");
+    EXPECT_EQ (stateOf (component), older);
 }
 
 TEST_F (Undo, MessagesAreNoStepsAndBreakNone)
