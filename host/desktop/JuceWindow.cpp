@@ -37,6 +37,7 @@ bool JuceWindow::create (const juce::String& title, juce::Rectangle<int> frame)
 {
     destroy();
     placeWhenHidden = {};
+    createdAt = frame.getPosition();
     shell = makeShell (title);
     shell->setBounds (frame);
     shell->Component::addToDesktop (shell->getDesktopWindowStyleFlags());
@@ -60,23 +61,27 @@ void JuceWindow::bringUp()
     shell->toFront (true);
 }
 
+juce::Rectangle<int> JuceWindow::truePlace() const
+{
+    const auto* peer = shell->getPeer();
+    const auto frame = peer == nullptr ? juce::ComponentPeer::OptionalBorderSize() : peer->getFrameSizeIfPresent();
+    const auto corner = frame ? juce::Point<int> (frame->getLeft(), frame->getTop()) : juce::Point<int>();
+    const auto known = placeWhenHidden.isEmpty() ? createdAt + corner : placeWhenHidden.getPosition();
+    const auto place = shell->getBounds();
+    return place.getPosition() + corner == known ? place.withPosition (known) : place;
+}
+
 void JuceWindow::keepPlace()
 {
-    const auto* peer = shell == nullptr ? nullptr : shell->getPeer();
-    if (peer == nullptr || placeWhenHidden.isEmpty() || ! shell->isVisible())
-        return;
-    const juce::BorderSize<int> frame =
-        peer->getFrameSizeIfPresent() ? *peer->getFrameSizeIfPresent() : juce::BorderSize<int>();
-    const juce::Point<int> corner (frame.getLeft(), frame.getTop());
-    if (! corner.isOrigin() && placeWhenHidden.getPosition() - shell->getPosition() == corner)
-        shell->setTopLeftPosition (placeWhenHidden.getPosition());
+    if (shell != nullptr && shell->isVisible() && ! placeWhenHidden.isEmpty())
+        shell->setTopLeftPosition (truePlace().getPosition());
 }
 
 void JuceWindow::hide()
 {
     isWanted = false;
     if (shell->isVisible())
-        placeWhenHidden = shell->getBounds();
+        placeWhenHidden = truePlace();
     shell->setVisible (false);
 }
 

@@ -45,13 +45,16 @@ protected:
 
 private:
     void bringUp();
-    /** Restores the position of a window shown again, if it has drifted by its frame. */
+    /** Where the content is: JUCE's position, unless that is the frame's. */
+    [[nodiscard]] juce::Rectangle<int> truePlace() const;
+    /** Restores the position of a window shown again. */
     void keepPlace();
 
     std::unique_ptr<Shell> shell;
-    /** A window manager reports the frame's position for a window it has released, and JUCE would take it for the
-        content's: the window would drift by its frame. Empty if never hidden. */
+    /** A window manager may report the frame's position for a window that it has released or not yet decorated, and
+        JUCE takes it for the content's: the window would drift by its frame. Empty if never hidden. */
     juce::Rectangle<int> placeWhenHidden;
+    juce::Point<int> createdAt;
     bool isWanted = false;
 };
 
