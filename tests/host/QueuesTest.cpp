@@ -75,12 +75,19 @@ TEST_P (BenchQueues, DropWhatWaitsForAFreedObject)
     for (const auto* message : { "low 1", "medium 2", "qelem", "delay 5" })
         for (auto* each : { &box, &other })
             each->send (message, Thread::scheduler);
+    static int ran;
+    ran = 0;
+    void (*const count) (void*, t_symbol*, short, t_atom*) = [] (void*, t_symbol*, short, t_atom*) { ++ran; };
+    for (auto* each : { &box, &other })
+        defer_low ((*each)->object, reinterpret_cast<method> (reinterpret_cast<void (*)()> (count)), nullptr, 0,
+                   nullptr);
     box.free();
     other.leftOutlet();
     patch.wait (5);
     EXPECT_EQ (other.leftOutlet().size(), 4u);
     EXPECT_EQ (take (bench::Event::Kind::out, "").size(), 0u);
     EXPECT_EQ (exampleObjectsFreed(), freedBefore + 1);
+    EXPECT_EQ (ran, 1) << "the other's";
 }
 
 TEST_P (BenchQueues, RunAQueueElementOnceHoweverOftenItWasSet)
