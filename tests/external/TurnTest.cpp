@@ -124,12 +124,7 @@ TEST_P (Turn, ABangTellsOnceWhatWaits)
     for (const auto* message : { "gain 3", "roomsize 3000.", "bang" })
         box.send (message);
     settle();
-    auto heard = box.leftOutlet();
-    if (GetParam() == bench::DeferMedium::now)
-        return; // each message is a turn of its own
-    std::sort (heard.begin(), heard.end());
-    EXPECT_EQ (std::adjacent_find (heard.begin(), heard.end()), heard.end());
-    EXPECT_THAT (heard, testing::Contains ("reverb gain 3."));
+    EXPECT_THAT (box.leftOutlet(), testing::Contains ("reverb gain 3.").Times (1));
 }
 
 TEST_P (Turn, APartialMessageBehindTheHandLeavesTheRestAsTheHandSetIt)

@@ -6,27 +6,6 @@
 using lumo::PlaneComponent;
 using testing::ElementsAre;
 
-struct ZoomRow
-{
-    float wanted, stored;
-
-    friend std::ostream& operator<< (std::ostream& out, const ZoomRow& row) { return out << row.wanted; }
-};
-
-class PlaneZoom : public testing::TestWithParam<ZoomRow>
-{};
-
-TEST_P (PlaneZoom, IsClamped)
-{
-    PlaneComponent plane (2, 2, 300);
-    plane.SetZoom (GetParam().wanted, true);
-    EXPECT_FLOAT_EQ (plane.GetSurface().viewTransform.zoom, GetParam().stored);
-}
-
-INSTANTIATE_TEST_SUITE_P (Values, PlaneZoom,
-                          testing::Values (ZoomRow{ 0.05f, 0.11f }, ZoomRow{ 2, 2 }, ZoomRow{ 1000, 100 },
-                                           ZoomRow{ -3, 0.11f }, ZoomRow{ NAN, 1 }, ZoomRow{ INFINITY, 1 }));
-
 TEST (PlaneZoom, TellsWhatBecameOfAZoomBeyondTheLimits)
 {
     PlaneComponent plane (0, 0, 300);
